@@ -1,0 +1,49 @@
+# SPDX-License-Identifier: MIT
+#
+# A thin front door; the build itself is CMake's (see CMakePresets.json).
+
+.DEFAULT_GOAL := build
+.PHONY: deps deps-ci configure build demo test asan tidy format format-check clean
+.NOTPARALLEL:
+
+JOBS ?= $(shell nproc 2>/dev/null || echo 2)
+PROGRAM := build/release/a2l2json
+CXX_FILES = $(shell git ls-files --cached --others --exclude-standard '*.cpp' '*.h' '*.hpp')
+
+deps:
+	@bash scripts/deps build
+
+deps-ci: deps
+	@bash scripts/deps ci
+
+configure: deps
+	cmake --preset release
+
+build: configure
+	cmake --build --preset release -j $(JOBS) --target a2l2json
+
+demo: build
+	$(PROGRAM) examples/demo.a2l > build/demo.json
+	@head -c 400 build/demo.json; echo
+
+test: build
+	cmake --build --preset release -j $(JOBS)
+	ctest --preset release
+
+asan: deps-ci
+	cmake --preset asan-ubsan
+	cmake --build --preset asan-ubsan -j $(JOBS)
+	ctest --preset asan-ubsan
+
+tidy: deps-ci
+	cmake --preset tidy
+	cmake --build --preset tidy -j $(JOBS)
+
+format: deps-ci
+	clang-format -i $(CXX_FILES)
+
+format-check: deps-ci
+	clang-format --dry-run -Werror $(CXX_FILES)
+
+clean:
+	rm -rf build

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include <cstdio>
+#include <iostream>
+#include <string>
+
+#include "export/json_writer.h"
+#include "model/element.h"
+#include "reader/a2l_reader.h"
+
+namespace {
+
+// What the process returns; scripts tell the situations apart by it.
+enum ExitCode { kSuccess = 0, kUsage = -1, kNotRead = -2, kNotWritten = -3 };
+
+int Convert(const std::string& a2lPath, const std::string& jsonPath) {
+  a2l::A2LReader reader;
+  a2l::JsonWriter writer;
+  a2l::VoA2LElement* root = a2l::NewTree();
+  // On failure the process ends at once; the system takes the memory back faster than we could.
+  if (!reader.Parse(a2lPath, root)) {
+    std::cout << "Failed: " << reader.message << std::endl;
+    return kNotRead;
+  }
+  if (!writer.Export(jsonPath, root)) {
+    std::cout << "Failed: "
+              << "Can not write access json file " << jsonPath << std::endl;
+    return kNotWritten;
+  }
+  std::cout << "Success." << std::endl << reader.message << std::endl;
+  a2l::DestroyTree(root);
+  return kSuccess;
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  if (argc != 3) {
+    std::printf("Failed: using %s [in]a2l_file [out]json_file\n", argv[0]);
+    return kUsage;
+  }
+  return Convert(argv[1], argv[2]);
+}

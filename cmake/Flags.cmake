@@ -1,0 +1,67 @@
+# SPDX-License-Identifier: MIT
+#
+# How this project's own code is compiled. Three INTERFACE targets:
+#
+#   a2l2json_flags       language level, warnings and instrumentation; every own target links it
+#   a2l2json_sanitizers  the instrumentation alone, for code that is not ours
+#   a2l2json_fuzzer      the libFuzzer main; empty unless A2L2JSON_FUZZ is on
+
+include_guard(GLOBAL)
+
+option(A2L2JSON_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+option(A2L2JSON_FUZZ "Build for libFuzzer (Clang only); implies the sanitizers" OFF)
+option(A2L2JSON_COVERAGE "Build with coverage counters" OFF)
+
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+if(A2L2JSON_FUZZ AND NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+  message(FATAL_ERROR "A2L2JSON_FUZZ needs Clang; configure with `cmake --preset fuzz`.")
+endif()
+
+# ---------------------------------------------------------------------------------------------
+# Instrumentation
+
+add_library(a2l2json_sanitizers INTERFACE)
+if(A2L2JSON_SANITIZE OR A2L2JSON_FUZZ)
+  set(instrument -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_compile_options(a2l2json_sanitizers INTERFACE ${instrument})
+  target_link_options(a2l2json_sanitizers INTERFACE ${instrument})
+endif()
+
+add_library(a2l2json_fuzzer INTERFACE)
+if(A2L2JSON_FUZZ)
+  target_compile_options(a2l2json_sanitizers INTERFACE -fsanitize=fuzzer-no-link)
+  target_link_options(a2l2json_fuzzer INTERFACE -fsanitize=fuzzer)
+endif()
+
+# ---------------------------------------------------------------------------------------------
+# Own code
+
+add_library(a2l2json_flags INTERFACE)
+target_compile_features(a2l2json_flags INTERFACE cxx_std_20)
+target_link_libraries(a2l2json_flags INTERFACE a2l2json_sanitizers)
+
+if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang" AND NOT CMAKE_CXX_SIMULATE_ID STREQUAL "MSVC")
+  target_compile_options(a2l2json_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+                                                  -Werror)
+  target_compile_definitions(a2l2json_flags INTERFACE $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
+endif()
+
+if(A2L2JSON_COVERAGE)
+  target_compile_options(a2l2json_flags INTERFACE --coverage)
+  target_link_options(a2l2json_flags INTERFACE --coverage)
+endif()
+
+# ---------------------------------------------------------------------------------------------
+# Release is -O3, as CMake has it for these compilers, plus interprocedural optimisation
+
+if(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT DEFINED CMAKE_INTERPROCEDURAL_OPTIMIZATION_RELEASE)
+  include(CheckIPOSupported)
+  check_ipo_supported(RESULT ipo_supported OUTPUT ipo_output LANGUAGES CXX)
+  if(ipo_supported)
+    set(CMAKE_INTERPROCEDURAL_OPTIMIZATION_RELEASE ON)
+  else()
+    message(STATUS "No interprocedural optimisation with this compiler")
+  endif()
+endif()

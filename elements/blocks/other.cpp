@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#include "elements/blocks/other.h"
+
+#include "elements/properties/texts.h"
+
+namespace a2l {
+
+bool VoA2LElementCalibrationHandle::ParseParameters(std::string_view& text) {
+  HANDLE.Clear();
+  for (text = Trim(text); !text.empty(); text = Trim(text)) {
+    const std::string_view token = NextToken(text);
+    if (token.find(KindToKeyword(Kind::CALIBRATION_HANDLE_TEXT)) != std::string_view::npos) {
+      auto* handleText = store->Create<VoA2LElementCalibrationHandleText>(this);
+      handleText->ParseParameters(text);
+      return AddChild(handleText);
+    }
+    const auto [handle, ok] = ReadSigned(token);
+    HANDLE.PushBack(*store, handle);
+    if (!ok)
+      return false;
+  }
+  return true;
+}
+
+bool VoA2LElementTransformer::ParseParameters(std::string_view& text) {
+  NAME = ReadIdentifier(*store, text);
+  VERSION = ReadText(*store, text);
+  EXECUTABLE32 = ReadText(*store, text);
+  EXECUTABLE64 = ReadText(*store, text);
+  if (!ReadUnsigned(NextToken(text)).ok)
+    return false;
+  NextToken(text);  // the trigger
+  NextToken(text);  // the inverse transformer
+  return true;
+}
+
+}  // namespace a2l

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#include "elements/blocks/variant_coding.h"
+
+#include <algorithm>
+#include <ostream>
+
+namespace a2l {
+
+bool VoA2LElementVarForbiddenComb::ParseParameters(std::string_view& text) {
+  for (text = Trim(text); !text.empty(); text = Trim(text)) {
+    CRITERION_NAME.PushBack(*store, ReadIdentifier(*store, text));
+    const std::string_view value = ReadIdentifier(*store, text);
+    if (value.empty())
+      return false;
+    VALUE.PushBack(*store, value);
+  }
+  return true;
+}
+
+void VoA2LElementVarForbiddenComb::WriteOpening(int level, std::ostream& out) const {
+  Block::WriteOpening(level, out);
+  for (std::size_t i = 0; i < std::min(CRITERION_NAME.size(), VALUE.size()); ++i) {
+    const Arguments pair = {std::string(CRITERION_NAME[i]), std::string(VALUE[i])};
+    WriteLine(out, level + 1, Format("{0} {1}", pair));
+  }
+}
+
+}  // namespace a2l

@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: MIT
+#include "elements/numbers.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <system_error>
+
+namespace a2l {
+namespace {
+
+constexpr bool IsSpace(char c) {
+  return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+// The value of a digit in any base up to 16; 16 for what is none.
+constexpr unsigned DigitValue(char c) {
+  if (c >= '0' && c <= '9')
+    return static_cast<unsigned>(c - '0');
+  if (c >= 'a' && c <= 'f')
+    return static_cast<unsigned>(c - 'a' + 10);
+  if (c >= 'A' && c <= 'F')
+    return static_cast<unsigned>(c - 'A' + 10);
+  return 16;
+}
+
+// Takes white space and one sign off the front; true for a minus sign.
+bool TakeSign(std::string_view& token) {
+  while (!token.empty() && IsSpace(token.front()))
+    token.remove_prefix(1);
+  const bool negative = token.starts_with('-');
+  if (negative || token.starts_with('+'))
+    token.remove_prefix(1);
+  return negative;
+}
+
+bool IsHexPrefix(std::string_view token) {
+  return token.size() > 2 && token[0] == '0' && (token[1] == 'x' || token[1] == 'X');
+}
+
+struct Magnitude {
+  std::uint64_t value = 0;
+  bool negative = false;
+  bool overflow = false;
+  bool ok = false;
+};
+
+Magnitude ReadMagnitude(std::string_view token) {
+  Magnitude result;
+  result.negative = TakeSign(token);
+  unsigned base = 10;
+  if (IsHexPrefix(token) && DigitValue(token[2]) < 16) {
+    base = 16;
+    token.remove_prefix(2);
+  } else if (token.starts_with('0')) {
+    base = 8;
+  }
+  for (const char c : token) {
+    const unsigned digit = DigitValue(c);
+    if (digit >= base)
+      break;
+    result.ok = true;
+    if (result.value > (std::numeric_limits<std::uint64_t>::max() - digit) / base) {
+      result.overflow = true;
+    } else {
+      result.value = result.value * base + digit;
+    }
+  }
+  return result;
+}
+
+// True when the digits of a number that no double can hold are too large rather than too small:
+// when its first digit other than 0 stands, with the exponent counted in, before the point.
+bool IsTooLarge(std::string_view digits, bool hexadecimal) {
+  const unsigned base = hexadecimal ? 16 : 10;
+  const std::int64_t weight = hexadecimal ? 4 : 1;
+  std::int64_t position = 0;  // of the first digit that counts, relative to the point
+  bool found = false;
+  bool behindPoint = false;
+  std::size_t i = 0;
+  for (; i < digits.size(); ++i) {
+    const unsigned digit = DigitValue(digits[i]);
+    if (digits[i] == '.' && !behindPoint) {
+      behindPoint = true;
+    } else if (digit >= base) {
+      break;
+    } else {
+      found = found || digit != 0;
+      if (found && !behindPoint)
+        ++position;
+      if (!found && behindPoint)
+        --position;
+    }
+  }
+  std::int64_t exponent = 0;
+  if (i < digits.size()) {
+    digits.remove_prefix(i + 1);
+    const bool negative = TakeSign(digits);
+    for (const char c : digits) {
+      if (DigitValue(c) >= 10)
+        break;
+      exponent = std::min<std::int64_t>(exponent * 10 + DigitValue(c), std::int64_t{1} << 40);
+    }
+    if (negative)
+      exponent = -exponent;
+  }
+  return position * weight + exponent > 0;
+}
+
+}  // namespace
+
+Converted<std::uint32_t> ReadUnsigned(std::string_view token) {
+  const Magnitude number = ReadMagnitude(token);
+  if (number.overflow || number.value > std::numeric_limits<std::uint32_t>::max()) {
+    return {std::numeric_limits<std::uint32_t>::max(), true};
+  }
+  const auto value = static_cast<std::uint32_t>(number.value);
+  return {number.negative ? 0U - value : value, number.ok};
+}
+
+Converted<std::int32_t> ReadSigned(std::string_view token) {
+  const Magnitude number = ReadMagnitude(token);
+  constexpr std::uint64_t kMost = std::numeric_limits<std::int32_t>::max();
+  const std::uint64_t most = number.negative ? kMost + 1 : kMost;
+  const auto value =
+      static_cast<std::int64_t>(number.overflow ? most : std::min(number.value, most));
+  return {static_cast<std::int32_t>(number.negative ? -value : value), number.ok};
+}
+
+Converted<std::uint64_t> ReadUnsigned64(std::string_view token) {
+  const Magnitude number = ReadMagnitude(token);
+  if (number.overflow)
+    return {std::numeric_limits<std::uint64_t>::max(), true};
+  return {number.negative ? 0U - number.value : number.value, number.ok};
+}
+
+Converted<double> ReadReal(std::string_view token) {
+  const bool negative = TakeSign(token);
+  if (token.starts_with('-'))
+    return {0, false};  // a second sign
+  const auto convert = [](std::string_view digits, std::chars_format format) {
+    double value = 0;
+    const auto [end, error] =
+        std::from_chars(digits.data(), digits.data() + digits.size(), value, format);
+    if (error == std::errc::result_out_of_range) {
+      value = IsTooLarge(digits, format == std::chars_format::hex)
+                  ? std::numeric_limits<double>::infinity()
+                  : 0;
+    }
+    return Converted<double>{value, error != std::errc::invalid_argument};
+  };
+  Converted<double> number{0, false};
+  if (IsHexPrefix(token) && token[2] != '-') {
+    // Without a digit behind it, "0x" is the number 0 and a rest.
+    number = convert(token.substr(2), std::chars_format::hex);
+    const bool word = number.ok && !std::isfinite(number.value) && DigitValue(token[2]) == 16;
+    if (!number.ok || word)
+      number = {0, true};
+  } else {
+    number = convert(token, std::chars_format::general);
+  }
+  if (negative)
+    number.value = -number.value;
+  return number;
+}
+
+void AppendShortest(std::string& text, double value) {
+  std::array<char, 32> buffer;
+  const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+  text.append(buffer.data(), end);
+}
+
+std::string ShortestText(double value) {
+  std::string text;
+  AppendShortest(text, value);
+  return text;
+}
+
+}  // namespace a2l

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+//
+// What the objects of the JSON document are made of: one table per object, one row per key, in
+// ascending byte order of the keys, which is their order in the document.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "export/forms.h"
+#include "model/keywords.h"
+
+namespace a2l {
+
+/// Where the value of a row comes from.
+enum class Source : std::uint8_t {
+  Element,     ///< the element itself
+  FirstChild,  ///< its first child of a kind
+  Presence,    ///< whether it has a child of a kind
+  Children,    ///< all its children of a kind, as an array
+  Found,       ///< an element that a function finds
+};
+
+/// What stands in the document where the source has nothing.
+enum class Absent : std::uint8_t {
+  Null,
+  EmptyArray,
+  Omit,  ///< the key is left out
+};
+
+/// One key of an object.
+struct Row {
+  std::string_view key;
+  Source source = Source::Element;
+  Absent absent = Absent::Null;
+  ElementKind kind = KIND_ROOT;
+  /// A second kind that feeds the key; the child that comes first in the file counts.
+  ElementKind otherKind = KIND_ROOT;
+  Form form = {};
+  Form otherForm = {};
+  const VoA2LElement* (*find)(const VoA2LElement&) = nullptr;
+};
+
+/// The table of one object.
+struct ObjectTable {
+  std::span<const Row> rows;
+  /// Per KindIndex, 1 + the row that children of the kind go to; 0 where they go nowhere.
+  std::array<std::uint8_t, kKindIndexCount> rowOfKind{};
+};
+
+constexpr bool IsSortedWithoutDoubles(std::span<const Row> rows) {
+  for (std::size_t i = 1; i < rows.size(); ++i) {
+    if (!(rows[i - 1].key < rows[i].key))
+      return false;
+  }
+  return true;
+}
+
+/// The table with these rows, which must be sorted.
+consteval ObjectTable MakeTable(std::span<const Row> rows) {
+  if (!IsSortedWithoutDoubles(rows))
+    throw "the keys of a table are not in ascending order";
+  ObjectTable table{rows, {}};
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    for (const ElementKind kind : {rows[i].kind, rows[i].otherKind}) {
+      if (kind != KIND_ROOT)
+        table.rowOfKind[KindIndex(kind)] = static_cast<std::uint8_t>(i + 1);
+    }
+  }
+  return table;
+}
+
+/// A parameter of the element.
+constexpr Row Field(std::string_view key, Form form) {
+  return {.key = key, .form = form};
+}
+
+/// Whether there is a child of `kind`.
+constexpr Row Flag(std::string_view key, ElementKind kind) {
+  return {.key = key, .source = Source::Presence, .kind = kind};
+}
+
+/// All children of `kind`, as an array of objects.
+constexpr Row Children(std::string_view key, ElementKind kind, const ObjectTable& table,
+                       Absent absent = Absent::EmptyArray) {
+  return {.key = key, .source = Source::Children, .absent = absent, .kind = kind, .form = &table};
+}
+
+/// An element that `find` looks for; null when it finds none.
+constexpr Row Found(std::string_view key, const VoA2LElement* (*find)(const VoA2LElement&),
+                    Form form) {
+  return {.key = key, .source = Source::Found, .form = form, .find = find};
+}
+
+/// A key that never has a value.
+constexpr Row Never(std::string_view key) {
+  return {.key = key};
+}
+
+}  // namespace a2l

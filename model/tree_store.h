@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <memory_resource>
+#include <new>
+#include <string_view>
+#include <type_traits>
+
+namespace a2l {
+
+class VoA2LElement;
+
+/// The memory of one tree: its elements, their lists and their texts. Everything in it lives
+/// until the store is destroyed and goes at once, without a walk, however deep the tree is: a
+/// conversion makes millions of small objects, and an allocation of its own for each would cost
+/// more time and memory than reading them. Allocation failure gives std::bad_alloc.
+///
+/// Not for use by two threads at a time; two trees are independent of each other.
+class TreeStore {
+ public:
+  TreeStore() = default;
+  TreeStore(const TreeStore&) = delete;
+  TreeStore& operator=(const TreeStore&) = delete;
+
+  /// The root of the tree that owns this store (see NewTree); null for a store of its own.
+  VoA2LElement* root = nullptr;
+
+  /// Makes an element that belongs to this store, with `parent` (may be null) as its parent
+  /// link. It is not yet among the parent's children: that is AddChild's decision.
+  template <class Element>
+  Element* Create(VoA2LElement* parent = nullptr) {
+    static_assert(std::is_trivially_destructible_v<Element>,
+                  "elements are released with their store, their destructors never run");
+    auto* element = new (memory_.allocate(sizeof(Element), alignof(Element))) Element;
+    element->parent = parent;
+    element->store = this;
+    return element;
+  }
+
+  /// Copies `text` into the store.
+  [[nodiscard]] std::string_view Copy(std::string_view text) {
+    if (text.empty())
+      return {};
+    return {static_cast<char*>(std::memcpy(AllocateBytes(text.size()), text.data(), text.size())),
+            text.size()};
+  }
+
+  /// `size` bytes for a text (at least one).
+  [[nodiscard]] char* AllocateBytes(std::size_t size) {
+    return static_cast<char*>(memory_.allocate(size, 1));
+  }
+
+  /// An array of 2^`sizeClass` bytes, aligned for any element of a list.
+  [[nodiscard]] void* AllocateArray(unsigned sizeClass) {
+    if (FreeArray* array = freeArrays_[sizeClass]) {
+      freeArrays_[sizeClass] = array->next;
+      return array;
+    }
+    return memory_.allocate(std::size_t{1} << sizeClass, alignof(std::max_align_t));
+  }
+
+  /// Takes back an array that a list has outgrown; the next list that grows to it uses it again.
+  void RecycleArray(void* array, unsigned sizeClass) {
+    freeArrays_[sizeClass] = new (array) FreeArray{freeArrays_[sizeClass]};
+  }
+
+ private:
+  struct FreeArray {
+    FreeArray* next;
+  };
+
+  std::pmr::monotonic_buffer_resource memory_{std::size_t{64} * 1024};
+  std::array<FreeArray*, 48> freeArrays_{};
+};
+
+/// A list whose items lie in a TreeStore. It owns nothing itself: the store does.
+template <class Item>
+class List {
+  static_assert(std::is_trivially_copyable_v<Item> && std::is_trivially_destructible_v<Item>);
+
+ public:
+  /// Appends `item`; the memory comes from `store`, the same one for every call on one list.
+  void PushBack(TreeStore& store, Item item) {
+    if (size_ == Capacity())
+      Grow(store);
+    items_[size_++] = item;
+  }
+
+  void Clear() { size_ = 0; }
+
+  /// Takes every occurrence of `item` out; the others keep their order.
+  void Remove(const Item& item) {
+    size_ = static_cast<std::uint32_t>(std::remove(begin(), end(), item) - begin());
+  }
+
+  [[nodiscard]] std::size_t size() const { return size_; }
+  [[nodiscard]] bool empty() const { return size_ == 0; }
+  [[nodiscard]] Item& operator[](std::size_t i) { return items_[i]; }
+  [[nodiscard]] const Item& operator[](std::size_t i) const { return items_[i]; }
+  [[nodiscard]] Item* begin() { return items_; }
+  [[nodiscard]] Item* end() { return items_ + size_; }
+  [[nodiscard]] const Item* begin() const { return items_; }
+  [[nodiscard]] const Item* end() const { return items_ + size_; }
+
+ private:
+  static constexpr unsigned kFirstSizeClass = 5;
+
+  [[nodiscard]] std::size_t Capacity() const {
+    return items_ == nullptr ? 0 : (std::size_t{1} << sizeClass_) / sizeof(Item);
+  }
+
+  void Grow(TreeStore& store) {
+    const unsigned sizeClass = items_ == nullptr ? kFirstSizeClass : sizeClass_ + 1U;
+    if (sizeClass >= 40 || size_ == std::numeric_limits<std::uint32_t>::max()) {
+      throw std::bad_alloc();
+    }
+    auto* items = static_cast<Item*>(store.AllocateArray(sizeClass));
+    if (items_ != nullptr) {
+      std::memcpy(items, items_, size_ * sizeof(Item));
+      store.RecycleArray(items_, sizeClass_);
+    }
+    items_ = items;
+    sizeClass_ = static_cast<std::uint8_t>(sizeClass);
+  }
+
+  Item* items_ = nullptr;
+  std::uint32_t size_ = 0;
+  std::uint8_t sizeClass_ = 0;
+};
+
+}  // namespace a2l

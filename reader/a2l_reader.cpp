@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "reader/a2l_reader.h"
+
+#include <fstream>
+
+#include "reader/block_parser.h"
+#include "reader/line_source.h"
+
+namespace a2l {
+
+bool A2LReader::Parse(const std::string& path, VoA2LElement* root) {
+  if (root == nullptr)
+    return false;
+  std::ifstream in(path, std::ios::binary);
+  return in.is_open() && Parse(in, root);
+}
+
+bool A2LReader::Parse(std::istream& in, VoA2LElement* root) {
+  if (root == nullptr)
+    return false;
+  LineSource lines(in);
+  BlockParser parser(lines, *root, [this](const Diagnostic& diagnostic) { Report(diagnostic); });
+  return parser.Run();
+}
+
+void A2LReader::Report(const Diagnostic& diagnostic) {
+  message += diagnostic.Text();
+  diagnostics.push_back(diagnostic);
+}
+
+}  // namespace a2l

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace a2l {
+
+/// Everything that the reader can have to say about a file.
+enum class DiagnosticKind : std::uint8_t {
+  WrongParameters,      ///< parameters of a keyword could not be read
+  NeedMoreParameters,   ///< a keyword ended before all its parameters were there
+  WrongRawContent,      ///< a block whose content is kept as text could not be read
+  UnexpectedElement,    ///< a line begins with an unknown word
+  UnterminatedComment,  ///< the file ends inside a block comment
+  UnexpectedBegin,      ///< /begin before a word that opens no block
+  RefusedElement,       ///< a keyword that may not stand in the open block
+  EndDoesNotMatch,      ///< /end names another block than the open one
+  BeginMissing,         ///< a block's keyword without /begin
+  NoParentAtEnd,        ///< /end outside of everything
+  NoParent,             ///< an element outside of everything
+};
+
+enum class Severity : std::uint8_t {
+  Warning,  ///< the read went on
+  Error,    ///< the read ended there
+};
+
+/// One thing the reader has to say.
+struct Diagnostic {
+  DiagnosticKind kind;
+  /// Number of the physical line, the first being 1.
+  std::size_t line;
+  /// The keyword, word or number that the message names; may be empty.
+  std::string subject;
+
+  [[nodiscard]] Severity GetSeverity() const;
+  /// The message, with its line feed, as users know it.
+  [[nodiscard]] std::string Text() const;
+};
+
+}  // namespace a2l
