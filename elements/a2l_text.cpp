@@ -34,8 +34,7 @@ std::string Format(std::string_view format, std::span<const Argument> arguments)
 }
 
 void WriteLine(std::ostream& out, int level, std::string_view text) {
-  for (int i = 0; i < level; ++i)
-    out << "  ";
+  for (int i = 0; i < level; ++i) out << "  ";
   out << text << std::endl;  // NOLINT(performance-avoid-endl): the flush is promised
 }
 

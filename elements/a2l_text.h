@@ -24,8 +24,7 @@ using Arguments = std::vector<Argument>;
 /// Number of places ("{0}", "{1:d}", ...) in a format string.
 constexpr std::size_t CountPlaces(std::string_view format) {
   std::size_t count = 0;
-  for (const char c : format)
-    count += c == '{' ? 1 : 0;
+  for (const char c : format) count += c == '{' ? 1 : 0;
   return count;
 }
 

@@ -51,8 +51,7 @@ class Lines {
   }
   [[nodiscard]] constexpr std::size_t Places() const {
     std::size_t places = 0;
-    for (const std::string_view format : formats_)
-      places += CountPlaces(format);
+    for (const std::string_view format : formats_) places += CountPlaces(format);
     return places;
   }
 
@@ -80,8 +79,7 @@ class ElementClass : public VoA2LElement {
           } else {
             bool ok = true;
             ((ok = field.Read(self, text) && ok), ...);
-            if (!ok)
-              self.valid = 0;
+            if (!ok) self.valid = 0;
             return ok;
           }
         },
@@ -94,8 +92,7 @@ class ElementClass : public VoA2LElement {
       const auto readRow = [&](const auto&... column) { return (column.Read(self, text) && ...); };
       // The declared count may be any number; the rows that are there end the loop.
       for (std::uint32_t row = 0; row < self.*(Self::rows.count); ++row) {
-        if (!std::apply(readRow, Self::rows.columns))
-          return false;
+        if (!std::apply(readRow, Self::rows.columns)) return false;
       }
       return true;
     }
@@ -177,8 +174,7 @@ class Block : public ElementClass<Class> {
     };
     WriteLine(out, level, "/begin" + fill(Class::lines.Head()));
     for (const std::string_view format : Class::lines.Below()) {
-      if (!format.empty())
-        WriteLine(out, level + 1, fill(format));
+      if (!format.empty()) WriteLine(out, level + 1, fill(format));
     }
     WriteItems(level + 1, out);
     WriteRows(level + 1, out);

@@ -42,8 +42,7 @@ inline std::string_view ReadIdentifier(TreeStore& store, std::string_view& text)
 /// The next token of `text` without its quotes; empty when it is not quoted.
 inline std::string_view ReadText(TreeStore& store, std::string_view& text) {
   const std::string_view token = NextToken(text);
-  if (token.size() < 2 || token.front() != '"')
-    return {};
+  if (token.size() < 2 || token.front() != '"') return {};
   const std::string_view inside = token.substr(1, token.size() - 2);
   if (token.back() == '"' && inside.find_first_of("\"\\") == std::string_view::npos) {
     return store.Copy(inside);
@@ -147,14 +146,12 @@ struct SignedNumbers {
     for (std::int32_t& number : self.*member) {
       const auto [value, ok] = ReadSigned(NextToken(text));
       number = value;
-      if (!ok)
-        return false;
+      if (!ok) return false;
     }
     return true;
   }
   void Append(const Self& self, Arguments& arguments) const {
-    for (const std::int32_t number : self.*member)
-      arguments.emplace_back(number);
+    for (const std::int32_t number : self.*member) arguments.emplace_back(number);
   }
 };
 
@@ -234,10 +231,8 @@ struct NumberList {
     (self.*member).Clear();
     for (text = Trim(text); !text.empty(); text = Trim(text)) {
       const auto [value, ok] = kRead(NextToken(text));
-      if (ok || kBadItem == BadItem::KeepAsZero)
-        (self.*member).PushBack(*self.store, value);
-      if (!ok)
-        return false;
+      if (ok || kBadItem == BadItem::KeepAsZero) (self.*member).PushBack(*self.store, value);
+      if (!ok) return false;
     }
     return true;
   }

@@ -17,22 +17,17 @@ constexpr bool IsSpace(char c) {
 
 // The value of a digit in any base up to 16; 16 for what is none.
 constexpr unsigned DigitValue(char c) {
-  if (c >= '0' && c <= '9')
-    return static_cast<unsigned>(c - '0');
-  if (c >= 'a' && c <= 'f')
-    return static_cast<unsigned>(c - 'a' + 10);
-  if (c >= 'A' && c <= 'F')
-    return static_cast<unsigned>(c - 'A' + 10);
+  if (c >= '0' && c <= '9') return static_cast<unsigned>(c - '0');
+  if (c >= 'a' && c <= 'f') return static_cast<unsigned>(c - 'a' + 10);
+  if (c >= 'A' && c <= 'F') return static_cast<unsigned>(c - 'A' + 10);
   return 16;
 }
 
 // Takes white space and one sign off the front; true for a minus sign.
 bool TakeSign(std::string_view& token) {
-  while (!token.empty() && IsSpace(token.front()))
-    token.remove_prefix(1);
+  while (!token.empty() && IsSpace(token.front())) token.remove_prefix(1);
   const bool negative = token.starts_with('-');
-  if (negative || token.starts_with('+'))
-    token.remove_prefix(1);
+  if (negative || token.starts_with('+')) token.remove_prefix(1);
   return negative;
 }
 
@@ -59,8 +54,7 @@ Magnitude ReadMagnitude(std::string_view token) {
   }
   for (const char c : token) {
     const unsigned digit = DigitValue(c);
-    if (digit >= base)
-      break;
+    if (digit >= base) break;
     result.ok = true;
     if (result.value > (std::numeric_limits<std::uint64_t>::max() - digit) / base) {
       result.overflow = true;
@@ -88,10 +82,8 @@ bool IsTooLarge(std::string_view digits, bool hexadecimal) {
       break;
     } else {
       found = found || digit != 0;
-      if (found && !behindPoint)
-        ++position;
-      if (!found && behindPoint)
-        --position;
+      if (found && !behindPoint) ++position;
+      if (!found && behindPoint) --position;
     }
   }
   std::int64_t exponent = 0;
@@ -99,12 +91,10 @@ bool IsTooLarge(std::string_view digits, bool hexadecimal) {
     digits.remove_prefix(i + 1);
     const bool negative = TakeSign(digits);
     for (const char c : digits) {
-      if (DigitValue(c) >= 10)
-        break;
+      if (DigitValue(c) >= 10) break;
       exponent = std::min<std::int64_t>(exponent * 10 + DigitValue(c), std::int64_t{1} << 40);
     }
-    if (negative)
-      exponent = -exponent;
+    if (negative) exponent = -exponent;
   }
   return position * weight + exponent > 0;
 }
@@ -131,15 +121,13 @@ Converted<std::int32_t> ReadSigned(std::string_view token) {
 
 Converted<std::uint64_t> ReadUnsigned64(std::string_view token) {
   const Magnitude number = ReadMagnitude(token);
-  if (number.overflow)
-    return {std::numeric_limits<std::uint64_t>::max(), true};
+  if (number.overflow) return {std::numeric_limits<std::uint64_t>::max(), true};
   return {number.negative ? 0U - number.value : number.value, number.ok};
 }
 
 Converted<double> ReadReal(std::string_view token) {
   const bool negative = TakeSign(token);
-  if (token.starts_with('-'))
-    return {0, false};  // a second sign
+  if (token.starts_with('-')) return {0, false};  // a second sign
   const auto convert = [](std::string_view digits, std::chars_format format) {
     double value = 0;
     const auto [end, error] =
@@ -156,13 +144,11 @@ Converted<double> ReadReal(std::string_view token) {
     // Without a digit behind it, "0x" is the number 0 and a rest.
     number = convert(token.substr(2), std::chars_format::hex);
     const bool word = number.ok && !std::isfinite(number.value) && DigitValue(token[2]) == 16;
-    if (!number.ok || word)
-      number = {0, true};
+    if (!number.ok || word) number = {0, true};
   } else {
     number = convert(token, std::chars_format::general);
   }
-  if (negative)
-    number.value = -number.value;
+  if (negative) number.value = -number.value;
   return number;
 }
 

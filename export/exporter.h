@@ -4,12 +4,15 @@
 // them to a sink, which knows how JSON is made. A sink has:
 //
 //   BeginObject, EndObject, BeginArray, EndArray
-//   Key(text)      before each value of an object
+//   Key(key)       before each value of an object
+//   NullMember(key)  a member without a value
 //   Item()         before each value of an array
 //   Null, Bool, Integer, Real, String    the values
 #pragma once
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -40,6 +43,17 @@ struct DocumentParts {
   explicit DocumentParts(const VoA2LElement& root);
 };
 
+/// A key as an argument of a template.
+struct KeyLiteral {
+  std::array<char, KeyText::kBytes> bytes{};
+  template <std::size_t kSize>
+  consteval KeyLiteral(const char (&text)[kSize]) {  // NOLINT(google-explicit-constructor)
+    std::copy_n(text, kSize, bytes.begin());
+  }
+};
+template <KeyLiteral kLiteral>
+inline constexpr KeyText kKey{std::string_view(kLiteral.bytes.data())};
+
 template <class Sink>
 class Exporter {
  public:
@@ -48,38 +62,36 @@ class Exporter {
   /// The whole document.
   void Document(const VoA2LElement& root) {
     const DocumentParts parts(root);
-    sink_.BeginObject();
-    Pair("FA2ML_VERSION_UPGRADE_NO", parts.a2mlVersion, &VoA2LElementA2MLVersion::UPGRADE_NO);
-    Pair("FA2ML_VERSION_VERSION_NO", parts.a2mlVersion, &VoA2LElementA2MLVersion::VERSION_NO);
-    Pair("FASAP2_VERSION_UPGRADE_NO", parts.asap2Version, &VoA2LElementASAP2Version::UPGRADE_NO);
-    Pair("FASAP2_VERSION_VERSION_NO", parts.asap2Version, &VoA2LElementASAP2Version::VERSION_NO);
-    sink_.Key("FBaseA2LName");  // reserved
-    sink_.Null();
     const auto* firstModule = parts.modules.empty() ? nullptr : parts.modules.front();
-    Pair("FDatabaseName", firstModule, &VoA2LElementModule::NAME);
-    sink_.Key("FModules");
+    sink_.BeginObject();
+    Member<"FA2ML_VERSION_UPGRADE_NO">(parts.a2mlVersion, &VoA2LElementA2MLVersion::UPGRADE_NO);
+    Member<"FA2ML_VERSION_VERSION_NO">(parts.a2mlVersion, &VoA2LElementA2MLVersion::VERSION_NO);
+    Member<"FASAP2_VERSION_UPGRADE_NO">(parts.asap2Version, &VoA2LElementASAP2Version::UPGRADE_NO);
+    Member<"FASAP2_VERSION_VERSION_NO">(parts.asap2Version, &VoA2LElementASAP2Version::VERSION_NO);
+    sink_.NullMember(kKey<"FBaseA2LName">);  // reserved
+    Member<"FDatabaseName">(firstModule, &VoA2LElementModule::NAME);
+    sink_.Key(kKey<"FModules">);
     sink_.BeginArray();
     for (const VoA2LElementModule* module : parts.modules) {
       sink_.Item();
       Object(ModuleTable(), *module);
     }
     sink_.EndArray();
-    Pair("FProject_HEADER_COMMENT", parts.header, &VoA2LElementHeader::COMMENT);
-    Pair("FProject_HEADER_PROJECT_NO", parts.headerProjectNo, &VoA2LElementProjectNo::PROJECT_NO);
-    Pair("FProject_HEADER_VERSION", parts.headerVersion, &VoA2LElementVersion::VERSION);
-    Pair("FProject_LONG_IDENTIFIER", parts.project, &VoA2LElementProject::LONG_IDENTIFIER);
-    Pair("FProject_Name", parts.project, &VoA2LElementProject::NAME);
+    Member<"FProject_HEADER_COMMENT">(parts.header, &VoA2LElementHeader::COMMENT);
+    Member<"FProject_HEADER_PROJECT_NO">(parts.headerProjectNo, &VoA2LElementProjectNo::PROJECT_NO);
+    Member<"FProject_HEADER_VERSION">(parts.headerVersion, &VoA2LElementVersion::VERSION);
+    Member<"FProject_LONG_IDENTIFIER">(parts.project, &VoA2LElementProject::LONG_IDENTIFIER);
+    Member<"FProject_Name">(parts.project, &VoA2LElementProject::NAME);
     sink_.EndObject();
   }
 
  private:
   // A key with a field of an element, null without the element.
-  template <class Element, class Field>
-  void Pair(std::string_view key, const Element* element, Field Element::*field) {
-    sink_.Key(key);
-    if (element == nullptr) {
-      sink_.Null();
-    } else if constexpr (std::is_same_v<Field, std::string_view>) {
+  template <KeyLiteral kLiteral, class Element, class Field>
+  void Member(const Element* element, Field Element::*field) {
+    if (element == nullptr) return sink_.NullMember(kKey<kLiteral>);
+    sink_.Key(kKey<kLiteral>);
+    if constexpr (std::is_same_v<Field, std::string_view>) {
       sink_.String(element->*field);
     } else {
       sink_.Integer(static_cast<std::int32_t>(element->*field));
@@ -90,7 +102,7 @@ class Exporter {
     const Places places(places_, table, element);
     sink_.BeginObject();
     for (std::size_t i = 0; i < table.rows.size(); ++i) {
-      WriteRow(table.rows[i], element, places, i);
+      WriteRow(table.rows[i], table.keys[i], element, places.First(i), places);
     }
     sink_.EndObject();
   }
@@ -111,8 +123,7 @@ class Exporter {
                 stack.begin() + static_cast<std::ptrdiff_t>(next_), 0U);
       for (std::size_t i = children.size(); i-- > 0;) {
         const std::uint8_t row = table.rowOfKind[KindIndex(children[i]->kind)];
-        if (row == 0)
-          continue;
+        if (row == 0) continue;
         std::uint32_t& first = stack[first_ + row - 1];
         stack[next_ + i] = first;
         first = static_cast<std::uint32_t>(i + 1);
@@ -138,63 +149,55 @@ class Exporter {
     const VoA2LElement& element_;
   };
 
-  void WriteRow(const Row& row, const VoA2LElement& element, const Places& places,
-                std::size_t index) {
+  void WriteRow(const Row& row, const KeyText& key, const VoA2LElement& element,
+                std::uint32_t first, const Places& places) {
     switch (row.source) {
       case Source::Element:
-        sink_.Key(row.key);
+        sink_.Key(key);
         WriteValue(row.form, element);
         return;
       case Source::Presence:
-        sink_.Key(row.key);
-        sink_.Bool(places.First(index) != 0);
+        sink_.Key(key);
+        sink_.Bool(first != 0);
         return;
       case Source::FirstChild:
-        if (const std::uint32_t first = places.First(index); first != 0) {
-          const VoA2LElement& child = places.Child(first);
-          sink_.Key(row.key);
-          WriteValue(child.kind == row.kind ? row.form : row.otherForm, child);
-        } else {
-          WriteAbsent(row);
-        }
+        if (first == 0) return WriteAbsent(row, key);
+        sink_.Key(key);
+        WriteValue(places.Child(first).kind == row.kind ? row.form : row.otherForm,
+                   places.Child(first));
         return;
       case Source::Children:
-        WriteChildren(row, places, index);
+        if (first == 0) return WriteAbsent(row, key);
+        sink_.Key(key);
+        sink_.BeginArray();
+        for (std::uint32_t position = first; position != 0; position = places.Next(position)) {
+          sink_.Item();
+          WriteValue(row.form, places.Child(position));
+        }
+        sink_.EndArray();
         return;
       case Source::Found:
-        if (const VoA2LElement* found = row.find(element); found != nullptr) {
-          sink_.Key(row.key);
-          WriteValue(row.form, *found);
-        } else {
-          WriteAbsent(row);
-        }
+        const VoA2LElement* found = row.find(element);
+        if (found == nullptr) return WriteAbsent(row, key);
+        sink_.Key(key);
+        WriteValue(row.form, *found);
         return;
     }
   }
 
-  void WriteAbsent(const Row& row) {
-    if (row.absent == Absent::Omit)
-      return;
-    sink_.Key(row.key);
-    if (row.absent == Absent::Null) {
-      sink_.Null();
-    } else {
-      sink_.BeginArray();
-      sink_.EndArray();
+  void WriteAbsent(const Row& row, const KeyText& key) {
+    switch (row.absent) {
+      case Absent::Null:
+        sink_.NullMember(key);
+        return;
+      case Absent::EmptyArray:
+        sink_.Key(key);
+        sink_.BeginArray();
+        sink_.EndArray();
+        return;
+      case Absent::Omit:
+        return;
     }
-  }
-
-  void WriteChildren(const Row& row, const Places& places, std::size_t index) {
-    std::uint32_t position = places.First(index);
-    if (position == 0)
-      return WriteAbsent(row);
-    sink_.Key(row.key);
-    sink_.BeginArray();
-    for (; position != 0; position = places.Next(position)) {
-      sink_.Item();
-      WriteValue(row.form, places.Child(position));
-    }
-    sink_.EndArray();
   }
 
   void WriteValue(const Form& form, const VoA2LElement& element) {
@@ -244,14 +247,12 @@ class Exporter {
   void Write(NamedValuesForm take, const VoA2LElement& element) {
     const NamedValues pairs = take(element);
     std::vector<std::size_t> order(std::min(pairs.names.size(), pairs.values.size()));
-    for (std::size_t i = 0; i < order.size(); ++i)
-      order[i] = i;
+    for (std::size_t i = 0; i < order.size(); ++i) order[i] = i;
     std::ranges::stable_sort(order, {}, [&](std::size_t i) { return pairs.names[i]; });
     sink_.BeginObject();
     for (std::size_t i = 0; i < order.size(); ++i) {
       const std::string_view name = pairs.names[order[i]];
-      if (i > 0 && name == pairs.names[order[i - 1]])
-        continue;
+      if (i > 0 && name == pairs.names[order[i - 1]]) continue;
       text_.assign("F").append(name);
       sink_.Key(text_);
       sink_.String(pairs.values[order[i]]);

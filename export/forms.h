@@ -148,8 +148,7 @@ template <class Items>
 void AppendJoined(std::string& text, const Items& items) {
   bool first = true;
   for (const auto& item : items) {
-    if (!first)
-      text += ',';
+    if (!first) text += ',';
     first = false;
     AppendItem(text, item);
   }

@@ -21,9 +21,14 @@ class Json11Builder {
   void EndObject() { Close(Json(std::move(open_.back().object))); }
   void EndArray() { Close(Json(std::move(open_.back().array))); }
 
+  void Key(const KeyText& key) { Key(key.Key()); }
   void Key(std::string_view key) {
     open_.back().key = key;
     open_.back().inArray = false;
+  }
+  void NullMember(const KeyText& key) {
+    Key(key);
+    Null();
   }
   void Item() { open_.back().inArray = true; }
 

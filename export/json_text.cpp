@@ -14,14 +14,16 @@ namespace {
 constexpr std::size_t kMostNumberBytes = 32;
 constexpr std::size_t kMostEscapeBytes = 6;
 
+// Texts are escaped in pieces that surely fit the buffer.
+constexpr std::size_t kPieceSize = 1024;
+
 // The escapes of one byte; a letter stands for a backslash and that letter.
 constexpr char kPlain = 0;
-constexpr char kCode = 1;       // \u and four digits
-constexpr char kSeparator = 2;  // may begin U+2028 or U+2029
+constexpr char kCode = 1;           // \u and four digits
+constexpr char kLineSeparator = 2;  // may begin U+2028 or U+2029
 constexpr auto kEscapes = [] {
   std::array<char, 256> escapes{};
-  for (std::size_t c = 0; c < 0x20; ++c)
-    escapes[c] = kCode;
+  for (std::size_t c = 0; c < 0x20; ++c) escapes[c] = kCode;
   for (const auto& [byte, letter] : {std::pair{'"', '"'},
                                      {'\\', '\\'},
                                      {'\b', 'b'},
@@ -31,7 +33,7 @@ constexpr auto kEscapes = [] {
                                      {'\t', 't'}}) {
     escapes[static_cast<unsigned char>(byte)] = letter;
   }
-  escapes[0xE2] = kSeparator;
+  escapes[0xE2] = kLineSeparator;
   return escapes;
 }();
 
@@ -39,15 +41,14 @@ char EscapeOf(char c) {
   return kEscapes[static_cast<unsigned char>(c)];
 }
 
-bool IsSeparator(std::string_view text) {
+bool IsLineSeparator(std::string_view text) {
   return text.starts_with("\xE2\x80\xA8") || text.starts_with("\xE2\x80\xA9");
 }
 
 }  // namespace
 
 void JsonText::Flush() {
-  if (used_ > 0)
-    output_({buffer_.get(), used_});
+  if (used_ > 0) output_({buffer_.get(), used_});
   used_ = 0;
 }
 
@@ -63,21 +64,8 @@ void JsonText::Put(std::string_view text) {
   used_ += text.size();
 }
 
-void JsonText::Open(char bracket) {
-  Reserve(1);
-  buffer_[used_++] = bracket;
-  first_ = true;
-}
-
-void JsonText::Close(char bracket) {
-  Reserve(1);
-  buffer_[used_++] = bracket;
-  first_ = false;
-}
-
 void JsonText::Item() {
-  if (!first_)
-    Put(", ");
+  if (!first_) Put(kSeparator);
   first_ = false;
 }
 
@@ -95,50 +83,56 @@ void JsonText::Integer(std::int32_t value) {
 }
 
 void JsonText::Real(double value) {
-  if (!std::isfinite(value))
-    return Null();
+  if (!std::isfinite(value)) return Null();
   Reserve(kMostNumberBytes);
   char* const begin = buffer_.get() + used_;
   char* const end = begin + kMostNumberBytes;
-  used_ += static_cast<std::size_t>(
-      std::to_chars(begin, end, value, std::chars_format::general, 17).ptr - begin);
+  // Most reals in a file are whole numbers, whose 17 significant digits are their decimal ones.
+  constexpr double kMostWhole = 1e15;
+  const auto whole = static_cast<std::int64_t>(std::abs(value) < kMostWhole ? value : 0.5);
+  const auto result = static_cast<double>(whole) == value && !(whole == 0 && std::signbit(value))
+                          ? std::to_chars(begin, end, whole)
+                          : std::to_chars(begin, end, value, std::chars_format::general, 17);
+  used_ += static_cast<std::size_t>(result.ptr - begin);
 }
 
 void JsonText::String(std::string_view text) {
-  Put("\"");
-  while (!text.empty()) {
-    const auto special = std::ranges::find_if(text, [](char c) { return EscapeOf(c) != kPlain; });
-    const auto plain = static_cast<std::size_t>(special - text.begin());
-    Put(text.substr(0, plain));
-    text.remove_prefix(plain);
-    if (text.empty())
-      break;
+  PutByte('"');
+  while (text.size() > kPieceSize) {
+    // A line separator must not fall between two pieces.
+    std::size_t size = kPieceSize;
+    while (EscapeOf(text[size - 1]) == kLineSeparator || EscapeOf(text[size - 2]) == kLineSeparator)
+      --size;
+    PutEscaped(text.substr(0, size));
+    text.remove_prefix(size);
+  }
+  PutEscaped(text);
+  PutByte('"');
+}
 
-    Reserve(kMostEscapeBytes);
-    char* out = buffer_.get() + used_;
-    const char escape = EscapeOf(text.front());
-    std::size_t taken = 1;
-    if (escape == kSeparator && !IsSeparator(text)) {
-      *out++ = text.front();
-    } else if (escape == kSeparator || escape == kCode) {
-      constexpr std::string_view kDigits = "0123456789abcdef";
-      unsigned code = static_cast<unsigned char>(text.front());
-      if (escape == kSeparator) {
-        code = text[2] == '\xA8' ? 0x2028 : 0x2029;
-        taken = 3;
+void JsonText::PutEscaped(std::string_view text) {
+  Reserve(text.size() * kMostEscapeBytes);
+  char* out = buffer_.get() + used_;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char escape = EscapeOf(text[i]);
+    if (escape == kPlain || (escape == kLineSeparator && !IsLineSeparator(text.substr(i)))) {
+      *out++ = text[i];
+    } else if (escape == kCode || escape == kLineSeparator) {
+      unsigned code = static_cast<unsigned char>(text[i]);
+      if (escape == kLineSeparator) {
+        code = text[i + 2] == '\xA8' ? 0x2028 : 0x2029;
+        i += 2;
       }
+      constexpr std::string_view kDigits = "0123456789abcdef";
       *out++ = '\\';
       *out++ = 'u';
-      for (int shift = 12; shift >= 0; shift -= 4)
-        *out++ = kDigits[(code >> shift) & 0xFU];
+      for (int shift = 12; shift >= 0; shift -= 4) *out++ = kDigits[(code >> shift) & 0xFU];
     } else {
       *out++ = '\\';
       *out++ = escape;
     }
-    used_ = static_cast<std::size_t>(out - buffer_.get());
-    text.remove_prefix(taken);
   }
-  Put("\"");
+  used_ = static_cast<std::size_t>(out - buffer_.get());
 }
 
 }  // namespace a2l

@@ -3,10 +3,13 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <functional>
 #include <memory>
 #include <string_view>
 #include <utility>
+
+#include "export/object_table.h"
 
 namespace a2l {
 
@@ -27,7 +30,9 @@ class JsonText {
   void BeginArray() { Open('['); }
   void EndArray() { Close(']'); }
 
+  void Key(const KeyText& key) { PutKey(key, key.Size()); }
   void Key(std::string_view key);
+  void NullMember(const KeyText& key) { PutKey(key, key.SizeWithNull()); }
   void Item();
 
   void Null() { Put("null"); }
@@ -41,13 +46,32 @@ class JsonText {
 
  private:
   static constexpr std::size_t kBufferSize = std::size_t{64} * 1024;
+  static constexpr std::string_view kSeparator = ", ";
 
-  void Open(char bracket);
-  void Close(char bracket);
+  void Open(char bracket) {
+    PutByte(bracket);
+    first_ = true;
+  }
+  void Close(char bracket) {
+    PutByte(bracket);
+    first_ = false;
+  }
+  // The first member of an object goes without the separator that its text begins with.
+  void PutKey(const KeyText& key, std::size_t size) {
+    Reserve(KeyText::kBytes);
+    const std::size_t skipped = first_ ? kSeparator.size() : 0;
+    std::memcpy(buffer_.get() + used_, key.Bytes() + skipped, KeyText::kBytes - kSeparator.size());
+    used_ += size - skipped;
+    first_ = false;
+  }
+  void PutByte(char c) {
+    Reserve(1);
+    buffer_[used_++] = c;
+  }
   void Put(std::string_view text);
+  void PutEscaped(std::string_view text);
   void Reserve(std::size_t size) {
-    if (kBufferSize - used_ < size)
-      Flush();
+    if (kBufferSize - used_ < size) Flush();
   }
 
   Output output_;

@@ -18,11 +18,9 @@ void Write(const VoA2LElement& root, JsonText::Output output) {
 }  // namespace
 
 bool JsonWriter::Export(const std::string& path, const VoA2LElement* root) {
-  if (root == nullptr || root->kind != KIND_ROOT)
-    return false;
+  if (root == nullptr || root->kind != KIND_ROOT) return false;
   out_.open(path, std::ios::binary | std::ios::trunc);
-  if (!out_.is_open())
-    return false;
+  if (!out_.is_open()) return false;
   WriteJson(*root, out_);
   out_.close();
   return true;

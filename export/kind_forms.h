@@ -26,39 +26,39 @@ inline constexpr Row kExtendedLimitsRows[] = {
     Field("FLOWER_LIMIT", Value<&VoA2LElementExtendedLimits::LOWER_LIMIT>()),
     Field("FUPPER_LIMIT", Value<&VoA2LElementExtendedLimits::UPPER_LIMIT>()),
 };
-inline constexpr ObjectTable kExtendedLimits = MakeTable(kExtendedLimitsRows);
+inline constexpr ObjectTable kExtendedLimits = MakeTable<kExtendedLimitsRows>();
 
 inline constexpr Row kLimitsRows[] = {
     Field("FLOWER_LIMIT", Value<&VoA2LElementLimits::LOWER_LIMIT>()),
     Field("FUPPER_LIMIT", Value<&VoA2LElementLimits::UPPER_LIMIT>()),
 };
-inline constexpr ObjectTable kLimits = MakeTable(kLimitsRows);
+inline constexpr ObjectTable kLimits = MakeTable<kLimitsRows>();
 
 inline constexpr Row kMaxRefreshRows[] = {
     Field("FRATE", Value<&VoA2LElementMaxRefresh::RATE>()),
     Field("FSCALING_UNIT", Value<&VoA2LElementMaxRefresh::SCALING_UNIT>()),
 };
-inline constexpr ObjectTable kMaxRefresh = MakeTable(kMaxRefreshRows);
+inline constexpr ObjectTable kMaxRefresh = MakeTable<kMaxRefreshRows>();
 
 inline constexpr Row kSymbolLinkRows[] = {
     Field("FOFFSET", Value<&VoA2LElementSymbolLink::OFFSET>()),
     Field("FSYMBOL_NAME", Value<&VoA2LElementSymbolLink::SYMBOL_NAME>()),
 };
-inline constexpr ObjectTable kSymbolLink = MakeTable(kSymbolLinkRows);
+inline constexpr ObjectTable kSymbolLink = MakeTable<kSymbolLinkRows>();
 
 inline constexpr Row kFixAxisParRows[] = {
     Field("FNUMBERAPO", Value<&VoA2LElementFixAxisPar::NUMBERAPO>()),
     Field("FOFFSET", Value<&VoA2LElementFixAxisPar::OFFSET>()),
     Field("FSHIFT", Value<&VoA2LElementFixAxisPar::SHIFT>()),
 };
-inline constexpr ObjectTable kFixAxisPar = MakeTable(kFixAxisParRows);
+inline constexpr ObjectTable kFixAxisPar = MakeTable<kFixAxisParRows>();
 
 inline constexpr Row kFixAxisParDistRows[] = {
     Field("FDISTANCE", Value<&VoA2LElementFixAxisParDist::DISTANCE>()),
     Field("FNUMBERAPO", Value<&VoA2LElementFixAxisParDist::NUMBERAPO>()),
     Field("FOFFSET", Value<&VoA2LElementFixAxisParDist::OFFSET>()),
 };
-inline constexpr ObjectTable kFixAxisParDist = MakeTable(kFixAxisParDistRows);
+inline constexpr ObjectTable kFixAxisParDist = MakeTable<kFixAxisParDistRows>();
 
 inline constexpr Row kSIExponentsRows[] = {
     Field("FAMOUNT_OF_SUBSTANCE", Value<&VoA2LElementSIExponents::AMOUNT_OF_SUBSTANCE>()),
@@ -69,26 +69,26 @@ inline constexpr Row kSIExponentsRows[] = {
     Field("FTEMPERATURE", Value<&VoA2LElementSIExponents::TEMPERATURE>()),
     Field("FTIME", Value<&VoA2LElementSIExponents::TIME>()),
 };
-inline constexpr ObjectTable kSIExponents = MakeTable(kSIExponentsRows);
+inline constexpr ObjectTable kSIExponents = MakeTable<kSIExponentsRows>();
 
 inline constexpr Row kUnitConversionRows[] = {
     Field("FGRADIENT", Value<&VoA2LElementUnitConversion::GRADIENT>()),
     Field("FOFFSET", Value<&VoA2LElementUnitConversion::OFFSET>()),
 };
-inline constexpr ObjectTable kUnitConversion = MakeTable(kUnitConversionRows);
+inline constexpr ObjectTable kUnitConversion = MakeTable<kUnitConversionRows>();
 
 // The characteristics that a dependent one refers to are an array, those of a virtual one a text.
 inline constexpr Row kDependentCharacteristicRows[] = {
     Field("FCHARACTERISTIC", Value<&VoA2LElementDependentCharacteristic::CHARACTERISTIC>()),
     Field("FFORMULA", Value<&VoA2LElementDependentCharacteristic::FORMULA>()),
 };
-inline constexpr ObjectTable kDependentCharacteristic = MakeTable(kDependentCharacteristicRows);
+inline constexpr ObjectTable kDependentCharacteristic = MakeTable<kDependentCharacteristicRows>();
 
 inline constexpr Row kVirtualCharacteristicRows[] = {
     Field("FCHARACTERISTIC", Joined<&VoA2LElementVirtualCharacteristic::CHARACTERISTIC>()),
     Field("FFORMULA", Value<&VoA2LElementVirtualCharacteristic::FORMULA>()),
 };
-inline constexpr ObjectTable kVirtualCharacteristic = MakeTable(kVirtualCharacteristicRows);
+inline constexpr ObjectTable kVirtualCharacteristic = MakeTable<kVirtualCharacteristicRows>();
 
 inline constexpr Row kAxisPtsEntryRows[] = {
     Field("FADDRESSING", WordOf<&VoA2LElementAxisPtsX::ADDRESSING, words::kAddrType>()),
@@ -96,7 +96,7 @@ inline constexpr Row kAxisPtsEntryRows[] = {
     Field("FINDEX_INCR", WordOf<&VoA2LElementAxisPtsX::INDEX_INCR, words::kIndexOrder>()),
     Field("FPOSITION", Value<&VoA2LElementAxisPtsX::POSITION>()),
 };
-inline constexpr ObjectTable kAxisPtsEntry = MakeTable(kAxisPtsEntryRows);
+inline constexpr ObjectTable kAxisPtsEntry = MakeTable<kAxisPtsEntryRows>();
 
 inline constexpr Row kAxisRescaleEntryRows[] = {
     Field("FADDRESSING", WordOf<&VoA2LElementAxisRescaleX::ADDRESSING, words::kAddrType>()),
@@ -106,12 +106,12 @@ inline constexpr Row kAxisRescaleEntryRows[] = {
           Value<&VoA2LElementAxisRescaleX::MAX_NUMBER_OF_RESCALE_PAIRS>()),
     Field("FPOSITION", Value<&VoA2LElementAxisRescaleX::POSITION>()),
 };
-inline constexpr ObjectTable kAxisRescaleEntry = MakeTable(kAxisRescaleEntryRows);
+inline constexpr ObjectTable kAxisRescaleEntry = MakeTable<kAxisRescaleEntryRows>();
 
 inline constexpr Row kFixNoAxisPtsEntryRows[] = {
     Field("FNUMBER_OF_AXIS_POINTS", Value<&VoA2LElementFixNoAxisPtsX::NUMBER_OF_AXIS_POINTS>()),
 };
-inline constexpr ObjectTable kFixNoAxisPtsEntry = MakeTable(kFixNoAxisPtsEntryRows);
+inline constexpr ObjectTable kFixNoAxisPtsEntry = MakeTable<kFixNoAxisPtsEntryRows>();
 
 inline constexpr Row kFncValuesRows[] = {
     Field("FADDRESS_TYPE", WordOf<&VoA2LElementFncValues::ADDRESSING, words::kAddrType>()),
@@ -119,7 +119,7 @@ inline constexpr Row kFncValuesRows[] = {
     Field("FINDEX_MODE", WordOf<&VoA2LElementFncValues::INDEX_MODE, words::kIndexMode>()),
     Field("FPOSITION", Value<&VoA2LElementFncValues::POSITION>()),
 };
-inline constexpr ObjectTable kFncValues = MakeTable(kFncValuesRows);
+inline constexpr ObjectTable kFncValues = MakeTable<kFncValuesRows>();
 
 // The entries that are a position and a data type.
 template <class Class>
@@ -128,7 +128,7 @@ inline constexpr Row kPositionRows[] = {
     Field("FPOSITION", Value<&Class::POSITION>()),
 };
 template <class Class>
-inline constexpr ObjectTable kPosition = MakeTable(kPositionRows<Class>);
+inline constexpr ObjectTable kPosition = MakeTable<kPositionRows<Class>>();
 
 }  // namespace tables
 
@@ -299,8 +299,7 @@ inline constexpr KindForm kKindForms[] = {
 /// The form of the elements of `kind`, which must be in the list above.
 constexpr Form FormOf(ElementKind kind) {
   for (const KindForm& row : kKindForms) {
-    if (row.kind == kind)
-      return row.form;
+    if (row.kind == kind) return row.form;
   }
   throw "a kind without a JSON form";  // not a constant expression: the build ends here
 }

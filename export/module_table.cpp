@@ -37,20 +37,20 @@ constexpr Row kAnnotationRows[] = {
      .kind = Kind::ANNOTATION_TEXT,
      .form = kAnnotationText},
 };
-constexpr ObjectTable kAnnotation = MakeTable(kAnnotationRows);
+constexpr ObjectTable kAnnotation = MakeTable<kAnnotationRows>();
 
 constexpr Row kIfDataRows[] = {
     Field("FIF_DATA", Value<&VoA2LElementIfData::IF_DATA>()),
     Field("FNAME", Value<&VoA2LElementIfData::NAME>()),
 };
-constexpr ObjectTable kIfData = MakeTable(kIfDataRows);
+constexpr ObjectTable kIfData = MakeTable<kIfDataRows>();
 
 constexpr Row kBitOperationRows[] = {
     Child("FLEFT_SHIFT", Kind::LEFT_SHIFT),
     Child("FRIGHT_SHIFT", Kind::RIGHT_SHIFT),
     Child("FSIGN_EXTEND", Kind::SIGN_EXTEND),
 };
-constexpr ObjectTable kBitOperation = MakeTable(kBitOperationRows);
+constexpr ObjectTable kBitOperation = MakeTable<kBitOperationRows>();
 
 // Resolution and accuracy are not those of the file: applications have always been given 1 and 0.
 constexpr Row kMeasurementRows[] = {
@@ -87,7 +87,7 @@ constexpr Row kMeasurementRows[] = {
     Field("FUPPER_LIMIT", Value<&VoA2LElementMeasurement::UPPER_LIMIT>()),
     Child("FVIRTUAL", Kind::VIRTUAL),
 };
-constexpr ObjectTable kMeasurement = MakeTable(kMeasurementRows);
+constexpr ObjectTable kMeasurement = MakeTable<kMeasurementRows>();
 
 constexpr Row kTypedefMeasurementRows[] = {
     Field("FACCURACY", Value<&VoA2LElementTypedefMeasurement::ACCURACY>()),
@@ -109,7 +109,7 @@ constexpr Row kTypedefMeasurementRows[] = {
     Field("FRESOLUTION", Value<&VoA2LElementTypedefMeasurement::RESOLUTION>()),
     Field("FUPPER_LIMIT", Value<&VoA2LElementTypedefMeasurement::UPPER_LIMIT>()),
 };
-constexpr ObjectTable kTypedefMeasurement = MakeTable(kTypedefMeasurementRows);
+constexpr ObjectTable kTypedefMeasurement = MakeTable<kTypedefMeasurementRows>();
 
 constexpr Row kAxisDescrRows[] = {
     Children("FANNOTATION", Kind::ANNOTATION, kAnnotation),
@@ -134,7 +134,7 @@ constexpr Row kAxisDescrRows[] = {
     Child("FSTEP_SIZE", Kind::STEP_SIZE),
     Field("FUPPER_LIMIT", Value<&VoA2LElementAxisDescr::UPPER_LIMIT>()),
 };
-constexpr ObjectTable kAxisDescr = MakeTable(kAxisDescrRows);
+constexpr ObjectTable kAxisDescr = MakeTable<kAxisDescrRows>();
 
 // ENCODING is not supported by the reader, so its key never has a value.
 constexpr Row kCharacteristicRows[] = {
@@ -177,7 +177,7 @@ constexpr Row kCharacteristicRows[] = {
     Field("FUPPER_LIMIT", Value<&VoA2LElementCharacteristic::UPPER_LIMIT>()),
     Child("FVIRTUAL_CHARACTERISTIC", Kind::VIRTUAL_CHARACTERISTIC),
 };
-constexpr ObjectTable kCharacteristic = MakeTable(kCharacteristicRows);
+constexpr ObjectTable kCharacteristic = MakeTable<kCharacteristicRows>();
 
 // "FDEPOSIT" is the record layout; the property DEPOSIT, of the same name, does not appear.
 constexpr Row kAxisPtsRows[] = {
@@ -211,7 +211,7 @@ constexpr Row kAxisPtsRows[] = {
     Child("FSYMBOL_LINK", Kind::SYMBOL_LINK),
     Field("FUPPER_LIMIT", Value<&VoA2LElementAxisPts::UPPER_LIMIT>()),
 };
-constexpr ObjectTable kAxisPts = MakeTable(kAxisPtsRows);
+constexpr ObjectTable kAxisPts = MakeTable<kAxisPtsRows>();
 
 constexpr Row kTypedefCharacteristicRows[] = {
     Children("FAXIS_DESCR", Kind::AXIS_DESCR, kAxisDescr),
@@ -235,7 +235,7 @@ constexpr Row kTypedefCharacteristicRows[] = {
     Child("FSTEP_SIZE", Kind::STEP_SIZE),
     Field("FUPPER_LIMIT", Value<&VoA2LElementTypedefCharacteristic::UPPER_LIMIT>()),
 };
-constexpr ObjectTable kTypedefCharacteristic = MakeTable(kTypedefCharacteristicRows);
+constexpr ObjectTable kTypedefCharacteristic = MakeTable<kTypedefCharacteristicRows>();
 
 constexpr Row kTypedefAxisRows[] = {
     Child("FBYTE_ORDER", Kind::BYTE_ORDER),
@@ -255,7 +255,7 @@ constexpr Row kTypedefAxisRows[] = {
     Child("FSTEP_SIZE", Kind::STEP_SIZE),
     Field("FUPPER_LIMIT", Value<&VoA2LElementTypedefAxis::UPPER_LIMIT>()),
 };
-constexpr ObjectTable kTypedefAxis = MakeTable(kTypedefAxisRows);
+constexpr ObjectTable kTypedefAxis = MakeTable<kTypedefAxisRows>();
 
 constexpr Row kBlobRows[] = {
     Field("FADDRESS", AddressOf<&VoA2LElementBlob::ADDRESS>()),
@@ -273,7 +273,7 @@ constexpr Row kBlobRows[] = {
     Field("FSIZE", Value<&VoA2LElementBlob::SIZE>()),
     Child("FSYMBOL_LINK", Kind::SYMBOL_LINK),
 };
-constexpr ObjectTable kBlob = MakeTable(kBlobRows);
+constexpr ObjectTable kBlob = MakeTable<kBlobRows>();
 
 constexpr Row kTypedefBlobRows[] = {
     Child("FADDRESS_TYPE", Kind::ADDRESS_TYPE),
@@ -281,7 +281,7 @@ constexpr Row kTypedefBlobRows[] = {
     Field("FNAME", Value<&VoA2LElementTypedefBlob::NAME>()),
     Field("FSIZE", Value<&VoA2LElementTypedefBlob::SIZE>()),
 };
-constexpr ObjectTable kTypedefBlob = MakeTable(kTypedefBlobRows);
+constexpr ObjectTable kTypedefBlob = MakeTable<kTypedefBlobRows>();
 
 // CONVERSION has no key here; "FADDRESS_TYPE" has one, but no property that could fill it.
 constexpr Row kOverwriteRows[] = {
@@ -295,7 +295,7 @@ constexpr Row kOverwriteRows[] = {
     Field("FNAME", Value<&VoA2LElementOverwrite::NAME>()),
     Child("FPHYS_UNIT", Kind::PHYS_UNIT),
 };
-constexpr ObjectTable kOverwrite = MakeTable(kOverwriteRows);
+constexpr ObjectTable kOverwrite = MakeTable<kOverwriteRows>();
 
 constexpr Row kInstanceRows[] = {
     Field("FADDRESS", AddressOf<&VoA2LElementInstance::ADDRESS>()),
@@ -317,7 +317,7 @@ constexpr Row kInstanceRows[] = {
     Child("FSYMBOL_LINK", Kind::SYMBOL_LINK),
     Field("FTYPEDEF_NAME", Value<&VoA2LElementInstance::TYPEDEF_NAME>()),
 };
-constexpr ObjectTable kInstance = MakeTable(kInstanceRows);
+constexpr ObjectTable kInstance = MakeTable<kInstanceRows>();
 
 constexpr Row kStructureComponentRows[] = {
     Field("FADDRESS_OFFSET", Value<&VoA2LElementStructureComponent::ADDRESS_OFFSET>()),
@@ -328,7 +328,7 @@ constexpr Row kStructureComponentRows[] = {
     Child("FSYMBOL_TYPE_LINK", Kind::SYMBOL_TYPE_LINK),
     Field("FTYPEDEF_NAME", Value<&VoA2LElementStructureComponent::TYPEDEF_NAME>()),
 };
-constexpr ObjectTable kStructureComponent = MakeTable(kStructureComponentRows);
+constexpr ObjectTable kStructureComponent = MakeTable<kStructureComponentRows>();
 
 constexpr Row kTypedefStructureRows[] = {
     Child("FADDRESS_TYPE", Kind::ADDRESS_TYPE),
@@ -339,13 +339,13 @@ constexpr Row kTypedefStructureRows[] = {
     Children("FSTRUCTURE_COMPONENT", Kind::STRUCTURE_COMPONENT, kStructureComponent, Absent::Null),
     Child("FSYMBOL_TYPE_LINK", Kind::SYMBOL_TYPE_LINK),
 };
-constexpr ObjectTable kTypedefStructure = MakeTable(kTypedefStructureRows);
+constexpr ObjectTable kTypedefStructure = MakeTable<kTypedefStructureRows>();
 
 constexpr Row kFormulaRows[] = {
     Field("FFORMULA", Value<&VoA2LElementFormula::FORMULA>()),
     Child("FFORMULA_INV", Kind::FORMULA_INV),
 };
-constexpr ObjectTable kFormula = MakeTable(kFormulaRows);
+constexpr ObjectTable kFormula = MakeTable<kFormulaRows>();
 
 constexpr Row kCompuMethodRows[] = {
     Child("FCOEFFS", Kind::COEFFS),
@@ -361,7 +361,7 @@ constexpr Row kCompuMethodRows[] = {
     Child("FSTATUS_STRING_REF", Kind::STATUS_STRING_REF),
     Field("FUNIT", Value<&VoA2LElementCompuMethod::UNIT>()),
 };
-constexpr ObjectTable kCompuMethod = MakeTable(kCompuMethodRows);
+constexpr ObjectTable kCompuMethod = MakeTable<kCompuMethodRows>();
 
 constexpr Row kCompuTabRows[] = {
     Field("FCONVERSION_TYPE", WordOf<&VoA2LElementCompuTab::CONVERSION_TYPE, words::kTableType>()),
@@ -373,7 +373,7 @@ constexpr Row kCompuTabRows[] = {
     Field("FNUMBER_VALUE_PAIRS", Value<&VoA2LElementCompuTab::NUMBER_VALUE_PAIRS>()),
     Field("FOUT_VAL", Value<&VoA2LElementCompuTab::OUT_VAL>()),
 };
-constexpr ObjectTable kCompuTab = MakeTable(kCompuTabRows);
+constexpr ObjectTable kCompuTab = MakeTable<kCompuTabRows>();
 
 constexpr Row kCompuVtabRows[] = {
     Field("FCONVERSION_TYPE",
@@ -385,7 +385,7 @@ constexpr Row kCompuVtabRows[] = {
     Field("FNUMBER_VALUE_PAIRS", Value<&VoA2LElementCompuVtab::NUMBER_VALUE_PAIRS>()),
     Field("FOUT_VAL", Value<&VoA2LElementCompuVtab::OUT_VAL>()),
 };
-constexpr ObjectTable kCompuVtab = MakeTable(kCompuVtabRows);
+constexpr ObjectTable kCompuVtab = MakeTable<kCompuVtabRows>();
 
 constexpr Row kCompuVtabRangeRows[] = {
     Child("FDEFAULT_VALUE", Kind::DEFAULT_VALUE),
@@ -396,7 +396,7 @@ constexpr Row kCompuVtabRangeRows[] = {
     Field("FNUMBER_VALUE_TRIPLES", Value<&VoA2LElementCompuVtabRange::NUMBER_VALUE_TRIPLES>()),
     Field("FOUT_VAL", Value<&VoA2LElementCompuVtabRange::OUT_VAL>()),
 };
-constexpr ObjectTable kCompuVtabRange = MakeTable(kCompuVtabRangeRows);
+constexpr ObjectTable kCompuVtabRange = MakeTable<kCompuVtabRangeRows>();
 
 constexpr Row kUnitRows[] = {
     Field("FDISPLAY", Value<&VoA2LElementUnit::DISPLAY>()),
@@ -407,16 +407,14 @@ constexpr Row kUnitRows[] = {
     Child("FUNIT_CONVERSION", Kind::UNIT_CONVERSION),
     Field("FUNIT_TYPE", WordOf<&VoA2LElementUnit::UNIT_TYPE, words::kUnitType>()),
 };
-constexpr ObjectTable kUnit = MakeTable(kUnitRows);
+constexpr ObjectTable kUnit = MakeTable<kUnitRows>();
 
 // The prototype stands below a component, in the first one that names any.
 const Element* FindPrototype(const Element& function) {
   for (const Element* child : function.children) {
-    if (child->kind != Kind::AR_COMPONENT)
-      continue;
+    if (child->kind != Kind::AR_COMPONENT) continue;
     for (const Element* property : child->children) {
-      if (property->kind == Kind::AR_PROTOTYPE_OF)
-        return property;
+      if (property->kind == Kind::AR_PROTOTYPE_OF) return property;
     }
   }
   return nullptr;
@@ -436,7 +434,7 @@ constexpr Row kFunctionRows[] = {
     Child("FREF_CHARACTERISTIC", Kind::REF_CHARACTERISTIC),
     Child("FSUB_FUNCTION", Kind::SUB_FUNCTION),
 };
-constexpr ObjectTable kFunction = MakeTable(kFunctionRows);
+constexpr ObjectTable kFunction = MakeTable<kFunctionRows>();
 
 constexpr Row kGroupRows[] = {
     Children("FANNOTATION", Kind::ANNOTATION, kAnnotation),
@@ -449,7 +447,7 @@ constexpr Row kGroupRows[] = {
     Flag("FROOT", Kind::ROOT),
     Child("FSUB_GROUP", Kind::SUB_GROUP),
 };
-constexpr ObjectTable kGroup = MakeTable(kGroupRows);
+constexpr ObjectTable kGroup = MakeTable<kGroupRows>();
 
 constexpr Row kFrameRows[] = {
     Child("FFRAME_MEASUREMENT", Kind::FRAME_MEASUREMENT),
@@ -459,14 +457,14 @@ constexpr Row kFrameRows[] = {
     Field("FRATE", Value<&VoA2LElementFrame::RATE>()),
     Field("FSCALING_UNIT", Value<&VoA2LElementFrame::SCALING_UNIT>()),
 };
-constexpr ObjectTable kFrame = MakeTable(kFrameRows);
+constexpr ObjectTable kFrame = MakeTable<kFrameRows>();
 
 // The size of a reserved place goes by the name of a data type.
 constexpr Row kReservedRows[] = {
     Field("FDATA_TYPE", WordOf<&VoA2LElementReserved::DATA_SIZE, words::kDataSize>()),
     Field("FPOSITION", Value<&VoA2LElementReserved::POSITION>()),
 };
-constexpr ObjectTable kReserved = MakeTable(kReservedRows);
+constexpr ObjectTable kReserved = MakeTable<kReservedRows>();
 
 // IDENTIFICATION has always gone under "FALIGNMENT_WORD", where it competes with ALIGNMENT_WORD,
 // and never under its own key.
@@ -536,7 +534,7 @@ constexpr Row kRecordLayoutRows[] = {
     Flag("FSTATIC_ADDRESS_OFFSETS", Kind::STATIC_ADDRESS_OFFSETS),
     Flag("FSTATIC_RECORD_LAYOUT", Kind::STATIC_RECORD_LAYOUT),
 };
-constexpr ObjectTable kRecordLayout = MakeTable(kRecordLayoutRows);
+constexpr ObjectTable kRecordLayout = MakeTable<kRecordLayoutRows>();
 
 constexpr Row kTransformerRows[] = {
     Field("FEXECUTABLE32", Value<&VoA2LElementTransformer::EXECUTABLE32>()),
@@ -549,7 +547,7 @@ constexpr Row kTransformerRows[] = {
     Field("FTRIGGER", WordOf<&VoA2LElementTransformer::TRIGGER, words::kTransformerTrigger>()),
     Field("FVERSION", Value<&VoA2LElementTransformer::VERSION>()),
 };
-constexpr ObjectTable kTransformer = MakeTable(kTransformerRows);
+constexpr ObjectTable kTransformer = MakeTable<kTransformerRows>();
 
 constexpr Row kModCommonRows[] = {
     Child("FALIGNMENT_BYTE", Kind::ALIGNMENT_BYTE),
@@ -565,20 +563,20 @@ constexpr Row kModCommonRows[] = {
     Child("FDEPOSIT", Kind::DEPOSIT),
     Child("FS_REC_LAYOUT", Kind::S_REC_LAYOUT),
 };
-constexpr ObjectTable kModCommon = MakeTable(kModCommonRows);
+constexpr ObjectTable kModCommon = MakeTable<kModCommonRows>();
 
 constexpr Row kCalibrationHandleRows[] = {
     Field("FHANDLE", Joined<&VoA2LElementCalibrationHandle::HANDLE>()),
     Child("FHANDLE_TEXT", Kind::CALIBRATION_HANDLE_TEXT),
 };
-constexpr ObjectTable kCalibrationHandle = MakeTable(kCalibrationHandleRows);
+constexpr ObjectTable kCalibrationHandle = MakeTable<kCalibrationHandleRows>();
 
 constexpr Row kCalibrationMethodRows[] = {
     Children("FCALIBRATION_HANDLE", Kind::CALIBRATION_HANDLE, kCalibrationHandle),
     Field("FMETHOD", Value<&VoA2LElementCalibrationMethod::METHOD>()),
     Field("FVERSION", Value<&VoA2LElementCalibrationMethod::VERSION>()),
 };
-constexpr ObjectTable kCalibrationMethod = MakeTable(kCalibrationMethodRows);
+constexpr ObjectTable kCalibrationMethod = MakeTable<kCalibrationMethodRows>();
 
 constexpr Row kMemoryLayoutRows[] = {
     Field("FADDRESS", AddressOf<&VoA2LElementMemoryLayout::ADDRESS>()),
@@ -587,7 +585,7 @@ constexpr Row kMemoryLayoutRows[] = {
     Field("FPRG_TYPE", WordOf<&VoA2LElementMemoryLayout::PRG_TYPE, words::kLayoutProgramType>()),
     Field("FSIZE", Value<&VoA2LElementMemoryLayout::SIZE>()),
 };
-constexpr ObjectTable kMemoryLayout = MakeTable(kMemoryLayoutRows);
+constexpr ObjectTable kMemoryLayout = MakeTable<kMemoryLayoutRows>();
 
 constexpr Row kMemorySegmentRows[] = {
     Field("FADDRESS", AddressOf<&VoA2LElementMemorySegment::ADDRESS>()),
@@ -600,19 +598,18 @@ constexpr Row kMemorySegmentRows[] = {
     Field("FPRG_TYPE", WordOf<&VoA2LElementMemorySegment::PRG_TYPE, words::kSegmentProgramType>()),
     Field("FSIZE", Value<&VoA2LElementMemorySegment::SIZE>()),
 };
-constexpr ObjectTable kMemorySegment = MakeTable(kMemorySegmentRows);
+constexpr ObjectTable kMemorySegment = MakeTable<kMemorySegmentRows>();
 
 constexpr Row kSystemConstantRows[] = {
     Field("FNAME", Value<&VoA2LElementSystemConstant::NAME>()),
     Field("FVALUE", Value<&VoA2LElementSystemConstant::VALUE>()),
 };
-constexpr ObjectTable kSystemConstant = MakeTable(kSystemConstantRows);
+constexpr ObjectTable kSystemConstant = MakeTable<kSystemConstantRows>();
 
 // All addresses of the identification in one text; nothing where there is none.
 const Element* FindAddrEpk(const Element& modPar) {
   for (const Element* child : modPar.children) {
-    if (child->kind == Kind::ADDR_EPK)
-      return &modPar;
+    if (child->kind == Kind::ADDR_EPK) return &modPar;
   }
   return nullptr;
 }
@@ -644,7 +641,7 @@ constexpr Row kModParRows[] = {
     Child("FUSER", Kind::USER),
     Child("FVERSION", Kind::VERSION),
 };
-constexpr ObjectTable kModPar = MakeTable(kModParRows);
+constexpr ObjectTable kModPar = MakeTable<kModParRows>();
 
 // The groups of all REF_GROUP blocks; no comma stands between two blocks.
 constexpr Form kRefGroups = BuiltTextForm{[](const Element& userRights, std::string& text) {
@@ -659,7 +656,7 @@ constexpr Row kUserRightsRows[] = {
     Field("FREF_GROUP", kRefGroups),
     Field("FUSER_LEVEL_ID", Value<&VoA2LElementUserRights::USER_LEVEL_ID>()),
 };
-constexpr ObjectTable kUserRights = MakeTable(kUserRightsRows);
+constexpr ObjectTable kUserRights = MakeTable<kUserRightsRows>();
 
 // The addresses count only where they come first in the block.
 const Element* FindVarAddress(const Element& characteristic) {
@@ -671,7 +668,7 @@ constexpr Row kVarCharacteristicRows[] = {
     Field("FNAME", Value<&VoA2LElementVarCharacteristic::NAME>()),
     Found("FVAR_ADDRESS", FindVarAddress, Joined<&VoA2LElementVarAddress::VAR_ADDRESS>()),
 };
-constexpr ObjectTable kVarCharacteristic = MakeTable(kVarCharacteristicRows);
+constexpr ObjectTable kVarCharacteristic = MakeTable<kVarCharacteristicRows>();
 
 constexpr Row kVarCriterionRows[] = {
     Field("FLONG_IDENTIFIER", Value<&VoA2LElementVarCriterion::LONG_IDENTIFIER>()),
@@ -680,7 +677,7 @@ constexpr Row kVarCriterionRows[] = {
     Child("FVAR_MEASUREMENT", Kind::VAR_MEASUREMENT),
     Child("FVAR_SELECTION_CHARACTERISTIC", Kind::VAR_SELECTION_CHARACTERISTIC),
 };
-constexpr ObjectTable kVarCriterion = MakeTable(kVarCriterionRows);
+constexpr ObjectTable kVarCriterion = MakeTable<kVarCriterionRows>();
 
 // An object whose keys are the names of the criteria.
 constexpr Form kForbiddenCombination = NamedValuesForm{[](const Element& element) {
@@ -698,7 +695,7 @@ constexpr Row kVariantCodingRows[] = {
     Child("FVAR_NAMING", Kind::VAR_NAMING),
     Child("FVAR_SEPARATOR", Kind::VAR_SEPARATOR),
 };
-constexpr ObjectTable kVariantCoding = MakeTable(kVariantCodingRows);
+constexpr ObjectTable kVariantCoding = MakeTable<kVariantCodingRows>();
 
 constexpr Row kModuleRows[] = {
     {.key = "FA2ML",
@@ -733,7 +730,7 @@ constexpr Row kModuleRows[] = {
     Children("FUSER_RIGHTS", Kind::USER_RIGHTS, kUserRights),
     ChildObject("FVARIANT_CODING", Kind::VARIANT_CODING, kVariantCoding),
 };
-constexpr ObjectTable kModule = MakeTable(kModuleRows);
+constexpr ObjectTable kModule = MakeTable<kModuleRows>();
 
 }  // namespace
 

@@ -44,30 +44,71 @@ struct Row {
   const VoA2LElement* (*find)(const VoA2LElement&) = nullptr;
 };
 
+/// The text of a member up to its value, `, "FNAME": `, followed by "null". It is made at compile
+/// time and of fixed size, so that writing it is a copy without a loop: keys are two thirds of a
+/// document, and most of its values are null.
+class KeyText {
+ public:
+  static constexpr std::size_t kBytes = 48;
+
+  constexpr KeyText() = default;
+  constexpr explicit KeyText(std::string_view key) {
+    Append(", \"");
+    Append(key);
+    Append("\": ");
+    size_ = used_;
+    Append("null");
+  }
+
+  [[nodiscard]] constexpr const char* Bytes() const { return bytes_.data(); }
+  /// Bytes up to the value, and with the "null".
+  [[nodiscard]] constexpr std::size_t Size() const { return size_; }
+  [[nodiscard]] constexpr std::size_t SizeWithNull() const { return used_; }
+  [[nodiscard]] constexpr std::string_view Key() const {
+    return std::string_view(bytes_.data(), size_).substr(3, size_ - 6U);
+  }
+
+ private:
+  constexpr void Append(std::string_view text) {
+    for (const char c : text) bytes_.at(used_++) = c;
+  }
+
+  std::array<char, kBytes> bytes_{};
+  std::uint8_t size_ = 0;
+  std::uint8_t used_ = 0;
+};
+
 /// The table of one object.
 struct ObjectTable {
   std::span<const Row> rows;
+  std::span<const KeyText> keys;  // of the rows
   /// Per KindIndex, 1 + the row that children of the kind go to; 0 where they go nowhere.
   std::array<std::uint8_t, kKindIndexCount> rowOfKind{};
 };
 
 constexpr bool IsSortedWithoutDoubles(std::span<const Row> rows) {
   for (std::size_t i = 1; i < rows.size(); ++i) {
-    if (!(rows[i - 1].key < rows[i].key))
-      return false;
+    if (!(rows[i - 1].key < rows[i].key)) return false;
   }
   return true;
 }
 
+/// The keys of an array of rows.
+template <const auto& kRows>
+inline constexpr auto kKeysOf = [] {
+  std::array<KeyText, std::size(kRows)> keys;
+  for (std::size_t i = 0; i < keys.size(); ++i) keys[i] = KeyText(kRows[i].key);
+  return keys;
+}();
+
 /// The table with these rows, which must be sorted.
-consteval ObjectTable MakeTable(std::span<const Row> rows) {
-  if (!IsSortedWithoutDoubles(rows))
-    throw "the keys of a table are not in ascending order";
-  ObjectTable table{rows, {}};
-  for (std::size_t i = 0; i < rows.size(); ++i) {
-    for (const ElementKind kind : {rows[i].kind, rows[i].otherKind}) {
-      if (kind != KIND_ROOT)
-        table.rowOfKind[KindIndex(kind)] = static_cast<std::uint8_t>(i + 1);
+template <const auto& kRows>
+consteval ObjectTable MakeTable() {
+  static_assert(IsSortedWithoutDoubles(kRows), "the keys of a table are not in ascending order");
+  ObjectTable table{kRows, kKeysOf<kRows>, {}};
+  for (std::size_t i = 0; i < table.rows.size(); ++i) {
+    for (const ElementKind kind : {table.rows[i].kind, table.rows[i].otherKind}) {
+      if (kind != KIND_ROOT) table.rowOfKind[KindIndex(kind)] = static_cast<std::uint8_t>(i + 1);
     }
   }
   return table;

@@ -11,8 +11,7 @@ namespace a2l {
 namespace {
 
 bool TakesText(const std::ostream& out) {
-  if (const auto* file = dynamic_cast<const std::ofstream*>(&out))
-    return file->is_open();
+  if (const auto* file = dynamic_cast<const std::ofstream*>(&out)) return file->is_open();
   return out.good();
 }
 
@@ -45,10 +44,8 @@ std::int32_t VoA2LElement::MoreParameterCount() const {
 }
 
 bool VoA2LElement::Attach(VoA2LElement* child, const KindSet& accepted) {
-  if (child->parent == nullptr)
-    child->parent = this;
-  if (child->parent != this || !accepted.Contains(child->kind))
-    return false;
+  if (child->parent == nullptr) child->parent = this;
+  if (child->parent != this || !accepted.Contains(child->kind)) return false;
   children.PushBack(*store, child);
   return true;
 }
@@ -60,8 +57,7 @@ bool VoA2LElement::WritesChildren() const {
 }
 
 bool VoA2LElement::Write(int level, std::ostream& out) {
-  if (!TakesText(out))
-    return false;
+  if (!TakesText(out)) return false;
   // A file may nest its blocks as deep as it is long, so the way down is kept here and not on
   // the call stack.
   struct Visit {
@@ -71,8 +67,7 @@ bool VoA2LElement::Write(int level, std::ostream& out) {
   };
   std::vector<Visit> path;
   const auto enter = [&](VoA2LElement* element, int elementLevel) {
-    if (element->kind == KIND_ROOT)
-      MoveVersionsToFront(element->children);
+    if (element->kind == KIND_ROOT) MoveVersionsToFront(element->children);
     element->WriteOpening(elementLevel, out);
     path.push_back({element, elementLevel, 0});
   };
@@ -106,8 +101,7 @@ VoA2LElement* NewTree() {
 }
 
 void DestroyTree(VoA2LElement* element) {
-  if (element == nullptr)
-    return;
+  if (element == nullptr) return;
   if (element->store->root == element) {
     delete element->store;
   } else if (element->parent != nullptr) {

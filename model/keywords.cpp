@@ -20,8 +20,7 @@ static_assert(kKeywords.size() == kKeywordCount);
 
 constexpr bool StandsAtItsIndex() {
   for (std::size_t i = 0; i < kKeywords.size(); ++i) {
-    if (KindIndex(kKeywords[i].kind) != i)
-      return false;
+    if (KindIndex(kKeywords[i].kind) != i) return false;
   }
   return true;
 }
@@ -51,28 +50,24 @@ constexpr auto kSlots = [] {
   slots.fill(kFree);
   for (std::size_t i = 0; i < kKeywords.size(); ++i) {
     std::size_t slot = FirstSlot(kKeywords[i].text);
-    while (slots[slot] != kFree)
-      slot = (slot + 1) % kSlotCount;
+    while (slots[slot] != kFree) slot = (slot + 1) % kSlotCount;
     slots[slot] = static_cast<std::uint16_t>(i);
   }
   return slots;
 }();
 
 constexpr const Keyword* Find(std::string_view text) {
-  if (text.empty())
-    return nullptr;
+  if (text.empty()) return nullptr;
   for (std::size_t slot = FirstSlot(text); kSlots[slot] != kFree; slot = (slot + 1) % kSlotCount) {
     const Keyword& keyword = kKeywords[kSlots[slot]];
-    if (keyword.text == text)
-      return &keyword;
+    if (keyword.text == text) return &keyword;
   }
   return nullptr;
 }
 
 constexpr bool EveryKeywordIsFoundAsItself() {
   for (const Keyword& keyword : kKeywords) {
-    if (Find(keyword.text) != &keyword)
-      return false;
+    if (Find(keyword.text) != &keyword) return false;
   }
   return true;
 }

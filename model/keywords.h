@@ -49,12 +49,9 @@ inline constexpr std::size_t kKeywordCount = 205;
 /// keyword list, kKeywordCount for KIND_UNKNOWN, kKeywordCount + 1 for everything else.
 [[nodiscard]] constexpr std::size_t KindIndex(ElementKind kind) {
   const auto number = static_cast<std::int32_t>(kind);
-  if (number >= 1 && number <= 20)
-    return static_cast<std::size_t>(number - 1);
-  if (number >= 100 && number <= 141)
-    return static_cast<std::size_t>(number - 100 + 20);
-  if (number >= 1001 && number <= 1143)
-    return static_cast<std::size_t>(number - 1001 + 62);
+  if (number >= 1 && number <= 20) return static_cast<std::size_t>(number - 1);
+  if (number >= 100 && number <= 141) return static_cast<std::size_t>(number - 100 + 20);
+  if (number >= 1001 && number <= 1143) return static_cast<std::size_t>(number - 1001 + 62);
   return kind == KIND_UNKNOWN ? kKeywordCount : kKeywordCount + 1;
 }
 

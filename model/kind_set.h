@@ -15,8 +15,7 @@ class KindSet {
  public:
   constexpr KindSet() = default;
   constexpr KindSet(std::initializer_list<ElementKind> kinds) {
-    for (const ElementKind kind : kinds)
-      *this = With(kind);
+    for (const ElementKind kind : kinds) *this = With(kind);
   }
 
   /// This set and `kind`.

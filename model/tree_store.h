@@ -45,8 +45,7 @@ class TreeStore {
 
   /// Copies `text` into the store.
   [[nodiscard]] std::string_view Copy(std::string_view text) {
-    if (text.empty())
-      return {};
+    if (text.empty()) return {};
     return {static_cast<char*>(std::memcpy(AllocateBytes(text.size()), text.data(), text.size())),
             text.size()};
   }
@@ -87,8 +86,7 @@ class List {
  public:
   /// Appends `item`; the memory comes from `store`, the same one for every call on one list.
   void PushBack(TreeStore& store, Item item) {
-    if (size_ == Capacity())
-      Grow(store);
+    if (size_ == Capacity()) Grow(store);
     items_[size_++] = item;
   }
 

@@ -9,15 +9,13 @@
 namespace a2l {
 
 bool A2LReader::Parse(const std::string& path, VoA2LElement* root) {
-  if (root == nullptr)
-    return false;
+  if (root == nullptr) return false;
   std::ifstream in(path, std::ios::binary);
   return in.is_open() && Parse(in, root);
 }
 
 bool A2LReader::Parse(std::istream& in, VoA2LElement* root) {
-  if (root == nullptr)
-    return false;
+  if (root == nullptr) return false;
   LineSource lines(in);
   BlockParser parser(lines, *root, [this](const Diagnostic& diagnostic) { Report(diagnostic); });
   return parser.Run();

@@ -22,20 +22,17 @@ bool BlockParser::Run() {
   while (true) {
     std::string_view line = std::exchange(remainder_, {});
     if (line.empty()) {
-      if (!ReadPhysicalLine(line))
-        return !lines_.Failed();
+      if (!ReadPhysicalLine(line)) return !lines_.Failed();
       if (!comments_.Remove(line, nextPhysicalLine_)) {
         return !lines_.Failed() && Fail(DiagnosticKind::UnterminatedComment);
       }
     }
-    if (!HandleLine(line))
-      return false;
+    if (!HandleLine(line)) return false;
   }
 }
 
 bool BlockParser::ReadPhysicalLine(std::string_view& line) {
-  if (!lines_.Next(line))
-    return false;
+  if (!lines_.Next(line)) return false;
   ++lineNumber_;
   return true;
 }
@@ -44,10 +41,8 @@ BlockParser::MarkerPlace BlockParser::FindMarker(std::string_view line, std::siz
   for (std::size_t i = line.find('/', from); i != std::string_view::npos;
        i = line.find('/', i + 1)) {
     const std::string_view rest = line.substr(i);
-    if (rest.starts_with(kBegin))
-      return {Marker::Begin, i, i + kBegin.size()};
-    if (rest.starts_with(kEnd))
-      return {Marker::End, i, i + kEnd.size()};
+    if (rest.starts_with(kBegin)) return {Marker::Begin, i, i + kBegin.size()};
+    if (rest.starts_with(kEnd)) return {Marker::End, i, i + kEnd.size()};
   }
   return {};
 }
@@ -57,8 +52,7 @@ bool BlockParser::HandleLine(std::string_view line) {
   MarkerPlace place{std::exchange(pending_, Marker::None), 0, 0};
   if (place.marker == Marker::None) {
     place = FindMarker(line, 0);
-    if (place.marker == Marker::None)
-      return HandlePlain(line);
+    if (place.marker == Marker::None) return HandlePlain(line);
   }
   if (const MarkerPlace next = FindMarker(line, place.end); next.marker != Marker::None) {
     remainder_ = line.substr(next.position);
@@ -74,8 +68,7 @@ bool BlockParser::HandleBegin(std::string_view line, std::string_view text) {
     ++rawDepth_;
     return true;
   }
-  if (!CloseCollection(DiagnosticKind::NoParent))
-    return false;
+  if (!CloseCollection(DiagnosticKind::NoParent)) return false;
   const std::string_view keyword = NextToken(text);
   const ElementKind kind = KeywordToKind(keyword);
   if (keyword.empty() && remainder_.empty()) {
@@ -88,8 +81,7 @@ bool BlockParser::HandleBegin(std::string_view line, std::string_view text) {
                 std::to_string(static_cast<std::int32_t>(current_->kind)));
   }
   VoA2LElement* element = CreateElement(kind, *current_);
-  if (!Attach(element, keyword))
-    return false;
+  if (!Attach(element, keyword)) return false;
   current_ = element;
   if (!HasTokens(text, element->paramCount)) {
     const bool open = element->paramCount == kOpenParameterList;
@@ -110,16 +102,14 @@ bool BlockParser::HandleEnd(std::string_view line, std::string_view text) {
     --rawDepth_;
     return true;
   }
-  if (!CloseCollection(DiagnosticKind::NoParentAtEnd))
-    return false;
+  if (!CloseCollection(DiagnosticKind::NoParentAtEnd)) return false;
   const std::string_view keyword = NextToken(text);
   if (keyword.empty() && remainder_.empty()) {
     pending_ = Marker::End;
     return true;
   }
   while (IsProperty(current_->kind)) {
-    if (!ReturnToParent(DiagnosticKind::NoParentAtEnd))
-      return false;
+    if (!ReturnToParent(DiagnosticKind::NoParentAtEnd)) return false;
   }
   if (keyword.empty() || KeywordToKind(keyword) != current_->kind) {
     return Fail(DiagnosticKind::EndDoesNotMatch, std::string(KindToKeyword(current_->kind)));
@@ -150,11 +140,9 @@ bool BlockParser::HandlePlain(std::string_view line) {
       Append(' ', line);
       return true;
     }
-    if (!CloseCollection(DiagnosticKind::NoParent))
-      return false;
+    if (!CloseCollection(DiagnosticKind::NoParent)) return false;
   }
-  if (keyword.empty())
-    return true;
+  if (keyword.empty()) return true;
   if (kind == KIND_UNKNOWN) {
     Warn(DiagnosticKind::UnexpectedElement, std::string(keyword));
     return true;
@@ -165,10 +153,8 @@ bool BlockParser::HandlePlain(std::string_view line) {
 bool BlockParser::HandleProperty(ElementKind kind, std::string_view keyword,
                                  std::string_view text) {
   VoA2LElement* property = IsProperty(kind) ? CreateElement(kind, *current_) : nullptr;
-  if (property == nullptr)
-    return Fail(DiagnosticKind::BeginMissing, std::string(keyword));
-  if (!Attach(property, keyword))
-    return false;
+  if (property == nullptr) return Fail(DiagnosticKind::BeginMissing, std::string(keyword));
+  if (!Attach(property, keyword)) return false;
   if (!HasTokens(text, property->paramCount)) {
     current_ = property;
     StartCollecting(property->paramCount == kOpenParameterList ? State::CollectOpen
@@ -195,10 +181,8 @@ bool BlockParser::HasTokens(std::string_view text, std::int64_t needed) {
 void BlockParser::CompleteParameters(std::string_view text) {
   VoA2LElement& element = *current_;
   state_ = State::Idle;
-  if (!element.ParseParameters(text))
-    WrongParameters();
-  if (!element.HasMoreParameters())
-    return;
+  if (!element.ParseParameters(text)) WrongParameters();
+  if (!element.HasMoreParameters()) return;
   if (!HasTokens(text, element.MoreParameterCount())) {
     StartCollecting(State::CollectMoreParams, text, element.MoreParameterCount());
   } else if (!element.ParseMoreParameters(text)) {
@@ -224,12 +208,10 @@ bool BlockParser::CompleteCollection() {
       CompleteParameters(text);
       return true;
     case State::CollectMoreParams:
-      if (!current_->ParseMoreParameters(text))
-        WrongParameters();
+      if (!current_->ParseMoreParameters(text)) WrongParameters();
       return true;
     case State::CollectPropertyParams:
-      if (!current_->ParseParameters(text))
-        WrongParameters();
+      if (!current_->ParseParameters(text)) WrongParameters();
       return ReturnToParent(DiagnosticKind::NoParent);
     case State::Idle:
     case State::CollectOpen:
@@ -246,8 +228,7 @@ bool BlockParser::CloseCollection(DiagnosticKind ifNoParent) {
       return true;
     case State::CollectParams:
       Warn(DiagnosticKind::NeedMoreParameters, std::to_string(current_->paramCount));
-      if (!current_->ParseParameters(text))
-        ClearValidOfParent();
+      if (!current_->ParseParameters(text)) ClearValidOfParent();
       return true;
     case State::CollectMoreParams:
       Warn(DiagnosticKind::NeedMoreParameters, std::to_string(current_->MoreParameterCount()));
@@ -257,8 +238,7 @@ bool BlockParser::CloseCollection(DiagnosticKind ifNoParent) {
       current_->ParseParameters(text);
       return ReturnToParent(ifNoParent);
     case State::CollectOpen:
-      if (!current_->ParseParameters(text))
-        WrongParameters();
+      if (!current_->ParseParameters(text)) WrongParameters();
       return !IsProperty(current_->kind) || ReturnToParent(ifNoParent);
     case State::RawContent:
       if (!current_->ParseParameters(text)) {
@@ -270,8 +250,7 @@ bool BlockParser::CloseCollection(DiagnosticKind ifNoParent) {
 }
 
 bool BlockParser::ReturnToParent(DiagnosticKind ifNone) {
-  if (current_->parent == nullptr)
-    return Fail(ifNone);
+  if (current_->parent == nullptr) return Fail(ifNone);
   current_ = current_->parent;
   return true;
 }
@@ -283,8 +262,7 @@ void BlockParser::WrongParameters() {
 
 void BlockParser::ClearValidOfParent() {
   VoA2LElement* parent = current_->parent;
-  if (parent != nullptr && IsCalibrationObject(*parent))
-    parent->valid = 0;
+  if (parent != nullptr && IsCalibrationObject(*parent)) parent->valid = 0;
 }
 
 void BlockParser::Warn(DiagnosticKind kind, std::string subject) {

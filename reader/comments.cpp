@@ -19,8 +19,7 @@ std::size_t FindComment(std::string_view text) {
   for (std::size_t i = text.find_first_of("/\""); i != kNone; i = text.find_first_of("/\"", i)) {
     if (text[i] == '"') {
       i = FindClosingQuote(text, i + 1);
-      if (i == kNone)
-        return kNone;
+      if (i == kNone) return kNone;
     } else if (OpensComment(text, i)) {
       return i;
     }
@@ -33,8 +32,7 @@ std::size_t FindComment(std::string_view text) {
 // left is worth a look at the quotes.
 bool MayHoldComment(std::string_view text) {
   for (std::size_t i = text.find('/'); i != kNone; i = text.find('/', i + 1)) {
-    if (OpensComment(text, i))
-      return true;
+    if (OpensComment(text, i)) return true;
   }
   return false;
 }
@@ -50,25 +48,21 @@ bool SkipBlockComment(std::string_view& text, const CommentRemover::NextLine& ne
       text.remove_prefix(end + 2);
       return true;
     }
-    if (!text.empty())
-      starBefore = text.back() == '*';
-    if (!nextLine(text))
-      return false;
+    if (!text.empty()) starBefore = text.back() == '*';
+    if (!nextLine(text)) return false;
   }
 }
 
 }  // namespace
 
 bool CommentRemover::Remove(std::string_view& line, const NextLine& nextLine) {
-  if (!MayHoldComment(line))
-    return true;
+  if (!MayHoldComment(line)) return true;
   text_.clear();
   std::size_t comment = FindComment(line);
   while (comment != kNone && line[comment + 1] == '*') {
     text_ += line.substr(0, comment);
     line.remove_prefix(comment + 2);
-    if (!SkipBlockComment(line, nextLine))
-      return false;
+    if (!SkipBlockComment(line, nextLine)) return false;
     comment = FindComment(line);
   }
   text_ += line.substr(0, comment);  // the whole line where there is no comment left

@@ -36,8 +36,7 @@ constexpr std::array kRows = {
 
 constexpr bool StandsAtItsIndex() {
   for (std::size_t i = 0; i < kRows.size(); ++i) {
-    if (static_cast<std::size_t>(kRows[i].kind) != i)
-      return false;
+    if (static_cast<std::size_t>(kRows[i].kind) != i) return false;
   }
   return true;
 }

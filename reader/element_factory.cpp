@@ -123,8 +123,7 @@ constexpr CreatorTable MakeCreators(ClassList<Class...> /*classes*/) {
     place = creator;
   };
   const auto enterAll = [&enter](const auto& kinds, Creator creator) {
-    for (const ElementKind kind : kinds)
-      enter(kind, creator);
+    for (const ElementKind kind : kinds) enter(kind, creator);
   };
   (enterAll(Class::kinds, &Create<Class>), ...);
   return table;
@@ -134,8 +133,7 @@ constexpr CreatorTable kTable = MakeCreators(AllClasses{});
 
 constexpr bool EveryKeywordHasAClass() {
   for (std::size_t i = 0; i <= kKeywordCount; ++i) {
-    if ((kTable.creators[i] != nullptr) != (i != KindIndex(ElementKind::ENCODING)))
-      return false;
+    if ((kTable.creators[i] != nullptr) != (i != KindIndex(ElementKind::ENCODING))) return false;
   }
   return true;
 }
@@ -146,8 +144,7 @@ static_assert(kTable.noKindTwice, "two element classes share a kind");
 
 VoA2LElement* CreateElement(ElementKind kind, VoA2LElement& parent) {
   const Creator create = kTable.creators[KindIndex(kind)];
-  if (create == nullptr)
-    return nullptr;
+  if (create == nullptr) return nullptr;
   VoA2LElement* element = create(parent);
   element->kind = kind;  // one class serves all axes of a family
   return element;

@@ -22,8 +22,7 @@ bool LineSource::Next(std::string_view& line) {
       return true;
     }
     searched = unread.size();
-    if (!Refill())
-      break;
+    if (!Refill()) break;
   }
   line = std::string_view(buffer_.data() + begin_, end_ - begin_);
   begin_ = end_;

@@ -18,14 +18,12 @@ std::size_t TokenEnd(std::string_view text, std::size_t start) {
 }
 
 std::size_t SkipTrimmed(std::string_view text, std::size_t position) {
-  while (position < text.size() && IsTrimmed(text[position]))
-    ++position;
+  while (position < text.size() && IsTrimmed(text[position])) ++position;
   return position;
 }
 
 std::string_view TrimEnd(std::string_view text) {
-  while (!text.empty() && IsTrimmed(text.back()))
-    text.remove_suffix(1);
+  while (!text.empty() && IsTrimmed(text.back())) text.remove_suffix(1);
   return text;
 }
 
@@ -51,8 +49,7 @@ std::size_t FindClosingQuote(std::string_view text, std::size_t from) {
 
 std::string_view NextToken(std::string_view& text) {
   text = Trim(text);
-  if (text.empty())
-    return {};
+  if (text.empty()) return {};
   const std::size_t end = std::min(TokenEnd(text, 0), text.size());
   const std::string_view token = text.substr(0, end);
   text.remove_prefix(end);
@@ -64,8 +61,7 @@ std::size_t CountTokens(std::string_view text, std::size_t limit) {
   for (std::size_t position = SkipTrimmed(text, 0); position < text.size() && count < limit;
        position = SkipTrimmed(text, position)) {
     position = TokenEnd(text, position);
-    if (position == kNone)
-      break;
+    if (position == kNone) break;
     ++count;
   }
   return count;
@@ -75,8 +71,7 @@ void TokenCounter::Continue(std::string_view text) {
   while (true) {
     if (!inQuotes_) {
       position_ = SkipTrimmed(text, position_);
-      if (position_ == text.size())
-        return;
+      if (position_ == text.size()) return;
       inQuotes_ = text[position_] == '"';
       ++position_;
     }
@@ -96,15 +91,13 @@ void TokenCounter::Continue(std::string_view text) {
 }
 
 std::size_t UnquoteInto(std::string_view token, char* out) {
-  if (token.empty() || token.front() != '"')
-    return 0;
+  if (token.empty() || token.front() != '"') return 0;
   char* const begin = out;
   for (std::size_t i = 1; i < token.size(); ++i) {
     const char next = i + 1 < token.size() ? token[i + 1] : '\0';
     char c = token[i];
     if (c == '"') {
-      if (next != '"')
-        break;
+      if (next != '"') break;
       ++i;
     } else if (c == '\\' && i + 1 < token.size()) {
       constexpr std::string_view kEscapes = "\"\\'nrt";

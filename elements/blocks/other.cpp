@@ -16,8 +16,7 @@ bool VoA2LElementCalibrationHandle::ParseParameters(std::string_view& text) {
     }
     const auto [handle, ok] = ReadSigned(token);
     HANDLE.PushBack(*store, handle);
-    if (!ok)
-      return false;
+    if (!ok) return false;
   }
   return true;
 }
@@ -27,8 +26,7 @@ bool VoA2LElementTransformer::ParseParameters(std::string_view& text) {
   VERSION = ReadText(*store, text);
   EXECUTABLE32 = ReadText(*store, text);
   EXECUTABLE64 = ReadText(*store, text);
-  if (!ReadUnsigned(NextToken(text)).ok)
-    return false;
+  if (!ReadUnsigned(NextToken(text)).ok) return false;
   NextToken(text);  // the trigger
   NextToken(text);  // the inverse transformer
   return true;

@@ -10,8 +10,7 @@ bool VoA2LElementVarForbiddenComb::ParseParameters(std::string_view& text) {
   for (text = Trim(text); !text.empty(); text = Trim(text)) {
     CRITERION_NAME.PushBack(*store, ReadIdentifier(*store, text));
     const std::string_view value = ReadIdentifier(*store, text);
-    if (value.empty())
-      return false;
+    if (value.empty()) return false;
     VALUE.PushBack(*store, value);
   }
   return true;

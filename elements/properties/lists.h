@@ -28,8 +28,7 @@ class ListProperty : public ElementClass<Class> {
       WriteLine(out, level, Format(format, std::span(&value, 1)));
       format = Class::nextLine;
     });
-    if (format == Class::firstLine)
-      WriteLine(out, level, KindToKeyword(kKind));
+    if (format == Class::firstLine) WriteLine(out, level, KindToKeyword(kKind));
   }
   [[nodiscard]] bool WritesChildren() const override { return false; }
 };
