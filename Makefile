@@ -23,7 +23,7 @@ build: configure
 	cmake --build --preset release -j $(JOBS) --target a2l2json
 
 demo: build
-	$(PROGRAM) examples/demo.a2l > build/demo.json
+	$(PROGRAM) examples/demo.a2l build/demo.json
 	@head -c 400 build/demo.json; echo
 
 test: build

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+//
+// The golden cases: tests/cases/<topic>/<name>.a2l with what must come of it beside it.
+//
+//   <name>.out      the console text; the name begins with ok_ (exit code 0, no message), warn_
+//                   (0, with warnings) or fail_ (-2)
+//   <name>.json     the document, for ok_ and warn_
+//   <name>.written  optional: the tree, written back as A2L text
+//
+// A new case needs no code. With A2L2JSON_UPDATE_CASES=1 in the environment, what the program
+// makes of the cases replaces the expected files, for a look at the difference; never to make a
+// test pass.
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "export/json11_document.h"
+#include "export/json_writer.h"
+#include "tests/support/files.h"
+#include "tests/support/trees.h"
+
+namespace a2l::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Case {
+  fs::path path;  // of the .a2l file
+
+  [[nodiscard]] fs::path With(const char* extension) const {
+    return fs::path(path).replace_extension(extension);
+  }
+  [[nodiscard]] bool Is(const char* prefix) const {
+    return path.filename().string().starts_with(prefix);
+  }
+  [[nodiscard]] std::string Name() const {
+    return path.parent_path().filename().string() + "_" + path.stem().string();
+  }
+};
+
+void PrintTo(const Case& golden, std::ostream* out) {
+  *out << golden.Name();
+}
+
+std::vector<Case> AllCases() {
+  std::vector<Case> cases;
+  for (const auto& entry : fs::recursive_directory_iterator(A2L2JSON_CASES)) {
+    if (entry.path().extension() == ".a2l") cases.push_back({entry.path()});
+  }
+  std::ranges::sort(cases, {}, &Case::path);
+  return cases;
+}
+
+bool Updates() {
+  return std::getenv("A2L2JSON_UPDATE_CASES") != nullptr;
+}
+
+void ExpectFile(const fs::path& path, const std::string& actual) {
+  if (Updates()) {
+    WriteFile(path, actual);
+  } else {
+    EXPECT_EQ(ReadFile(path), actual) << path;
+  }
+}
+
+class Golden : public testing::TestWithParam<Case> {};
+
+TEST_P(Golden, ProgramGivesConsoleTextExitCodeAndDocument) {
+  const Case& golden = GetParam();
+  const TemporaryFolder folder;
+  const fs::path json = folder / "out.json";
+  const RunResult run = RunProgram(Quoted(golden.path) + " " + Quoted(json));
+
+  EXPECT_EQ(run.err, "");
+  ExpectFile(golden.With(".out"), run.out);
+  if (golden.Is("fail_")) {
+    EXPECT_EQ(run.exitCode, 254);
+    EXPECT_FALSE(fs::exists(json));
+    EXPECT_FALSE(fs::exists(golden.With(".json"))) << "a failing case has no document";
+    return;
+  }
+  EXPECT_TRUE(golden.Is("ok_") || golden.Is("warn_")) << "unknown prefix";
+  EXPECT_EQ(run.exitCode, 0);
+  EXPECT_EQ(run.out == "Success.\n\n", golden.Is("ok_")) << "warnings and the name disagree";
+  ExpectFile(golden.With(".json"), ReadFile(json));
+}
+
+TEST_P(Golden, LibraryGivesTheSameDocumentThroughJson11) {
+  const Case& golden = GetParam();
+  const Reading reading = Read(ReadFile(golden.path));
+  EXPECT_EQ(reading.ok, !golden.Is("fail_"));
+  if (reading.ok) {
+    EXPECT_EQ(ToJson(*reading.root), ToJson11(*reading.root).dump());
+  }
+}
+
+TEST_P(Golden, TreeIsWrittenBack) {
+  const Case& golden = GetParam();
+  if (!fs::exists(golden.With(".written"))) return;
+  const Reading reading = Read(ReadFile(golden.path));
+  ASSERT_TRUE(reading.ok);
+  ExpectFile(golden.With(".written"), Written(*reading.root));
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, Golden, testing::ValuesIn(AllCases()),
+                         [](const auto& instance) { return instance.param.Name(); });
+
+TEST(GoldenFolders, HoldNothingButCases) {
+  ASSERT_FALSE(AllCases().empty());
+  for (const auto& entry : fs::recursive_directory_iterator(A2L2JSON_CASES)) {
+    if (entry.is_directory()) {
+      EXPECT_FALSE(fs::is_empty(entry.path())) << entry.path();
+      continue;
+    }
+    const std::string extension = entry.path().extension().string();
+    EXPECT_TRUE(extension == ".a2l" || extension == ".out" || extension == ".json" ||
+                extension == ".written")
+        << entry.path();
+    EXPECT_TRUE(fs::exists(fs::path(entry.path()).replace_extension(".a2l"))) << entry.path();
+  }
+}
+
+}  // namespace
+}  // namespace a2l::test

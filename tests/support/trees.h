@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+//
+// Trees, for tests.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "model/element.h"
+#include "reader/a2l_reader.h"
+
+namespace a2l::test {
+
+struct TreeDeleter {
+  void operator()(VoA2LElement* root) const { DestroyTree(root); }
+};
+
+/// A tree that is destroyed with its owner.
+using Tree = std::unique_ptr<VoA2LElement, TreeDeleter>;
+
+/// What the reader made of a text.
+struct Reading {
+  bool ok;
+  Tree root;
+  A2LReader reader;
+};
+
+Reading Read(std::string_view text);
+
+/// The tree as A2L text.
+std::string Written(VoA2LElement& element, int level = 0);
+
+}  // namespace a2l::test
