@@ -153,7 +153,7 @@ Converted<double> ReadReal(std::string_view token) {
 }
 
 void AppendShortest(std::string& text, double value) {
-  std::array<char, 32> buffer;
+  std::array<char, 32> buffer{};
   const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
   text.append(buffer.data(), end);
 }

@@ -126,7 +126,7 @@ class HexText {
   }
 
  private:
-  std::array<char, 10> text_;
+  std::array<char, 10> text_{};
   std::size_t begin_ = text_.size();
 };
 

@@ -37,7 +37,7 @@ constexpr std::size_t FirstSlot(std::string_view text) {
     return static_cast<std::uint32_t>(static_cast<unsigned char>(text[i]));
   };
   const std::size_t n = text.size();
-  std::uint32_t hash = static_cast<std::uint32_t>(n);
+  auto hash = static_cast<std::uint32_t>(n);
   for (const std::size_t i : {std::size_t{0}, n / 4, n / 2, n - n / 4 - 1, n - 1}) {
     hash = (hash ^ byte(i)) * 0x9E3779B1U;
   }

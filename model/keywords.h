@@ -48,10 +48,10 @@ inline constexpr std::size_t kKeywordCount = 205;
 /// A dense number for tables indexed by kind: 0 to kKeywordCount - 1 in the order of the
 /// keyword list, kKeywordCount for KIND_UNKNOWN, kKeywordCount + 1 for everything else.
 [[nodiscard]] constexpr std::size_t KindIndex(ElementKind kind) {
-  const auto number = static_cast<std::int32_t>(kind);
-  if (number >= 1 && number <= 20) return static_cast<std::size_t>(number - 1);
-  if (number >= 100 && number <= 141) return static_cast<std::size_t>(number - 100 + 20);
-  if (number >= 1001 && number <= 1143) return static_cast<std::size_t>(number - 1001 + 62);
+  const auto number = static_cast<std::size_t>(kind);
+  if (number >= 1 && number <= 20) return number - 1;
+  if (number >= 100 && number <= 141) return number - 100 + 20;
+  if (number >= 1001 && number <= 1143) return number - 1001 + 62;
   return kind == KIND_UNKNOWN ? kKeywordCount : kKeywordCount + 1;
 }
 

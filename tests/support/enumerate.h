@@ -16,8 +16,7 @@ inline std::vector<std::string> AllTexts(std::string_view alphabet, std::size_t 
   for (std::size_t begin = 0, n = 0; n < length; ++n) {
     const std::size_t end = texts.size();
     for (; begin < end; ++begin) {
-      for (const char c : alphabet)
-        texts.push_back(texts[begin] + c);
+      for (const char c : alphabet) texts.push_back(texts[begin] + c);
     }
   }
   return texts;

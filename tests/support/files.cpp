@@ -52,6 +52,7 @@ RunResult RunProgram(const std::string& arguments) {
   command = "\"" + command + "\"";
   const int exitCode = std::system(command.c_str());
 #else
+  // NOLINTNEXTLINE(concurrency-mt-unsafe): tests run one after the other
   const int status = std::system(command.c_str());
   const int exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 #endif
