@@ -15,6 +15,7 @@
 // in place of the values.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -44,9 +45,8 @@ inline std::string_view ReadText(TreeStore& store, std::string_view& text) {
   const std::string_view token = NextToken(text);
   if (token.size() < 2 || token.front() != '"') return {};
   const std::string_view inside = token.substr(1, token.size() - 2);
-  if (token.back() == '"' && inside.find_first_of("\"\\") == std::string_view::npos) {
-    return store.Copy(inside);
-  }
+  const bool plain = std::ranges::none_of(inside, [](char c) { return c == '"' || c == '\\'; });
+  if (token.back() == '"' && plain) return store.Copy(inside);
   char* const bytes = store.AllocateBytes(token.size());
   return {bytes, UnquoteInto(token, bytes)};
 }

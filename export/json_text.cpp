@@ -41,6 +41,20 @@ char EscapeOf(char c) {
   return kEscapes[static_cast<unsigned char>(c)];
 }
 
+// True when no byte of a block can need an escape. All bytes are tested at once, each in the top
+// bit of its place in a 64-bit word: it is set in a byte that is not ASCII, and a subtraction sets
+// it in one that is too small (a control character; or, after the exclusive or, the quote or the
+// backslash itself). Escaping byte by byte takes three times the instructions.
+constexpr std::size_t kBlockSize = 8;
+bool IsPlainBlock(const char* bytes) {
+  constexpr std::uint64_t kEach = 0x0101010101010101;
+  std::uint64_t block = 0;
+  std::memcpy(&block, bytes, kBlockSize);
+  const std::uint64_t special = block | (block - kEach * ' ') | ((block ^ (kEach * '"')) - kEach) |
+                                ((block ^ (kEach * '\\')) - kEach);
+  return (special & (kEach * 0x80)) == 0;
+}
+
 bool IsLineSeparator(std::string_view text) {
   return text.starts_with("\xE2\x80\xA8") || text.starts_with("\xE2\x80\xA9");
 }
@@ -114,6 +128,11 @@ void JsonText::PutEscaped(std::string_view text) {
   Reserve(text.size() * kMostEscapeBytes);
   char* out = buffer_.get() + used_;
   for (std::size_t i = 0; i < text.size(); ++i) {
+    for (; i + kBlockSize <= text.size() && IsPlainBlock(text.data() + i); i += kBlockSize) {
+      std::memcpy(out, text.data() + i, kBlockSize);
+      out += kBlockSize;
+    }
+    if (i == text.size()) break;
     const char escape = EscapeOf(text[i]);
     if (escape == kPlain || (escape == kLineSeparator && !IsLineSeparator(text.substr(i)))) {
       *out++ = text[i];

@@ -16,14 +16,13 @@ bool OpensComment(std::string_view text, std::size_t slash) {
 
 // Position of the first comment outside of quoted texts; kNone without one.
 std::size_t FindComment(std::string_view text) {
-  for (std::size_t i = text.find_first_of("/\""); i != kNone; i = text.find_first_of("/\"", i)) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
     if (text[i] == '"') {
       i = FindClosingQuote(text, i + 1);
       if (i == kNone) return kNone;
-    } else if (OpensComment(text, i)) {
+    } else if (text[i] == '/' && OpensComment(text, i)) {
       return i;
     }
-    ++i;
   }
   return kNone;
 }

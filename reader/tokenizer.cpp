@@ -8,13 +8,19 @@ namespace {
 
 constexpr std::size_t kNone = std::string_view::npos;
 
+// Tokens are short: a loop finds their end sooner than a call of memchr.
+std::size_t FindBlank(std::string_view text, std::size_t position) {
+  while (position < text.size() && text[position] != ' ') ++position;
+  return position;
+}
+
 // Position behind the token that begins at `start`; kNone for an unclosed quoted text.
 std::size_t TokenEnd(std::string_view text, std::size_t start) {
   if (text[start] == '"') {
     const std::size_t close = FindClosingQuote(text, start + 1);
     return close == kNone ? kNone : close + 1;
   }
-  return std::min(text.find(' ', start), text.size());
+  return FindBlank(text, start);
 }
 
 std::size_t SkipTrimmed(std::string_view text, std::size_t position) {
@@ -84,7 +90,7 @@ void TokenCounter::Continue(std::string_view text) {
       position_ = close + 1;
       inQuotes_ = false;
     } else {
-      position_ = std::min(text.find(' ', position_), text.size());
+      position_ = FindBlank(text, position_);
     }
     ++count_;
   }
