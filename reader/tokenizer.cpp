@@ -35,11 +35,6 @@ std::string_view TrimEnd(std::string_view text) {
 
 }  // namespace
 
-std::string_view Trim(std::string_view text) {
-  text.remove_prefix(SkipTrimmed(text, 0));
-  return TrimEnd(text);
-}
-
 std::size_t FindClosingQuote(std::string_view text, std::size_t from) {
   for (std::size_t i = text.find('"', from); i != kNone; i = text.find('"', i)) {
     if (text[i - 1] == '\\') {

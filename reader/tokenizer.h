@@ -17,11 +17,16 @@ namespace a2l {
 
 /// True for the bytes that Trim removes: blank, tab, line feed and carriage return.
 [[nodiscard]] constexpr bool IsTrimmed(char c) {
-  return c == ' ' || c == '\t' || c == '\n' || c == '\r';
+  return c <= ' ' && (c == ' ' || c == '\t' || c == '\n' || c == '\r');
 }
 
-/// `text` without blanks, tabs, line feeds and carriage returns at its two ends.
-[[nodiscard]] std::string_view Trim(std::string_view text);
+/// `text` without blanks, tabs, line feeds and carriage returns at its two ends. Every token of a
+/// file passes through here, mostly with nothing to remove; hence inline.
+[[nodiscard]] constexpr std::string_view Trim(std::string_view text) {
+  while (!text.empty() && IsTrimmed(text.front())) text.remove_prefix(1);
+  while (!text.empty() && IsTrimmed(text.back())) text.remove_suffix(1);
+  return text;
+}
 
 /// Trims `text`, cuts the first token off its front and returns it, itself trimmed. The rest
 /// stays as it stands, with the blank that ended the token; empty text gives an empty token. A
