@@ -148,7 +148,7 @@ Converted<double> ReadReal(std::string_view token) {
   } else {
     number = convert(token, std::chars_format::general);
   }
-  if (negative) number.value = -number.value;
+  if (negative && number.ok) number.value = -number.value;
   return number;
 }
 
