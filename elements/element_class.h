@@ -6,6 +6,7 @@
 //
 //   parameters   the fixed parameters (fields.h); none by default
 //   onBadNumber  what a wrong number among them does; the first one ends the read by default
+//   openParameterList  set where a class reads an open list by itself
 //   rows         the second run of values of the conversion tables
 //   revision     the revision of the standard, where it is not 1.6.0
 //   accepts      blocks: the kinds of children, KIND_UNKNOWN understood; by default those of
@@ -23,6 +24,7 @@
 #include <span>
 #include <string_view>
 #include <tuple>
+#include <type_traits>
 
 #include "elements/fields.h"
 #include "model/element.h"
@@ -67,6 +69,7 @@ class ElementClass : public VoA2LElement {
 
   static constexpr auto parameters = Parameters();
   static constexpr auto onBadNumber = OnBadNumber::Stop;
+  static constexpr bool openParameterList = false;
   static constexpr auto rows = nullptr;
   static constexpr std::uint32_t revision = kRevision160;
 
@@ -114,6 +117,8 @@ class ElementClass : public VoA2LElement {
     hasMoreParameters = kHasRows ? 1 : 0;
   }
 
+  [[nodiscard]] int LevelsToChildren() const override { return 1; }
+
   [[nodiscard]] Self& This() { return static_cast<Self&>(*this); }
   [[nodiscard]] const Self& This() const { return static_cast<const Self&>(*this); }
 
@@ -139,6 +144,7 @@ class ElementClass : public VoA2LElement {
 
   // A list makes the count open, whatever stands before it.
   static constexpr std::uint32_t ParameterCount() {
+    if (Self::openParameterList) return kOpenParameterList;
     return std::apply(
         [](const auto&... field) {
           return std::min((std::uint32_t{0} + ... + field.kTokens), kOpenParameterList);
@@ -236,14 +242,14 @@ class Property : public ElementClass<Class> {
   [[nodiscard]] bool WritesChildren() const override { return false; }
 };
 
-/// A property with a keyword per axis. One class serves them all; Create is followed by setting
-/// `kind`, and the line begins with the keyword of that kind.
+/// A property with a keyword per axis. One class serves them all: the constructor takes the kind
+/// (by default the first, that of the X axis), and the line begins with the keyword of that kind.
 template <class Class, ElementKind... kKinds>
 class AxisProperty : public ElementClass<Class> {
  public:
   static constexpr std::array kinds = {kKinds...};
 
-  AxisProperty() : ElementClass<Class>(kinds[0]) {}
+  explicit AxisProperty(ElementKind axisKind = kinds[0]) : ElementClass<Class>(axisKind) {}
 
  protected:
   void WriteOpening(int level, std::ostream& out) const override {

@@ -60,7 +60,7 @@ struct Identifier {
   static constexpr std::uint32_t kTokens = 1;
   static constexpr std::size_t kPlaces = 1;
   bool Read(Self& self, std::string_view& text) const {
-    self.*member = ReadIdentifier(*self.store, text);
+    self.*member = ReadIdentifier(self.Store(), text);
     return true;
   }
   void Append(const Self& self, Arguments& arguments) const {
@@ -77,7 +77,7 @@ struct Text {
   static constexpr std::uint32_t kTokens = 1;
   static constexpr std::size_t kPlaces = 1;
   bool Read(Self& self, std::string_view& text) const {
-    self.*member = ReadText(*self.store, text);
+    self.*member = ReadText(self.Store(), text);
     return true;
   }
   void Append(const Self& self, Arguments& arguments) const {
@@ -188,7 +188,7 @@ struct TokenList {
   bool Read(Self& self, std::string_view& text) const {
     (self.*member).Clear();
     for (text = Trim(text); !text.empty(); text = Trim(text)) {
-      (self.*member).PushBack(*self.store, kRead(*self.store, text));
+      (self.*member).PushBack(self.Store(), kRead(self.Store(), text));
     }
     return true;
   }
@@ -231,7 +231,7 @@ struct NumberList {
     (self.*member).Clear();
     for (text = Trim(text); !text.empty(); text = Trim(text)) {
       const auto [value, ok] = kRead(NextToken(text));
-      if (ok || kBadItem == BadItem::KeepAsZero) (self.*member).PushBack(*self.store, value);
+      if (ok || kBadItem == BadItem::KeepAsZero) (self.*member).PushBack(self.Store(), value);
       if (!ok) return false;
     }
     return true;
@@ -273,7 +273,7 @@ struct RealColumn {
 
   bool Read(Self& self, std::string_view& text) const {
     const auto [value, ok] = ReadReal(NextToken(text));
-    (self.*member).PushBack(*self.store, value);
+    (self.*member).PushBack(self.Store(), value);
     return ok;
   }
   std::size_t Size(const Self& self) const { return (self.*member).size(); }
@@ -288,7 +288,7 @@ struct TextColumn {
   constexpr explicit TextColumn(List<std::string_view> Self::*field) : member(field) {}
 
   bool Read(Self& self, std::string_view& text) const {
-    (self.*member).PushBack(*self.store, ReadText(*self.store, text));
+    (self.*member).PushBack(self.Store(), ReadText(self.Store(), text));
     return true;
   }
   std::size_t Size(const Self& self) const { return (self.*member).size(); }

@@ -11,9 +11,7 @@
 namespace a2l {
 namespace {
 
-constexpr bool IsSpace(char c) {
-  return c == ' ' || (c >= '\t' && c <= '\r');
-}
+constexpr bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
 // The value of a digit in any base up to 16; 16 for what is none.
 constexpr unsigned DigitValue(char c) {
@@ -87,9 +85,13 @@ bool IsTooLarge(std::string_view digits, bool hexadecimal) {
     }
   }
   std::int64_t exponent = 0;
-  if (i < digits.size()) {
-    digits.remove_prefix(i + 1);
-    const bool negative = TakeSign(digits);
+  digits.remove_prefix(i);
+  const bool hasExponent = hexadecimal ? digits.starts_with('p') || digits.starts_with('P')
+                                       : digits.starts_with('e') || digits.starts_with('E');
+  if (hasExponent) {
+    digits.remove_prefix(1);
+    const bool negative = digits.starts_with('-');
+    if (negative || digits.starts_with('+')) digits.remove_prefix(1);
     for (const char c : digits) {
       if (DigitValue(c) >= 10) break;
       exponent = std::min<std::int64_t>(exponent * 10 + DigitValue(c), std::int64_t{1} << 40);
@@ -140,11 +142,11 @@ Converted<double> ReadReal(std::string_view token) {
     return Converted<double>{value, error != std::errc::invalid_argument};
   };
   Converted<double> number{0, false};
-  if (IsHexPrefix(token) && token[2] != '-') {
+  if (IsHexPrefix(token)) {
     // Without a digit behind it, "0x" is the number 0 and a rest.
-    number = convert(token.substr(2), std::chars_format::hex);
-    const bool word = number.ok && !std::isfinite(number.value) && DigitValue(token[2]) == 16;
-    if (!number.ok || word) number = {0, true};
+    const bool digits = token[2] == '.' || DigitValue(token[2]) < 16;
+    if (digits) number = convert(token.substr(2), std::chars_format::hex);
+    if (!number.ok) number = {0, true};
   } else {
     number = convert(token, std::chars_format::general);
   }

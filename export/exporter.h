@@ -4,7 +4,7 @@
 // them to a sink, which knows how JSON is made. A sink has:
 //
 //   BeginObject, EndObject, BeginArray, EndArray
-//   Key(key)       before each value of an object
+//   Key(key)       before each value of an object: a KeyText, or text from the file
 //   NullMember(key)  a member without a value
 //   Item()         before each value of an array
 //   Null, Bool, Integer, Real, String    the values

@@ -130,18 +130,10 @@ class HexText {
   std::size_t begin_ = text_.size();
 };
 
-inline void AppendItem(std::string& text, std::string_view item) {
-  text += item;
-}
-inline void AppendItem(std::string& text, double item) {
-  AppendShortest(text, item);
-}
-inline void AppendItem(std::string& text, std::uint32_t item) {
-  text += std::to_string(item);
-}
-inline void AppendItem(std::string& text, std::int32_t item) {
-  text += std::to_string(item);
-}
+inline void AppendItem(std::string& text, std::string_view item) { text += item; }
+inline void AppendItem(std::string& text, double item) { AppendShortest(text, item); }
+inline void AppendItem(std::string& text, std::uint32_t item) { text += std::to_string(item); }
+inline void AppendItem(std::string& text, std::int32_t item) { text += std::to_string(item); }
 
 /// Items joined by commas, whole numbers in decimal, reals in their shortest form.
 template <class Items>

@@ -37,9 +37,7 @@ constexpr auto kEscapes = [] {
   return escapes;
 }();
 
-char EscapeOf(char c) {
-  return kEscapes[static_cast<unsigned char>(c)];
-}
+char EscapeOf(char c) { return kEscapes[static_cast<unsigned char>(c)]; }
 
 // True when no byte of a block can need an escape. All bytes are tested at once, each in the top
 // bit of its place in a 64-bit word: it is set in a byte that is not ASCII, and a subtraction sets
@@ -101,9 +99,10 @@ void JsonText::Real(double value) {
   Reserve(kMostNumberBytes);
   char* const begin = buffer_.get() + used_;
   char* const end = begin + kMostNumberBytes;
-  // Most reals in a file are whole numbers, whose 17 significant digits are their decimal ones.
+  // Most reals in a file are whole numbers, whose 17 significant digits are their decimal ones. A
+  // number too large for that is compared with 0, which it is not.
   constexpr double kMostWhole = 1e15;
-  const auto whole = static_cast<std::int64_t>(std::abs(value) < kMostWhole ? value : 0.5);
+  const auto whole = static_cast<std::int64_t>(std::abs(value) < kMostWhole ? value : 0);
   const auto result = static_cast<double>(whole) == value && !(whole == 0 && std::signbit(value))
                           ? std::to_chars(begin, end, whole)
                           : std::to_chars(begin, end, value, std::chars_format::general, 17);
@@ -113,10 +112,10 @@ void JsonText::Real(double value) {
 void JsonText::String(std::string_view text) {
   PutByte('"');
   while (text.size() > kPieceSize) {
-    // A line separator must not fall between two pieces.
+    // A line separator, three bytes, must not fall between two pieces.
     std::size_t size = kPieceSize;
-    while (EscapeOf(text[size - 1]) == kLineSeparator || EscapeOf(text[size - 2]) == kLineSeparator)
-      --size;
+    if (IsLineSeparator(text.substr(kPieceSize - 1))) size -= 1;
+    if (IsLineSeparator(text.substr(kPieceSize - 2))) size -= 2;
     PutEscaped(text.substr(0, size));
     text.remove_prefix(size);
   }

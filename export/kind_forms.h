@@ -297,15 +297,15 @@ inline constexpr KindForm kKindForms[] = {
 };
 
 /// The form of the elements of `kind`, which must be in the list above.
-constexpr Form FormOf(ElementKind kind) {
+consteval Form FormOf(ElementKind kind) {
   for (const KindForm& row : kKindForms) {
     if (row.kind == kind) return row.form;
   }
-  throw "a kind without a JSON form";  // not a constant expression: the build ends here
+  throw "a kind without a JSON form";  // ends the build: this never runs
 }
 
 /// The first child of `kind`.
-constexpr Row Child(std::string_view key, ElementKind kind, Absent absent = Absent::Null) {
+consteval Row Child(std::string_view key, ElementKind kind, Absent absent = Absent::Null) {
   return {.key = key,
           .source = Source::FirstChild,
           .absent = absent,
@@ -314,7 +314,7 @@ constexpr Row Child(std::string_view key, ElementKind kind, Absent absent = Abse
 }
 
 /// The first child of either kind, whichever comes first in the file.
-constexpr Row EitherChild(std::string_view key, ElementKind kind, ElementKind otherKind) {
+consteval Row EitherChild(std::string_view key, ElementKind kind, ElementKind otherKind) {
   Row row = Child(key, kind);
   row.otherKind = otherKind;
   row.otherForm = FormOf(otherKind);

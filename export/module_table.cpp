@@ -55,8 +55,6 @@ constexpr ObjectTable kModule = MakeTable<kModuleRows>();
 }  // namespace
 }  // namespace tables
 
-const ObjectTable& ModuleTable() {
-  return tables::kModule;
-}
+const ObjectTable& ModuleTable() { return tables::kModule; }
 
 }  // namespace a2l

@@ -115,9 +115,7 @@ consteval ObjectTable MakeTable() {
 }
 
 /// A parameter of the element.
-constexpr Row Field(std::string_view key, Form form) {
-  return {.key = key, .form = form};
-}
+constexpr Row Field(std::string_view key, Form form) { return {.key = key, .form = form}; }
 
 /// Whether there is a child of `kind`.
 constexpr Row Flag(std::string_view key, ElementKind kind) {
@@ -137,8 +135,6 @@ constexpr Row Found(std::string_view key, const VoA2LElement* (*find)(const VoA2
 }
 
 /// A key that never has a value.
-constexpr Row Never(std::string_view key) {
-  return {.key = key};
-}
+constexpr Row Never(std::string_view key) { return {.key = key}; }
 
 }  // namespace a2l

@@ -5,6 +5,7 @@
 #include <fstream>
 #include <memory>
 #include <ostream>
+#include <utility>
 #include <vector>
 
 namespace a2l {
@@ -27,34 +28,30 @@ void MoveVersionsToFront(List<VoA2LElement*>& children) {
 
 }  // namespace
 
-bool VoA2LElement::ParseParameters(std::string_view& /*text*/) {
-  return true;
-}
+bool VoA2LElement::ParseParameters(std::string_view& /*text*/) { return true; }
 
-bool VoA2LElement::ParseMoreParameters(std::string_view& /*text*/) {
-  return HasMoreParameters();
-}
+bool VoA2LElement::ParseMoreParameters(std::string_view& /*text*/) { return HasMoreParameters(); }
 
-bool VoA2LElement::AddChild(VoA2LElement* child) {
-  return Attach(child, kBaseChildren);
-}
+bool VoA2LElement::AddChild(VoA2LElement* child) { return Attach(child, kBaseChildren); }
 
-std::int32_t VoA2LElement::MoreParameterCount() const {
-  return HasMoreParameters() ? 0 : -1;
+std::int32_t VoA2LElement::MoreParameterCount() const { return HasMoreParameters() ? 0 : -1; }
+
+void VoA2LElement::MakeStore() {
+  store = new TreeStore;  // released by DestroyTree
+  store->root = this;
 }
 
 bool VoA2LElement::Attach(VoA2LElement* child, const KindSet& accepted) {
   if (child->parent == nullptr) child->parent = this;
   if (child->parent != this || !accepted.Contains(child->kind)) return false;
-  children.PushBack(*store, child);
+  children.PushBack(Store(), child);
   return true;
 }
 
 void VoA2LElement::WriteOpening(int /*level*/, std::ostream& /*out*/) const {}
 void VoA2LElement::WriteClosing(int /*level*/, std::ostream& /*out*/) const {}
-bool VoA2LElement::WritesChildren() const {
-  return true;
-}
+int VoA2LElement::LevelsToChildren() const { return 0; }
+bool VoA2LElement::WritesChildren() const { return true; }
 
 bool VoA2LElement::Write(int level, std::ostream& out) {
   if (!TakesText(out)) return false;
@@ -67,7 +64,7 @@ bool VoA2LElement::Write(int level, std::ostream& out) {
   };
   std::vector<Visit> path;
   const auto enter = [&](VoA2LElement* element, int elementLevel) {
-    if (element->kind == KIND_ROOT) MoveVersionsToFront(element->children);
+    if (element->LevelsToChildren() == 0) MoveVersionsToFront(element->children);
     element->WriteOpening(elementLevel, out);
     path.push_back({element, elementLevel, 0});
   };
@@ -77,7 +74,7 @@ bool VoA2LElement::Write(int level, std::ostream& out) {
     VoA2LElement* child =
         visit.element->WritesChildren() ? visit.element->Child(visit.nextChild++) : nullptr;
     if (child != nullptr) {
-      enter(child, visit.element->kind == KIND_ROOT ? visit.level : visit.level + 1);
+      enter(child, visit.level + visit.element->LevelsToChildren());
     } else {
       visit.element->WriteClosing(visit.level, out);
       path.pop_back();
@@ -101,9 +98,10 @@ VoA2LElement* NewTree() {
 }
 
 void DestroyTree(VoA2LElement* element) {
-  if (element == nullptr) return;
+  if (element == nullptr || element->store == nullptr) return;
   if (element->store->root == element) {
-    delete element->store;
+    element->children = {};
+    delete std::exchange(element->store, nullptr);
   } else if (element->parent != nullptr) {
     element->parent->children.Remove(element);
   }

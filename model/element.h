@@ -25,7 +25,9 @@ inline constexpr std::uint32_t kOpenParameterList = 65535;
 /// every block and property is of a subclass named after its keyword.
 ///
 /// A parent owns its children, and the root the whole tree; the memory itself lies in the
-/// tree's store (see NewTree and DestroyTree). Elements hold no other resource.
+/// tree's store. Elements hold no other resource. NewTree makes a root in a store; an element that
+/// was made without one (a plain root on the stack, say) gets its own when it first needs it.
+/// Either way, DestroyTree ends the tree.
 class VoA2LElement {
  public:
   ElementKind kind = KIND_ROOT;
@@ -35,14 +37,20 @@ class VoA2LElement {
   std::uint32_t paramCount = 0;
   /// Set where a second run of values (the rows of a table) follows the fixed parameters.
   std::uint8_t hasMoreParameters = 0;
-  /// Cleared when parameters of an object or of one of its properties were wrong.
-  std::uint8_t valid = 1;
   /// The block that holds this element; null for the root and for an element not yet attached.
   VoA2LElement* parent = nullptr;
   /// The elements inside this one, in file order.
-  List<VoA2LElement*> children;
-  /// The memory that this element and its tree lie in.
+  [[no_unique_address]] List<VoA2LElement*> children;
+  /// Cleared when parameters of an object or of one of its properties were wrong.
+  std::uint8_t valid = 1;
+  /// The memory that this element and its tree lie in; see Store.
   TreeStore* store = nullptr;
+
+  /// The store, made where there is none yet: this element is then the root of its tree.
+  [[nodiscard]] TreeStore& Store() {
+    if (store == nullptr) MakeStore();
+    return *store;
+  }
 
   /// Takes the parameters off the front of `text`, which holds them in file order without the
   /// keyword, and stores them; what is not used stays in `text`. False when they are wrong, by
@@ -84,8 +92,14 @@ class VoA2LElement {
   /// calls them on the way through the tree, which it walks without recursion.
   virtual void WriteOpening(int level, std::ostream& out) const;
   virtual void WriteClosing(int level, std::ostream& out) const;
+  /// How much deeper than this element its children are written: 0 in the base, which has no
+  /// lines of its own.
+  [[nodiscard]] virtual int LevelsToChildren() const;
   /// False for the elements whose children do not appear in A2L text.
   [[nodiscard]] virtual bool WritesChildren() const;
+
+ private:
+  void MakeStore();
 };
 
 /// The children that the root accepts, and every element that states no others.
@@ -100,8 +114,9 @@ inline constexpr KindSet kBaseChildren = {ElementKind::PROJECT, ElementKind::A2M
 [[nodiscard]] VoA2LElement* NewTree();
 
 /// Releases `element` with everything below it; nothing for null. Called with the root of a
-/// tree, it returns the tree's memory, root included, at once; called with an element inside a
-/// tree, it takes the element out of its parent's children and its memory goes with the tree.
+/// tree, it returns the tree's memory at once, with the root where NewTree made it (a root on the
+/// stack is left without children); called with an element inside a tree, it takes the element
+/// out of its parent's children, and its memory goes with the tree.
 void DestroyTree(VoA2LElement* element);
 
 }  // namespace a2l

@@ -33,11 +33,11 @@ class TreeStore {
 
   /// Makes an element that belongs to this store, with `parent` (may be null) as its parent
   /// link. It is not yet among the parent's children: that is AddChild's decision.
-  template <class Element>
-  Element* Create(VoA2LElement* parent = nullptr) {
+  template <class Element, class... Argument>
+  Element* Create(VoA2LElement* parent = nullptr, Argument... arguments) {
     static_assert(std::is_trivially_destructible_v<Element>,
                   "elements are released with their store, their destructors never run");
-    auto* element = new (memory_.allocate(sizeof(Element), alignof(Element))) Element;
+    auto* element = new (memory_.allocate(sizeof(Element), alignof(Element))) Element(arguments...);
     element->parent = parent;
     element->store = this;
     return element;
@@ -75,7 +75,7 @@ class TreeStore {
   };
 
   std::pmr::monotonic_buffer_resource memory_{std::size_t{64} * 1024};
-  std::array<FreeArray*, 48> freeArrays_{};
+  std::array<FreeArray*, 64> freeArrays_{};
 };
 
 /// A list whose items lie in a TreeStore. It owns nothing itself: the store does.
@@ -108,16 +108,17 @@ class List {
 
  private:
   static constexpr unsigned kFirstSizeClass = 5;
+  static constexpr unsigned kMostSizeClass = 62;
 
   [[nodiscard]] std::size_t Capacity() const {
     return items_ == nullptr ? 0 : (std::size_t{1} << sizeClass_) / sizeof(Item);
   }
 
   void Grow(TreeStore& store) {
-    const unsigned sizeClass = items_ == nullptr ? kFirstSizeClass : sizeClass_ + 1U;
-    if (sizeClass >= 40 || size_ == std::numeric_limits<std::uint32_t>::max()) {
-      throw std::bad_alloc();
-    }
+    unsigned sizeClass = items_ == nullptr ? kFirstSizeClass : sizeClass_ + 1U;
+    // More items than can be counted are more than any memory holds: the allocation fails.
+    constexpr std::size_t kMostItems = std::numeric_limits<std::uint32_t>::max();
+    if ((std::size_t{1} << sizeClass) / sizeof(Item) > kMostItems) sizeClass = kMostSizeClass;
     auto* items = static_cast<Item*>(store.AllocateArray(sizeClass));
     if (items_ != nullptr) {
       std::memcpy(items, items_, size_ * sizeof(Item));

@@ -21,27 +21,13 @@ std::string_view WordTable::ToText(std::uint32_t code) const {
   return found != words.end() ? found->text : std::string_view{};
 }
 
-DataType DataTypeFromText(std::string_view text) {
-  return words::kDataType.FromText(text);
-}
-IndexOrder IndexOrderFromText(std::string_view text) {
-  return words::kIndexOrder.FromText(text);
-}
-AddrType AddrTypeFromText(std::string_view text) {
-  return words::kAddrType.FromText(text);
-}
+DataType DataTypeFromText(std::string_view text) { return words::kDataType.FromText(text); }
+IndexOrder IndexOrderFromText(std::string_view text) { return words::kIndexOrder.FromText(text); }
+AddrType AddrTypeFromText(std::string_view text) { return words::kAddrType.FromText(text); }
 
-std::string_view DataTypeToText(DataType code) {
-  return words::kDataType.ToText(code);
-}
-std::string_view IndexOrderToText(IndexOrder code) {
-  return words::kIndexOrder.ToText(code);
-}
-std::string_view AddrTypeToText(AddrType code) {
-  return words::kAddrType.ToText(code);
-}
-std::string_view DataSizeToText(DataSize code) {
-  return words::kDataSize.ToText(code);
-}
+std::string_view DataTypeToText(DataType code) { return words::kDataType.ToText(code); }
+std::string_view IndexOrderToText(IndexOrder code) { return words::kIndexOrder.ToText(code); }
+std::string_view AddrTypeToText(AddrType code) { return words::kAddrType.ToText(code); }
+std::string_view DataSizeToText(DataSize code) { return words::kDataSize.ToText(code); }
 
 }  // namespace a2l

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "reader/a2l_reader.h"
 
-#include <fstream>
-
 #include "reader/block_parser.h"
 #include "reader/line_source.h"
 
@@ -10,8 +8,11 @@ namespace a2l {
 
 bool A2LReader::Parse(const std::string& path, VoA2LElement* root) {
   if (root == nullptr) return false;
-  std::ifstream in(path, std::ios::binary);
-  return in.is_open() && Parse(in, root);
+  in_.open(path, std::ios::binary);
+  if (!in_.is_open()) return false;
+  const bool ok = Parse(in_, root);
+  in_.close();
+  return ok;
 }
 
 bool A2LReader::Parse(std::istream& in, VoA2LElement* root) {

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <iosfwd>
+#include <fstream>
+#include <istream>
 #include <string>
 #include <vector>
 
@@ -28,6 +29,8 @@ class A2LReader {
   std::vector<Diagnostic> diagnostics;
 
  private:
+  std::ifstream in_;
+
   void Report(const Diagnostic& diagnostic);
 };
 

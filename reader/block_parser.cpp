@@ -33,7 +33,7 @@ bool BlockParser::Run() {
 
 bool BlockParser::ReadPhysicalLine(std::string_view& line) {
   if (!lines_.Next(line)) return false;
-  ++lineNumber_;
+  ++lineNo_;
   return true;
 }
 
@@ -49,8 +49,11 @@ BlockParser::MarkerPlace BlockParser::FindMarker(std::string_view line, std::siz
 
 bool BlockParser::HandleLine(std::string_view line) {
   // A marker left over from the line before stands in front of this one.
-  MarkerPlace place{std::exchange(pending_, Marker::None), 0, 0};
-  if (place.marker == Marker::None) {
+  MarkerPlace place;
+  if (state_ == State::PendingBegin || state_ == State::PendingEnd) {
+    place.marker = state_ == State::PendingBegin ? Marker::Begin : Marker::End;
+    state_ = State::Idle;
+  } else {
     place = FindMarker(line, 0);
     if (place.marker == Marker::None) return HandlePlain(line);
   }
@@ -72,7 +75,7 @@ bool BlockParser::HandleBegin(std::string_view line, std::string_view text) {
   const std::string_view keyword = NextToken(text);
   const ElementKind kind = KeywordToKind(keyword);
   if (keyword.empty() && remainder_.empty()) {
-    pending_ = Marker::Begin;
+    state_ = State::PendingBegin;
     return true;
   }
   // With another marker behind it, a marker without a keyword would never get one.
@@ -105,7 +108,7 @@ bool BlockParser::HandleEnd(std::string_view line, std::string_view text) {
   if (!CloseCollection(DiagnosticKind::NoParentAtEnd)) return false;
   const std::string_view keyword = NextToken(text);
   if (keyword.empty() && remainder_.empty()) {
-    pending_ = Marker::End;
+    state_ = State::PendingEnd;
     return true;
   }
   while (IsProperty(current_->kind)) {
@@ -130,6 +133,8 @@ bool BlockParser::HandlePlain(std::string_view line) {
       return static_cast<std::int64_t>(counter_.Count()) < needed_ || CompleteCollection();
     case State::CollectOpen:
     case State::Idle:
+    case State::PendingBegin:
+    case State::PendingEnd:
       break;
   }
   std::string_view text = line;
@@ -216,6 +221,8 @@ bool BlockParser::CompleteCollection() {
     case State::Idle:
     case State::CollectOpen:
     case State::RawContent:
+    case State::PendingBegin:
+    case State::PendingEnd:
       break;
   }
   return true;
@@ -225,6 +232,8 @@ bool BlockParser::CloseCollection(DiagnosticKind ifNoParent) {
   std::string_view text = collected_;
   switch (std::exchange(state_, State::Idle)) {
     case State::Idle:
+    case State::PendingBegin:
+    case State::PendingEnd:
       return true;
     case State::CollectParams:
       Warn(DiagnosticKind::NeedMoreParameters, std::to_string(current_->paramCount));
@@ -266,11 +275,11 @@ void BlockParser::ClearValidOfParent() {
 }
 
 void BlockParser::Warn(DiagnosticKind kind, std::string subject) {
-  report_({kind, lineNumber_, std::move(subject)});
+  report_({kind, lineNo_, std::move(subject)});
 }
 
 bool BlockParser::Fail(DiagnosticKind kind, std::string subject) {
-  report_({kind, lineNumber_, std::move(subject)});
+  report_({kind, lineNo_, std::move(subject)});
   return false;
 }
 

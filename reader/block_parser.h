@@ -28,6 +28,9 @@ class BlockParser {
   BlockParser(LineSource& lines, VoA2LElement& root, Report report)
       : lines_(lines), current_(&root), report_(std::move(report)) {}
 
+  BlockParser(const BlockParser&) = delete;
+  BlockParser& operator=(const BlockParser&) = delete;
+
   /// Reads to the end; false at the first error, and when the input cannot be read on.
   bool Run();
 
@@ -39,6 +42,8 @@ class BlockParser {
     CollectPropertyParams,  // the parameters of a property are incomplete
     CollectMoreParams,      // the rows of a table are incomplete
     RawContent,             // everything up to the matching /end is kept as text
+    PendingBegin,           // /begin stood last on its line: its keyword begins the next one
+    PendingEnd,             // the same of /end
   };
   enum class Marker : std::uint8_t { None, Begin, End };
 
@@ -79,12 +84,10 @@ class BlockParser {
   CommentRemover::NextLine nextPhysicalLine_ = [this](std::string_view& line) {
     return ReadPhysicalLine(line);
   };
-  std::size_t lineNumber_ = 0;
+  std::size_t lineNo_ = 0;
 
   /// What follows a second marker on a line, from that marker on.
   std::string_view remainder_;
-  /// A marker that stood last on its line: its keyword begins the next one.
-  Marker pending_ = Marker::None;
 
   VoA2LElement* current_;
   State state_ = State::Idle;

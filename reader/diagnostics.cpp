@@ -42,15 +42,11 @@ constexpr bool StandsAtItsIndex() {
 }
 static_assert(StandsAtItsIndex(), "the messages are not in the order of their kinds");
 
-const Row& RowOf(DiagnosticKind kind) {
-  return kRows[static_cast<std::size_t>(kind)];
-}
+const Row& RowOf(DiagnosticKind kind) { return kRows[static_cast<std::size_t>(kind)]; }
 
 }  // namespace
 
-Severity Diagnostic::GetSeverity() const {
-  return RowOf(kind).severity;
-}
+Severity Diagnostic::GetSeverity() const { return RowOf(kind).severity; }
 
 std::string Diagnostic::Text() const {
   const Row& row = RowOf(kind);

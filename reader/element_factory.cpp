@@ -102,11 +102,15 @@ using AllClasses = ClassList<
     VoA2LElementShiftOpX, VoA2LElementSrcAddrX, VoA2LElementIdentification,
     VoA2LElementFixNoAxisPtsX, VoA2LElementReserved>;
 
-using Creator = VoA2LElement* (*)(VoA2LElement& parent);
+using Creator = VoA2LElement* (*)(VoA2LElement& parent, ElementKind kind);
 
 template <class Class>
-VoA2LElement* Create(VoA2LElement& parent) {
-  return parent.store->Create<Class>(&parent);
+VoA2LElement* Create(VoA2LElement& parent, [[maybe_unused]] ElementKind kind) {
+  if constexpr (Class::kinds.size() > 1) {
+    return parent.Store().Create<Class>(&parent, kind);
+  } else {
+    return parent.Store().Create<Class>(&parent);
+  }
 }
 
 struct CreatorTable {
@@ -144,10 +148,7 @@ static_assert(kTable.noKindTwice, "two element classes share a kind");
 
 VoA2LElement* CreateElement(ElementKind kind, VoA2LElement& parent) {
   const Creator create = kTable.creators[KindIndex(kind)];
-  if (create == nullptr) return nullptr;
-  VoA2LElement* element = create(parent);
-  element->kind = kind;  // one class serves all axes of a family
-  return element;
+  return create != nullptr ? create(parent, kind) : nullptr;
 }
 
 }  // namespace a2l

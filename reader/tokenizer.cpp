@@ -57,15 +57,10 @@ std::string_view NextToken(std::string_view& text) {
   return TrimEnd(token);
 }
 
-std::size_t CountTokens(std::string_view text, std::size_t limit) {
-  std::size_t count = 0;
-  for (std::size_t position = SkipTrimmed(text, 0); position < text.size() && count < limit;
-       position = SkipTrimmed(text, position)) {
-    position = TokenEnd(text, position);
-    if (position == kNone) break;
-    ++count;
-  }
-  return count;
+std::size_t CountTokens(std::string_view text) {
+  TokenCounter counter;
+  counter.Continue(text);
+  return counter.Count();
 }
 
 void TokenCounter::Continue(std::string_view text) {

@@ -9,7 +9,6 @@
 #pragma once
 
 #include <cstddef>
-#include <limits>
 #include <string>
 #include <string_view>
 
@@ -34,9 +33,8 @@ namespace a2l {
 std::string_view NextToken(std::string_view& text);
 
 /// The number of tokens that NextToken would give, but that a quoted text without its closing
-/// quote ends the count and is not counted. Counting stops at `limit`.
-[[nodiscard]] std::size_t CountTokens(std::string_view text,
-                                      std::size_t limit = std::numeric_limits<std::size_t>::max());
+/// quote ends the count and is not counted.
+[[nodiscard]] std::size_t CountTokens(std::string_view text);
 
 /// The contents of a quoted token, escapes replaced: a doubled quote, and a backslash before a
 /// quote, a backslash, an apostrophe or one of the letters n, r and t. Ends before the closing

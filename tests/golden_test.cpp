@@ -43,9 +43,7 @@ struct Case {
   }
 };
 
-void PrintTo(const Case& golden, std::ostream* out) {
-  *out << golden.Name();
-}
+void PrintTo(const Case& golden, std::ostream* out) { *out << golden.Name(); }
 
 std::vector<Case> AllCases() {
   std::vector<Case> cases;
@@ -56,9 +54,7 @@ std::vector<Case> AllCases() {
   return cases;
 }
 
-bool Updates() {
-  return std::getenv("A2L2JSON_UPDATE_CASES") != nullptr;
-}
+bool Updates() { return std::getenv("A2L2JSON_UPDATE_CASES") != nullptr; }
 
 void ExpectFile(const fs::path& path, const std::string& actual) {
   if (Updates()) {

@@ -10,22 +10,22 @@ bool VoA2LElementCalibrationHandle::ParseParameters(std::string_view& text) {
   for (text = Trim(text); !text.empty(); text = Trim(text)) {
     const std::string_view token = NextToken(text);
     if (token.find(KindToKeyword(Kind::CALIBRATION_HANDLE_TEXT)) != std::string_view::npos) {
-      auto* handleText = store->Create<VoA2LElementCalibrationHandleText>(this);
+      auto* handleText = Store().Create<VoA2LElementCalibrationHandleText>(this);
       handleText->ParseParameters(text);
       return AddChild(handleText);
     }
     const auto [handle, ok] = ReadSigned(token);
-    HANDLE.PushBack(*store, handle);
+    HANDLE.PushBack(Store(), handle);
     if (!ok) return false;
   }
   return true;
 }
 
 bool VoA2LElementTransformer::ParseParameters(std::string_view& text) {
-  NAME = ReadIdentifier(*store, text);
-  VERSION = ReadText(*store, text);
-  EXECUTABLE32 = ReadText(*store, text);
-  EXECUTABLE64 = ReadText(*store, text);
+  NAME = ReadIdentifier(Store(), text);
+  VERSION = ReadText(Store(), text);
+  EXECUTABLE32 = ReadText(Store(), text);
+  EXECUTABLE64 = ReadText(Store(), text);
   if (!ReadUnsigned(NextToken(text)).ok) return false;
   NextToken(text);  // the trigger
   NextToken(text);  // the inverse transformer

@@ -6,7 +6,7 @@
 namespace a2l {
 
 bool VoA2LElementA2ML::ParseParameters(std::string_view& text) {
-  A2ML = store->Copy(text);
+  A2ML = Store().Copy(text);
   return true;
 }
 
@@ -16,8 +16,8 @@ void VoA2LElementA2ML::WriteOpening(int level, std::ostream& out) const {
 }
 
 bool VoA2LElementIfData::ParseParameters(std::string_view& text) {
-  NAME = ReadIdentifier(*store, text);
-  IF_DATA = store->Copy(text);
+  NAME = ReadIdentifier(Store(), text);
+  IF_DATA = Store().Copy(text);
   return true;
 }
 
@@ -27,7 +27,7 @@ void VoA2LElementIfData::WriteOpening(int level, std::ostream& out) const {
 }
 
 bool VoA2LElementUnknown::ParseParameters(std::string_view& text) {
-  TEXT = store->Copy(text);
+  TEXT = Store().Copy(text);
   return true;
 }
 

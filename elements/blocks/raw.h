@@ -13,9 +13,9 @@ struct VoA2LElementA2ML final : Block<VoA2LElementA2ML, Kind::A2ML> {
   /// What stands between the keyword and /end, line by line as in the file (comments removed).
   std::string_view A2ML;
   static constexpr Lines lines{" A2ML"};
+  static constexpr bool openParameterList = true;
   static constexpr bool keepsChildrenSilent = true;
 
-  VoA2LElementA2ML() { paramCount = kOpenParameterList; }
   bool ParseParameters(std::string_view& text) override;
 
  protected:
@@ -28,9 +28,9 @@ struct VoA2LElementIfData final : Block<VoA2LElementIfData, Kind::IF_DATA> {
   /// What follows the name, line by line as in the file (comments removed).
   std::string_view IF_DATA;
   static constexpr Lines lines{" IF_DATA"};
+  static constexpr bool openParameterList = true;
   static constexpr bool keepsChildrenSilent = true;
 
-  VoA2LElementIfData() { paramCount = kOpenParameterList; }
   bool ParseParameters(std::string_view& text) override;
 
  protected:
@@ -41,9 +41,9 @@ struct VoA2LElementIfData final : Block<VoA2LElementIfData, Kind::IF_DATA> {
 struct VoA2LElementUnknown final : Block<VoA2LElementUnknown, Kind::KIND_UNKNOWN> {
   std::string_view TEXT;
   static constexpr Lines lines{""};
+  static constexpr bool openParameterList = true;
   static constexpr bool keepsChildrenSilent = true;
 
-  VoA2LElementUnknown() { paramCount = kOpenParameterList; }
   bool ParseParameters(std::string_view& text) override;
 
  protected:

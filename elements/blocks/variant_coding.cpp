@@ -8,10 +8,10 @@ namespace a2l {
 
 bool VoA2LElementVarForbiddenComb::ParseParameters(std::string_view& text) {
   for (text = Trim(text); !text.empty(); text = Trim(text)) {
-    CRITERION_NAME.PushBack(*store, ReadIdentifier(*store, text));
-    const std::string_view value = ReadIdentifier(*store, text);
+    CRITERION_NAME.PushBack(Store(), ReadIdentifier(Store(), text));
+    const std::string_view value = ReadIdentifier(Store(), text);
     if (value.empty()) return false;
-    VALUE.PushBack(*store, value);
+    VALUE.PushBack(Store(), value);
   }
   return true;
 }

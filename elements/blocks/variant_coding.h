@@ -55,7 +55,7 @@ struct VoA2LElementVarForbiddenComb final
     : Block<VoA2LElementVarForbiddenComb, Kind::VAR_FORBIDDEN_COMB> {
   List<std::string_view> CRITERION_NAME;
   List<std::string_view> VALUE;
-  static constexpr auto parameters = Parameters(Identifiers(&Self::CRITERION_NAME));
+  static constexpr bool openParameterList = true;
   static constexpr Lines lines{" VAR_FORBIDDEN_COMB"};
   static constexpr bool keepsChildrenSilent = true;
 

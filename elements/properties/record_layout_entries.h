@@ -27,6 +27,8 @@ inline constexpr WordTable kIndexMode{kIndexModeWords, 0};
 struct VoA2LElementAxisPtsX final
     : AxisProperty<VoA2LElementAxisPtsX, Kind::AXIS_PTS_X, Kind::AXIS_PTS_Y, Kind::AXIS_PTS_Z,
                    Kind::AXIS_PTS_4, Kind::AXIS_PTS_5> {
+  using AxisProperty::AxisProperty;
+
   std::uint32_t POSITION = 0;
   std::uint32_t DATA_TYPE = 0;
   std::uint32_t INDEX_INCR = 0;
@@ -41,6 +43,8 @@ struct VoA2LElementAxisPtsX final
 struct VoA2LElementAxisRescaleX final
     : AxisProperty<VoA2LElementAxisRescaleX, Kind::AXIS_RESCALE_X, Kind::AXIS_RESCALE_Y,
                    Kind::AXIS_RESCALE_Z, Kind::AXIS_RESCALE_4, Kind::AXIS_RESCALE_5> {
+  using AxisProperty::AxisProperty;
+
   std::uint32_t POSITION = 0;
   std::uint32_t DATA_TYPE = 0;
   std::uint32_t MAX_NUMBER_OF_RESCALE_PAIRS = 0;
@@ -69,6 +73,8 @@ struct VoA2LElementFncValues final : Property<VoA2LElementFncValues, Kind::FNC_V
 struct VoA2LElementDistOpX final
     : AxisProperty<VoA2LElementDistOpX, Kind::DIST_OP_X, Kind::DIST_OP_Y, Kind::DIST_OP_Z,
                    Kind::DIST_OP_4, Kind::DIST_OP_5> {
+  using AxisProperty::AxisProperty;
+
   std::uint32_t POSITION = 0;
   std::uint32_t DATA_TYPE = 0;
   static constexpr auto parameters =
@@ -80,6 +86,8 @@ struct VoA2LElementDistOpX final
 struct VoA2LElementNoAxisPtsX final
     : AxisProperty<VoA2LElementNoAxisPtsX, Kind::NO_AXIS_PTS_X, Kind::NO_AXIS_PTS_Y,
                    Kind::NO_AXIS_PTS_Z, Kind::NO_AXIS_PTS_4, Kind::NO_AXIS_PTS_5> {
+  using AxisProperty::AxisProperty;
+
   std::uint32_t POSITION = 0;
   std::uint32_t DATA_TYPE = 0;
   static constexpr auto parameters =
@@ -91,6 +99,8 @@ struct VoA2LElementNoAxisPtsX final
 struct VoA2LElementNoRescaleX final
     : AxisProperty<VoA2LElementNoRescaleX, Kind::NO_RESCALE_X, Kind::NO_RESCALE_Y,
                    Kind::NO_RESCALE_Z, Kind::NO_RESCALE_4, Kind::NO_RESCALE_5> {
+  using AxisProperty::AxisProperty;
+
   std::uint32_t POSITION = 0;
   std::uint32_t DATA_TYPE = 0;
   static constexpr auto parameters =
@@ -101,6 +111,8 @@ struct VoA2LElementNoRescaleX final
 /// The offset of the points of a fixed axis.
 struct VoA2LElementOffsetX final : AxisProperty<VoA2LElementOffsetX, Kind::OFFSET_X, Kind::OFFSET_Y,
                                                 Kind::OFFSET_Z, Kind::OFFSET_4, Kind::OFFSET_5> {
+  using AxisProperty::AxisProperty;
+
   std::uint32_t POSITION = 0;
   std::uint32_t DATA_TYPE = 0;
   static constexpr auto parameters =
@@ -110,8 +122,10 @@ struct VoA2LElementOffsetX final : AxisProperty<VoA2LElementOffsetX, Kind::OFFSE
 
 /// Where the control unit keeps the result of an interpolation.
 struct VoA2LElementRipAddrX final
-    : AxisProperty<VoA2LElementRipAddrX, Kind::RIP_ADDR_W, Kind::RIP_ADDR_X, Kind::RIP_ADDR_Y,
-                   Kind::RIP_ADDR_Z, Kind::RIP_ADDR_4, Kind::RIP_ADDR_5> {
+    : AxisProperty<VoA2LElementRipAddrX, Kind::RIP_ADDR_X, Kind::RIP_ADDR_Y, Kind::RIP_ADDR_Z,
+                   Kind::RIP_ADDR_4, Kind::RIP_ADDR_5, Kind::RIP_ADDR_W> {
+  using AxisProperty::AxisProperty;
+
   std::uint32_t POSITION = 0;
   std::uint32_t DATA_TYPE = 0;
   static constexpr auto parameters =
@@ -123,6 +137,8 @@ struct VoA2LElementRipAddrX final
 struct VoA2LElementShiftOpX final
     : AxisProperty<VoA2LElementShiftOpX, Kind::SHIFT_OP_X, Kind::SHIFT_OP_Y, Kind::SHIFT_OP_Z,
                    Kind::SHIFT_OP_4, Kind::SHIFT_OP_5> {
+  using AxisProperty::AxisProperty;
+
   std::uint32_t POSITION = 0;
   std::uint32_t DATA_TYPE = 0;
   static constexpr auto parameters =
@@ -134,6 +150,8 @@ struct VoA2LElementShiftOpX final
 struct VoA2LElementSrcAddrX final
     : AxisProperty<VoA2LElementSrcAddrX, Kind::SRC_ADDR_X, Kind::SRC_ADDR_Y, Kind::SRC_ADDR_Z,
                    Kind::SRC_ADDR_4, Kind::SRC_ADDR_5> {
+  using AxisProperty::AxisProperty;
+
   std::uint32_t POSITION = 0;
   std::uint32_t DATA_TYPE = 0;
   static constexpr auto parameters =
@@ -155,6 +173,8 @@ struct VoA2LElementIdentification final
 struct VoA2LElementFixNoAxisPtsX final
     : AxisProperty<VoA2LElementFixNoAxisPtsX, Kind::FIX_NO_AXIS_PTS_X, Kind::FIX_NO_AXIS_PTS_Y,
                    Kind::FIX_NO_AXIS_PTS_Z, Kind::FIX_NO_AXIS_PTS_4, Kind::FIX_NO_AXIS_PTS_5> {
+  using AxisProperty::AxisProperty;
+
   std::uint32_t NUMBER_OF_AXIS_POINTS = 0;
   static constexpr auto parameters = Parameters(Unsigned(&Self::NUMBER_OF_AXIS_POINTS));
   static constexpr std::string_view line = "{0} {1:d}";

@@ -9,7 +9,7 @@
 
 #include "tests/support/enumerate.h"
 
-namespace a2l {
+namespace a2l::test {
 namespace {
 
 using std::string_view_literals::operator""sv;
@@ -115,33 +115,23 @@ TEST(CountTokens, CountsWhatNextTokenGives) {
       {R"("a"b)", 2},
       {R"("a""b")", 1},
       {R"("a" "b")", 2},
-      {R"("a"""b)", 0},  // the text goes on behind the doubled quote, to no end
+      {R"("a"""b)", 2},  // the third quote closes
+      {R"("a""b)", 0},   // the text goes on behind the doubled quote, to no end
       {R"(a b "c d)", 2},
       {R"("a" "b c" "d e)", 2},
       {R"(a "b\" c)", 1},
       {R"(a"b c")", 2},
   };
-  for (const Row& row : kRows)
-    EXPECT_EQ(CountTokens(row.text), row.count) << row.text;
-}
-
-TEST(CountTokens, StopsAtTheLimit) {
-  EXPECT_EQ(CountTokens("a b c", 0), 0U);
-  EXPECT_EQ(CountTokens("a b c", 2), 2U);
-  EXPECT_EQ(CountTokens("a b c", 3), 3U);
-  EXPECT_EQ(CountTokens("a b c", 4), 3U);
+  for (const Row& row : kRows) EXPECT_EQ(CountTokens(row.text), row.count) << row.text;
 }
 
 // True for a token that NextToken had to end although its quote was not closed: the text behind
 // the opening quote then consists of single bytes, backslash pairs and doubled quotes alone.
 bool IsUnclosed(std::string_view token) {
-  if (!token.starts_with('"'))
-    return false;
+  if (!token.starts_with('"')) return false;
   for (std::size_t i = 1; i < token.size(); ++i) {
-    if (token[i] != '"' || token[i - 1] == '\\')
-      continue;
-    if (i + 1 == token.size() || token[i + 1] != '"')
-      return false;
+    if (token[i] != '"' || token[i - 1] == '\\') continue;
+    if (i + 1 == token.size() || token[i + 1] != '"') return false;
     ++i;
   }
   return true;
@@ -260,8 +250,7 @@ TEST(Unquote, GivesTheContentsWithEscapesReplaced) {
       {R"(a"b")", ""},
       {R"('a')", ""},
   };
-  for (const Row& row : kRows)
-    EXPECT_EQ(Unquote(row.token), row.text) << row.token;
+  for (const Row& row : kRows) EXPECT_EQ(Unquote(row.token), row.text) << row.token;
 }
 
 TEST(Unquote, IntoABufferTakesNoMoreRoomThanTheToken) {
@@ -276,4 +265,4 @@ TEST(Unquote, IntoABufferTakesNoMoreRoomThanTheToken) {
 }
 
 }  // namespace
-}  // namespace a2l
+}  // namespace a2l::test

@@ -40,9 +40,7 @@ TemporaryFolder::~TemporaryFolder() {
   std::filesystem::remove_all(path_, ignored);
 }
 
-std::string Quoted(const std::filesystem::path& path) {
-  return "\"" + path.string() + "\"";
-}
+std::string Quoted(const std::filesystem::path& path) { return "\"" + path.string() + "\""; }
 
 RunResult RunProgram(const std::string& arguments) {
   const TemporaryFolder folder;

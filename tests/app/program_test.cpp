@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: MIT
+//
+// The program as scripts use it: arguments in, texts, exit codes and files out.
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include <gtest/gtest.h>
+
+#include "tests/support/files.h"
+
+namespace a2l::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Exit codes as the system reports them.
+constexpr int kSuccess = 0;
+constexpr int kUsage = 255;
+constexpr int kNotRead = 254;
+constexpr int kNotWritten = 253;
+
+constexpr std::string_view kInput = "ASAP2_VERSION 1 71\n";
+constexpr std::string_view kDocument =
+    R"({"FA2ML_VERSION_UPGRADE_NO": null, "FA2ML_VERSION_VERSION_NO": null, )"
+    R"("FASAP2_VERSION_UPGRADE_NO": 71, "FASAP2_VERSION_VERSION_NO": 1, "FBaseA2LName": null, )"
+    R"("FDatabaseName": null, "FModules": [], "FProject_HEADER_COMMENT": null, )"
+    R"("FProject_HEADER_PROJECT_NO": null, "FProject_HEADER_VERSION": null, )"
+    R"("FProject_LONG_IDENTIFIER": null, "FProject_Name": null})";
+
+class Program : public testing::Test {
+ protected:
+  TemporaryFolder folder_;
+  fs::path a2l_ = folder_ / "in.a2l";
+  fs::path json_ = folder_ / "out.json";
+
+  void SetUp() override { WriteFile(a2l_, kInput); }
+
+  static RunResult Run(const std::string& arguments) {
+    RunResult result = RunProgram(arguments);
+    EXPECT_EQ(result.err, "") << "nothing is ever written to standard error";
+    return result;
+  }
+  static RunResult Convert(const fs::path& a2l, const fs::path& json) {
+    return Run(Quoted(a2l) + " " + Quoted(json));
+  }
+};
+
+TEST_F(Program, ConvertsAFile) {
+  const RunResult run = Convert(a2l_, json_);
+  EXPECT_EQ(run.exitCode, kSuccess);
+  EXPECT_EQ(run.out, "Success.\n\n");
+  EXPECT_EQ(ReadFile(json_), kDocument);
+  EXPECT_EQ(ReadFile(a2l_), kInput);
+}
+
+TEST_F(Program, ShowsWarningsBehindSuccess) {
+  WriteFile(a2l_, "WORD\n/begin PROJECT P\n/end PROJECT\n");
+  const RunResult run = Convert(a2l_, json_);
+  EXPECT_EQ(run.exitCode, kSuccess);
+  EXPECT_EQ(run.out,
+            "Success.\n"
+            "Warning: Line(1) unexpected element WORD\n"
+            "Warning: Line(3) element need more parameters 2\n"
+            "\n");
+  EXPECT_TRUE(fs::exists(json_));
+}
+
+TEST_F(Program, ShowsItsUsageForAnyOtherNumberOfArguments) {
+  for (const std::string& arguments : {std::string(), Quoted(a2l_), std::string("--help"),
+                                       Quoted(a2l_) + " " + Quoted(json_) + " " + Quoted(json_),
+                                       Quoted(a2l_) + " " + Quoted(json_) + " \"\""}) {
+    const RunResult run = Run(arguments);
+    EXPECT_EQ(run.exitCode, kUsage) << arguments;
+    EXPECT_EQ(run.out, "Failed: using " A2L2JSON_PROGRAM " [in]a2l_file [out]json_file\n")
+        << arguments;
+    EXPECT_FALSE(fs::exists(json_)) << arguments;
+  }
+  EXPECT_EQ(ReadFile(a2l_), kInput);
+}
+
+TEST_F(Program, FailsWithoutAReasonWhereTheInputCannotBeOpened) {
+  WriteFile(json_, "old");
+  for (const fs::path& input :
+       {folder_ / "missing.a2l", folder_ / "missing/in.a2l", fs::path("--help"), fs::path()}) {
+    const RunResult run = Convert(input, json_);
+    EXPECT_EQ(run.exitCode, kNotRead) << input;
+    EXPECT_EQ(run.out, "Failed: \n") << input;
+    EXPECT_EQ(ReadFile(json_), "old") << input;
+  }
+}
+
+TEST_F(Program, FailsWhereTheInputIsAFolder) {
+  const RunResult run = Convert(folder_.Path(), json_);
+  EXPECT_EQ(run.exitCode, kNotRead);
+  EXPECT_EQ(run.out, "Failed: \n");
+  EXPECT_FALSE(fs::exists(json_));
+}
+
+TEST_F(Program, FailsWithAllMessagesWhereTheInputIsWrong) {
+  WriteFile(a2l_, "WORD\n/end MODULE\n");
+  WriteFile(json_, "old");
+  const RunResult run = Convert(a2l_, json_);
+  EXPECT_EQ(run.exitCode, kNotRead);
+  EXPECT_EQ(run.out,
+            "Failed: Warning: Line(1) unexpected element WORD\n"
+            "Error: Line(2) /end don't equal /begin \n"
+            "\n");
+  EXPECT_EQ(ReadFile(json_), "old");
+}
+
+TEST_F(Program, FailsWhereTheOutputCannotBeOpened) {
+  // The warning is not shown: what counts is the failure.
+  WriteFile(a2l_, "WORD\n");
+  for (const fs::path& output : {folder_ / "missing/out.json", folder_.Path(), fs::path()}) {
+    const RunResult run = Convert(a2l_, output);
+    EXPECT_EQ(run.exitCode, kNotWritten) << output;
+    EXPECT_EQ(run.out, "Failed: Can not write access json file " + output.string() + "\n");
+  }
+  EXPECT_FALSE(fs::exists(folder_ / "missing"));
+}
+
+TEST_F(Program, LooksAtTheInputBeforeTheOutput) {
+  const RunResult run = Convert(folder_ / "missing.a2l", folder_ / "missing/out.json");
+  EXPECT_EQ(run.exitCode, kNotRead);
+  EXPECT_EQ(run.out, "Failed: \n");
+}
+
+TEST_F(Program, ReplacesAnOlderOutput) {
+  WriteFile(json_, std::string(10000, 'x'));
+  EXPECT_EQ(Convert(a2l_, json_).exitCode, kSuccess);
+  EXPECT_EQ(ReadFile(json_), kDocument);
+}
+
+TEST_F(Program, CanReplaceItsInput) {
+  const RunResult run = Convert(a2l_, a2l_);
+  EXPECT_EQ(run.exitCode, kSuccess);
+  EXPECT_EQ(run.out, "Success.\n\n");
+  EXPECT_EQ(ReadFile(a2l_), kDocument);
+}
+
+TEST_F(Program, TakesPathsAsTheyAre) {
+  for (const std::string_view name :
+       {"with blanks  in it", "m\xC3\xBCller \xE6\xB1\xBD\xE8\xBB\x8A", "100%s%n", "a'b", "-x"}) {
+    const fs::path here = folder_ / name;
+    fs::create_directory(here);
+    WriteFile(here / "in put.a2l", kInput);
+    const RunResult run = Convert(here / "in put.a2l", here / "out put");
+    EXPECT_EQ(run.exitCode, kSuccess) << name;
+    EXPECT_EQ(run.out, "Success.\n\n") << name;
+    EXPECT_EQ(ReadFile(here / "out put"), kDocument) << name;
+
+    const fs::path missing = here / "missing" / "out";
+    EXPECT_EQ(Convert(here / "in put.a2l", missing).out,
+              "Failed: Can not write access json file " + missing.string() + "\n");
+  }
+}
+
+TEST_F(Program, TakesPathsThatAreNoUnicode) {
+#if defined(_WIN32) || defined(__APPLE__)
+  GTEST_SKIP() << "file names are Unicode on this system";
+#else
+  const fs::path latin1 = folder_ / "m\xFCller.json";
+  EXPECT_EQ(Convert(a2l_, latin1).exitCode, kSuccess);
+  EXPECT_EQ(ReadFile(latin1), kDocument);
+#endif
+}
+
+TEST_F(Program, DoesNotNoticeAFullDisk) {
+  if (!fs::exists("/dev/full")) GTEST_SKIP() << "there is no /dev/full on this system";
+  const RunResult run = Convert(a2l_, "/dev/full");
+  EXPECT_EQ(run.exitCode, kSuccess);
+  EXPECT_EQ(run.out, "Success.\n\n");
+}
+
+TEST_F(Program, WritesOneLineWithoutALineFeed) {
+  WriteFile(a2l_, "/begin PROJECT P \"a\\nb\"\n/begin MODULE M \"\"\n/end MODULE\n/end PROJECT\n");
+  EXPECT_EQ(Convert(a2l_, json_).exitCode, kSuccess);
+  const std::string json = ReadFile(json_);
+  EXPECT_EQ(json.find('\n'), std::string::npos);
+  EXPECT_EQ(json.find('\r'), std::string::npos);
+  EXPECT_TRUE(json.ends_with(R"("FProject_LONG_IDENTIFIER": "a\nb", "FProject_Name": "P"})"));
+}
+
+}  // namespace
+}  // namespace a2l::test

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include "elements/fields.h"
+
+#include <string>
+#include <string_view>
+
+#include <gtest/gtest.h>
+
+#include "reader/tokenizer.h"
+#include "tests/support/enumerate.h"
+
+namespace a2l::test {
+namespace {
+
+TEST(ReadIdentifier, CutsTheTokenTo1024Bytes) {
+  const std::string name1024(1024, 'a');
+  struct Row {
+    std::string text, identifier, rest;
+  };
+  const Row rows[] = {
+      {" a b", "a", " b"},
+      {"", "", ""},
+      {"  ", "", ""},
+      {R"( "a b" c)", R"("a b")", " c"},
+      {" a\tb c", "a\tb", " c"},
+      {name1024 + " b", name1024, " b"},
+      {name1024 + "a b", name1024, " b"},
+      {std::string(2000, 'a') + " b", name1024, " b"},
+      // Quotes are bytes like others, and so are the parts of a character.
+      {'"' + name1024 + "\" b", '"' + std::string(1023, 'a'), " b"},
+      {std::string(1023, 'a') + "\xC3\xA4 b", std::string(1023, 'a') + "\xC3", " b"},
+  };
+  for (const Row& row : rows) {
+    TreeStore store;
+    std::string_view text = row.text;
+    EXPECT_EQ(ReadIdentifier(store, text), row.identifier);
+    EXPECT_EQ(text, row.rest);
+  }
+}
+
+TEST(ReadText, UnquotesTheTokenWithoutCuttingIt) {
+  const std::string longText(3000, 'a');
+  struct Row {
+    std::string text, value, rest;
+  };
+  const Row rows[] = {
+      {R"( "a b" c)", "a b", " c"},
+      {R"("")", "", ""},
+      {R"( "a""b\\\n" c)", "a\"b\\\n", " c"},
+      // A quote behind a backslash never closes, an escaped backslash included.
+      {R"( "a\\" c)", "a\\", ""},
+      {'"' + longText + "\" b", longText, " b"},
+      // A value without quotes is no text; it is gone all the same.
+      {" word more words", "", " more words"},
+      {"", "", ""},
+      {R"("open end)", "open end", ""},
+      {R"(")", "", ""},
+  };
+  for (const Row& row : rows) {
+    TreeStore store;
+    std::string_view text = row.text;
+    EXPECT_EQ(ReadText(store, text), row.value);
+    EXPECT_EQ(text, row.rest);
+  }
+}
+
+// Texts without escapes take a shorter way, which must lead to the same place.
+TEST(ReadText, AgreesWithUnquoteOnEverySmallText) {
+  TreeStore store;
+  for (const std::string& line : AllTexts("\"\\n a", 6)) {
+    std::string_view text = line;
+    std::string_view other = line;
+    ASSERT_EQ(ReadText(store, text), Unquote(NextToken(other))) << testing::PrintToString(line);
+    ASSERT_EQ(text, other);
+  }
+}
+
+TEST(ReadText, KeepsNothingOfTheLine) {
+  TreeStore store;
+  std::string line = R"("plain" "es\"caped" name)";
+  std::string_view text = line;
+  const std::string_view plain = ReadText(store, text);
+  const std::string_view escaped = ReadText(store, text);
+  const std::string_view name = ReadIdentifier(store, text);
+  line.assign(line.size(), '#');
+  EXPECT_EQ(plain, "plain");
+  EXPECT_EQ(escaped, "es\"caped");
+  EXPECT_EQ(name, "name");
+}
+
+}  // namespace
+}  // namespace a2l::test

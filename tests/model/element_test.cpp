@@ -1,0 +1,370 @@
+// SPDX-License-Identifier: MIT
+#include "model/element.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <fstream>
+#include <map>
+#include <set>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "elements/blocks/functions.h"
+#include "elements/blocks/project.h"
+#include "elements/properties/numbers.h"
+#include "reader/element_factory.h"
+#include "tests/support/files.h"
+#include "tests/support/kinds.h"
+#include "tests/support/trees.h"
+
+namespace a2l::test {
+namespace {
+
+class ElementTest : public testing::Test {
+ protected:
+  Tree root_{NewTree()};
+
+  // An element of `kind` below the root's link, not yet attached.
+  VoA2LElement* Make(ElementKind kind) { return CreateElement(kind, *root_); }
+
+  // An element of the base class that says it is of `kind`.
+  VoA2LElement* MakePlain(ElementKind kind, VoA2LElement* parent = nullptr) {
+    auto* element = root_->store->Create<VoA2LElement>(parent);
+    element->kind = kind;
+    return element;
+  }
+
+  VoA2LElementASAP2Version* MakeVersion(VoA2LElement& parent, std::uint32_t upgrade) {
+    auto* version = root_->store->Create<VoA2LElementASAP2Version>(&parent);
+    version->VERSION_NO = 1;
+    version->UPGRADE_NO = upgrade;
+    return version;
+  }
+};
+
+TEST_F(ElementTest, BaseHasDefaults) {
+  EXPECT_EQ(root_->kind, KIND_ROOT);
+  EXPECT_EQ(root_->version, 67072U);
+  EXPECT_EQ(root_->paramCount, 0U);
+  EXPECT_EQ(root_->hasMoreParameters, 0);
+  EXPECT_EQ(root_->valid, 1);
+  EXPECT_EQ(root_->parent, nullptr);
+  EXPECT_TRUE(root_->children.empty());
+  EXPECT_EQ(root_->Parent(), nullptr);
+  EXPECT_EQ(root_->ChildCount(), 0U);
+  EXPECT_EQ(root_->Child(0), nullptr);
+  EXPECT_EQ(root_->ParamCount(), 0U);
+  EXPECT_FALSE(root_->HasMoreParameters());
+}
+
+TEST_F(ElementTest, BaseReadsNothing) {
+  std::string_view text = " 1 2";
+  EXPECT_TRUE(root_->ParseParameters(text));
+  EXPECT_EQ(text, " 1 2");
+  EXPECT_FALSE(root_->ParseMoreParameters(text));
+  EXPECT_EQ(root_->MoreParameterCount(), -1);
+
+  root_->hasMoreParameters = 1;
+  EXPECT_TRUE(root_->HasMoreParameters());
+  EXPECT_TRUE(root_->ParseMoreParameters(text));
+  EXPECT_EQ(root_->MoreParameterCount(), 0);
+  EXPECT_EQ(text, " 1 2");
+}
+
+TEST_F(ElementTest, AcceptedChildrenStandInOrder) {
+  VoA2LElement* project = Make(ElementKind::PROJECT);
+  VoA2LElement* version = Make(ElementKind::ASAP2_VERSION);
+  EXPECT_TRUE(root_->AddChild(project));
+  EXPECT_TRUE(root_->AddChild(version));
+  EXPECT_EQ(root_->ChildCount(), 2U);
+  EXPECT_EQ(root_->Child(0), project);
+  EXPECT_EQ(root_->Child(1), version);
+  EXPECT_EQ(root_->Child(2), nullptr);
+  EXPECT_EQ(root_->Child(static_cast<std::size_t>(-1)), nullptr);
+}
+
+TEST_F(ElementTest, ChildWithoutParentGetsOneEvenWhenRefused) {
+  VoA2LElement* project = MakePlain(ElementKind::PROJECT);
+  EXPECT_TRUE(root_->AddChild(project));
+  EXPECT_EQ(project->Parent(), root_.get());
+
+  VoA2LElement* module = MakePlain(ElementKind::MODULE);
+  EXPECT_FALSE(root_->AddChild(module));
+  EXPECT_EQ(module->Parent(), root_.get());
+  EXPECT_EQ(root_->ChildCount(), 1U);
+}
+
+TEST_F(ElementTest, ChildOfAnotherParentIsRefusedUnchanged) {
+  VoA2LElement* project = Make(ElementKind::PROJECT);
+  for (const ElementKind kind : {ElementKind::HEADER, ElementKind::FORMAT}) {
+    VoA2LElement* child = Make(kind);
+    EXPECT_FALSE(project->AddChild(child));
+    EXPECT_EQ(child->Parent(), root_.get());
+    EXPECT_EQ(project->ChildCount(), 0U);
+  }
+}
+
+TEST_F(ElementTest, ChildAddedTwiceIsListedTwice) {
+  VoA2LElement* version = Make(ElementKind::ASAP2_VERSION);
+  EXPECT_TRUE(root_->AddChild(version));
+  EXPECT_TRUE(root_->AddChild(version));
+  EXPECT_EQ(root_->ChildCount(), 2U);
+  EXPECT_EQ(root_->Child(0), version);
+  EXPECT_EQ(root_->Child(1), version);
+}
+
+TEST_F(ElementTest, CalibrationObjectsAreTheFiveKindsWithATrackedValidity) {
+  const std::set<std::int32_t> objects = {2, 3, 4, 13, 14};
+  for (std::int32_t number = -2; number < 2000; ++number) {
+    const VoA2LElement* element = MakePlain(static_cast<ElementKind>(number));
+    EXPECT_EQ(IsCalibrationObject(*element), objects.contains(number)) << number;
+  }
+  EXPECT_FALSE(IsCalibrationObject(*MakePlain(KIND_UNKNOWN)));
+}
+
+TEST_F(ElementTest, WriteOfTheRootPutsTheVersionFirst) {
+  auto* project = root_->store->Create<VoA2LElementProject>(root_.get());
+  project->NAME = "P";
+  VoA2LElement* version = MakeVersion(*root_, 71);
+  ASSERT_TRUE(root_->AddChild(project));
+  ASSERT_TRUE(root_->AddChild(version));
+
+  EXPECT_EQ(Written(*root_),
+            "ASAP2_VERSION 1 71\n"
+            "/begin PROJECT P \"\"\n"
+            "/end PROJECT\n");
+  // They stay where they were put.
+  EXPECT_EQ(root_->Child(0), version);
+  EXPECT_EQ(root_->Child(1), project);
+}
+
+// Each is taken to the front as it is met, so the last one ends up first.
+TEST_F(ElementTest, WriteOfTheRootTakesSeveralVersionsToTheFrontOneByOne) {
+  VoA2LElement* project = Make(ElementKind::PROJECT);
+  VoA2LElement* unknown = Make(KIND_UNKNOWN);
+  VoA2LElement* language = Make(ElementKind::A2ML_VERSION);
+  const std::vector<VoA2LElement*> added = {
+      MakeVersion(*root_, 1), project, language,
+      MakeVersion(*root_, 2), unknown, MakeVersion(*root_, 3)};
+  for (VoA2LElement* child : added) ASSERT_TRUE(root_->AddChild(child));
+  Written(*root_);
+  const std::vector<VoA2LElement*> order(root_->children.begin(), root_->children.end());
+  EXPECT_EQ(order,
+            (std::vector<VoA2LElement*>{added[5], added[3], added[0], project, language, unknown}));
+}
+
+TEST_F(ElementTest, WriteOfTheBaseAddsNoIndentation) {
+  VoA2LElement* outer = MakePlain(KIND_UNKNOWN, root_.get());
+  VoA2LElement* inner = MakePlain(KIND_UNKNOWN, outer);
+  ASSERT_TRUE(root_->AddChild(outer));
+  ASSERT_TRUE(outer->AddChild(inner));
+  ASSERT_TRUE(inner->AddChild(CreateElement(ElementKind::PROJECT, *inner)));
+  ASSERT_TRUE(inner->AddChild(MakeVersion(*inner, 60)));
+  EXPECT_EQ(Written(*root_, 1),
+            "  ASAP2_VERSION 1 60\n"
+            "  /begin PROJECT  \"\"\n"
+            "  /end PROJECT\n");
+}
+
+TEST_F(ElementTest, WriteIndentsByTwoBlanksPerLevel) {
+  auto* project = root_->store->Create<VoA2LElementProject>(root_.get());
+  auto* module = root_->store->Create<VoA2LElementModule>(project);
+  auto* function = root_->store->Create<VoA2LElementFunction>(module);
+  ASSERT_TRUE(root_->AddChild(project) && project->AddChild(module) && module->AddChild(function));
+  EXPECT_EQ(Written(*project, 1),
+            "  /begin PROJECT  \"\"\n"
+            "    /begin MODULE  \"\"\n"
+            "      /begin FUNCTION  \"\"\n"
+            "      /end FUNCTION\n"
+            "    /end MODULE\n"
+            "  /end PROJECT\n");
+}
+
+TEST_F(ElementTest, WriteFailsOnAFileThatIsNotOpen) {
+  for (const ElementKind kind : KindsWithAClass()) {
+    SCOPED_TRACE(Shown(kind));
+    std::ofstream closed;
+    EXPECT_FALSE(Make(kind)->Write(0, closed));
+  }
+  std::ofstream closed;
+  EXPECT_FALSE(root_->Write(0, closed));
+}
+
+TEST_F(ElementTest, WriteSucceedsOnAnOpenStream) {
+  for (const ElementKind kind : KindsWithAClass()) {
+    SCOPED_TRACE(Shown(kind));
+    std::ostringstream out;
+    EXPECT_TRUE(Make(kind)->Write(0, out));
+    // An unknown block leaves no trace; everything else is written under a keyword.
+    EXPECT_EQ(out.str().empty(), kind == KIND_UNKNOWN);
+  }
+  std::ostringstream out;
+  EXPECT_TRUE(root_->Write(0, out));
+  EXPECT_EQ(out.str(), "");
+}
+
+TEST_F(ElementTest, WriteReachesTheFileBeforeItIsClosed) {
+  ASSERT_TRUE(root_->AddChild(MakeVersion(*root_, 71)));
+  const TemporaryFolder folder;
+  std::ofstream file(folder / "out.a2l", std::ios::binary);
+  EXPECT_TRUE(root_->Write(2, file));
+  EXPECT_EQ(ReadFile(folder / "out.a2l"), "    ASAP2_VERSION 1 71\n");
+  file.close();
+  EXPECT_FALSE(root_->Write(2, file));
+  EXPECT_EQ(ReadFile(folder / "out.a2l"), "    ASAP2_VERSION 1 71\n");
+}
+
+TEST_F(ElementTest, DestroyTreeDoesNothingForNull) {
+  DestroyTree(nullptr);
+}
+
+TEST_F(ElementTest, DestroyTreeTakesAnElementOutOfItsParent) {
+  VoA2LElement* first = Make(ElementKind::PROJECT);
+  VoA2LElement* twice = Make(KIND_UNKNOWN);
+  VoA2LElement* last = Make(ElementKind::A2ML_VERSION);
+  for (VoA2LElement* child : {twice, first, twice, last}) ASSERT_TRUE(root_->AddChild(child));
+  ASSERT_TRUE(twice->AddChild(CreateElement(ElementKind::PROJECT, *twice)));
+  DestroyTree(twice);
+  ASSERT_EQ(root_->ChildCount(), 2U);
+  EXPECT_EQ(root_->Child(0), first);
+  EXPECT_EQ(root_->Child(1), last);
+}
+
+TEST_F(ElementTest, DestroyTreeLeavesTheParentOfARefusedChildAlone) {
+  VoA2LElement* project = Make(ElementKind::PROJECT);
+  ASSERT_TRUE(root_->AddChild(project));
+  VoA2LElement* module = Make(ElementKind::MODULE);
+  ASSERT_FALSE(root_->AddChild(module));
+  DestroyTree(module);
+  DestroyTree(MakePlain(ElementKind::MODULE));  // never had a parent
+  ASSERT_EQ(root_->ChildCount(), 1U);
+  EXPECT_EQ(root_->Child(0), project);
+}
+
+// A file may nest its blocks as deep as it is long.
+TEST_F(ElementTest, DeepTreesAreWrittenAndDestroyed) {
+  VoA2LElement* innermost = root_.get();
+  for (int depth = 0; depth < 300000; ++depth) {
+    VoA2LElement* element = MakePlain(KIND_UNKNOWN, innermost);
+    ASSERT_TRUE(innermost->AddChild(element));
+    innermost = element;
+  }
+  ASSERT_TRUE(innermost->AddChild(MakeVersion(*innermost, 71)));
+  std::ostringstream out;
+  EXPECT_TRUE(root_->Write(0, out));
+  EXPECT_TRUE(out.str() == "ASAP2_VERSION 1 71\n") << out.str().size() << " bytes";
+  DestroyTree(root_.release());
+}
+
+struct ParameterCount {
+  std::uint32_t count;
+  std::string_view keywords;
+};
+
+// How many tokens a keyword waits for before its line is complete.
+constexpr ParameterCount kParameterCounts[] = {
+    {0,
+     "BIT_OPERATION ANNOTATION VARIANT_CODING CONSISTENT_EXCHANGE DISCRETE GUARD_RAILS READ_ONLY "
+     "READ_WRITE ROOT SIGN_EXTEND STATIC_ADDRESS_OFFSETS STATIC_RECORD_LAYOUT"},
+    {1,
+     "HEADER MOD_PAR MOD_COMMON FORMULA RECORD_LAYOUT AR_COMPONENT USER_RIGHTS "
+     "ANNOTATION_LABEL ANNOTATION_ORIGIN CALIBRATION_HANDLE_TEXT CPU_TYPE CUSTOMER CUSTOMER_NO "
+     "DEFAULT_VALUE ECU EPK FORMAT FORMULA_INV FUNCTION_VERSION MODEL_LINK PHONE_NO PHYS_UNIT "
+     "SUPPLIER SYMBOL_TYPE_LINK USER VAR_SEPARATOR VERSION AR_PROTOTYPE_OF AXIS_PTS_REF "
+     "COMPARISON_QUANTITY COMPU_TAB_REF CONVERSION CURVE_AXIS_REF DISPLAY_IDENTIFIER "
+     "INPUT_QUANTITY PROJECT_NO REF_MEMORY_SEGMENT REF_UNIT S_REC_LAYOUT STATUS_STRING_REF "
+     "VAR_MEASUREMENT VAR_SELECTION_CHARACTERISTIC ADDR_EPK ALIGNMENT_BYTE "
+     "ALIGNMENT_FLOAT16_IEEE ALIGNMENT_FLOAT32_IEEE ALIGNMENT_FLOAT64_IEEE ALIGNMENT_INT64 "
+     "ALIGNMENT_LONG ALIGNMENT_WORD ARRAY_SIZE BIT_MASK DATA_SIZE DEFAULT_VALUE_NUMERIC "
+     "ECU_ADDRESS ECU_ADDRESS_EXTENSION ECU_CALIBRATION_OFFSET ERROR_MASK LEFT_SHIFT MAX_GRAD "
+     "NO_OF_INTERFACES NUMBER RIGHT_SHIFT STEP_SIZE BYTE_ORDER CALIBRATION_ACCESS DEPOSIT LAYOUT "
+     "MONOTONY VAR_NAMING ADDRESS_TYPE FIX_NO_AXIS_PTS_*"},
+    {2,
+     "PROJECT MODULE FUNCTION GROUP OVERWRITE CALIBRATION_METHOD A2ML_VERSION ASAP2_VERSION "
+     "MAX_REFRESH COEFFS_LINEAR EXTENDED_LIMITS LIMITS UNIT_CONVERSION SYMBOL_LINK "
+     "SYSTEM_CONSTANT DIST_OP_* NO_AXIS_PTS_* NO_RESCALE_* OFFSET_* RIP_ADDR_W RIP_ADDR_* "
+     "SHIFT_OP_* SRC_ADDR_* IDENTIFICATION RESERVED"},
+    {3,
+     "COMPU_VTAB_RANGE STRUCTURE_COMPONENT TYPEDEF_BLOB TYPEDEF_STRUCTURE FIX_AXIS_PAR "
+     "FIX_AXIS_PAR_DIST"},
+    {4, "BLOB COMPU_TAB COMPU_VTAB FRAME INSTANCE UNIT AXIS_PTS_* FNC_VALUES"},
+    {5, "COMPU_METHOD AXIS_RESCALE_*"},
+    {6, "AXIS_DESCR COEFFS"},
+    {7, "TRANSFORMER SI_EXPONENTS"},
+    {8, "MEASUREMENT MEMORY_LAYOUT TYPEDEF_CHARACTERISTIC TYPEDEF_MEASUREMENT"},
+    {9, "CHARACTERISTIC TYPEDEF_AXIS"},
+    {10, "AXIS_PTS"},
+    {12, "MEMORY_SEGMENT"},
+    {65535,
+     "ANNOTATION_TEXT CALIBRATION_HANDLE DEF_CHARACTERISTIC DEPENDENT_CHARACTERISTIC "
+     "FIX_AXIS_PAR_LIST FUNCTION_LIST IN_MEASUREMENT LOC_MEASUREMENT MAP_LIST OUT_MEASUREMENT "
+     "REF_CHARACTERISTIC REF_GROUP REF_MEASUREMENT SUB_FUNCTION SUB_GROUP TRANSFORMER_IN_OBJECTS "
+     "TRANSFORMER_OUT_OBJECTS VAR_ADDRESS VAR_CHARACTERISTIC VAR_CRITERION VAR_FORBIDDEN_COMB "
+     "VIRTUAL VIRTUAL_CHARACTERISTIC FRAME_MEASUREMENT MATRIX_DIM IF_DATA A2ML"},
+};
+
+TEST_F(ElementTest, EveryKeywordWaitsForItsParameters) {
+  std::map<std::string, std::uint32_t> counts;
+  for (const ParameterCount& row : kParameterCounts) {
+    for (const std::string& keyword : Words(row.keywords)) counts[keyword] = row.count;
+  }
+  EXPECT_EQ(counts.size(), 204U);
+  for (const ElementKind kind : KindsWithAClass()) {
+    const VoA2LElement* element = Make(kind);
+    ASSERT_NE(element, nullptr) << Shown(kind);
+    EXPECT_EQ(element->ParamCount(),
+              kind == KIND_UNKNOWN ? 65535U : counts.at(std::string(KindToKeyword(kind))))
+        << Shown(kind);
+  }
+}
+
+TEST_F(ElementTest, KeywordsOfTheLaterStandardSaySo) {
+  std::set<std::string> later;
+  for (const std::string& keyword :
+       Words("ADDRESS_TYPE ALIGNMENT_FLOAT16_IEEE AR_COMPONENT AR_PROTOTYPE_OF BLOB "
+             "CONSISTENT_EXCHANGE CONVERSION INPUT_QUANTITY INSTANCE LIMITS MODEL_LINK OVERWRITE "
+             "STATIC_ADDRESS_OFFSETS STRUCTURE_COMPONENT SYMBOL_TYPE_LINK TRANSFORMER "
+             "TRANSFORMER_IN_OBJECTS TRANSFORMER_OUT_OBJECTS TYPEDEF_AXIS TYPEDEF_BLOB "
+             "TYPEDEF_CHARACTERISTIC TYPEDEF_MEASUREMENT TYPEDEF_STRUCTURE")) {
+    later.insert(keyword);
+  }
+  EXPECT_EQ(later.size(), 23U);
+  for (const ElementKind kind : KindsWithAClass()) {
+    EXPECT_EQ(Make(kind)->version, later.contains(Shown(kind)) ? 67329U : 67072U) << Shown(kind);
+  }
+}
+
+TEST_F(ElementTest, TablesAloneHaveASecondRun) {
+  const std::set<ElementKind> tables = {ElementKind::COMPU_TAB, ElementKind::COMPU_VTAB,
+                                        ElementKind::COMPU_VTAB_RANGE};
+  for (const ElementKind kind : KindsWithAClass()) {
+    SCOPED_TRACE(Shown(kind));
+    VoA2LElement* element = Make(kind);
+    const bool table = tables.contains(kind);
+    EXPECT_EQ(element->hasMoreParameters, table ? 1 : 0);
+    EXPECT_EQ(element->MoreParameterCount(), table ? 0 : -1);
+    std::string_view text = " 1 2 3";
+    EXPECT_EQ(element->ParseMoreParameters(text), table);
+    EXPECT_EQ(text, " 1 2 3");
+  }
+}
+
+TEST_F(ElementTest, EveryNewElementIsValidAndEmpty) {
+  for (const ElementKind kind : KindsWithAClass()) {
+    SCOPED_TRACE(Shown(kind));
+    const VoA2LElement* element = Make(kind);
+    EXPECT_EQ(element->kind, kind);
+    EXPECT_EQ(element->valid, 1);
+    EXPECT_EQ(element->Parent(), root_.get());
+    EXPECT_EQ(element->ChildCount(), 0U);
+    EXPECT_EQ(element->store, root_->store);
+  }
+  EXPECT_EQ(root_->ChildCount(), 0U) << "to create is not to attach";
+}
+
+}  // namespace
+}  // namespace a2l::test

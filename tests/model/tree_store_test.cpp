@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: MIT
+#include "model/tree_store.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "model/element.h"
+
+namespace a2l::test {
+namespace {
+
+template <class Item>
+std::vector<Item> Items(const List<Item>& list) {
+  return {list.begin(), list.end()};
+}
+
+TEST(List, IsEmptyAtFirst) {
+  const List<int> list;
+  EXPECT_TRUE(list.empty());
+  EXPECT_EQ(list.size(), 0U);
+  EXPECT_EQ(list.begin(), list.end());
+}
+
+TEST(List, KeepsItemsInOrderWhileItGrows) {
+  TreeStore store;
+  List<std::uint64_t> list;
+  for (std::uint64_t i = 0; i < 100000; ++i) {
+    list.PushBack(store, i * i);
+    ASSERT_EQ(list.size(), i + 1);
+    ASSERT_EQ(list[i], i * i);
+    ASSERT_EQ(list[i / 2], (i / 2) * (i / 2));
+  }
+  std::uint64_t i = 0;
+  for (const std::uint64_t item : list) {
+    ASSERT_EQ(item, i * i);
+    ++i;
+  }
+  EXPECT_EQ(i, 100000U);
+  EXPECT_FALSE(list.empty());
+}
+
+TEST(List, HoldsTexts) {
+  TreeStore store;
+  List<std::string_view> list;
+  for (int i = 0; i < 1000; ++i) list.PushBack(store, store.Copy(std::to_string(i)));
+  for (int i = 0; i < 1000; ++i) ASSERT_EQ(list[static_cast<std::size_t>(i)], std::to_string(i));
+}
+
+// Lists grow side by side, and take over arrays that others have outgrown.
+TEST(List, DoesNotDisturbOthersOfItsStore) {
+  TreeStore store;
+  constexpr std::size_t kLists = 50;
+  std::vector<List<std::uint32_t>> numbers(kLists);
+  std::vector<List<std::uint64_t>> wideNumbers(kLists);
+  std::uint32_t next = 0;
+  std::vector<std::vector<std::uint32_t>> expected(kLists);
+  for (std::size_t round = 0; round < 2000; ++round) {
+    for (std::size_t i = 0; i < kLists; ++i) {
+      if (round % (i + 1) != 0) continue;
+      numbers[i].PushBack(store, next);
+      wideNumbers[i].PushBack(store, ~std::uint64_t{next});
+      expected[i].push_back(next);
+      ++next;
+    }
+  }
+  for (std::size_t i = 0; i < kLists; ++i) {
+    ASSERT_EQ(Items(numbers[i]), expected[i]) << i;
+    ASSERT_EQ(wideNumbers[i].size(), expected[i].size());
+    for (std::size_t j = 0; j < expected[i].size(); ++j)
+      ASSERT_EQ(wideNumbers[i][j], ~std::uint64_t{expected[i][j]}) << i << " " << j;
+  }
+}
+
+TEST(List, RemovesEveryOccurrence) {
+  TreeStore store;
+  List<int> list;
+  list.Remove(1);
+  EXPECT_TRUE(list.empty());
+  for (const int item : {1, 2, 1, 3, 1, 1, 2}) list.PushBack(store, item);
+  list.Remove(4);
+  EXPECT_EQ(list.size(), 7U);
+  list.Remove(1);
+  EXPECT_EQ(Items(list), (std::vector<int>{2, 3, 2}));
+  list.Remove(3);
+  list.Remove(2);
+  EXPECT_TRUE(list.empty());
+  list.PushBack(store, 5);
+  EXPECT_EQ(Items(list), std::vector<int>{5});
+}
+
+TEST(List, CanBeClearedAndFilledAgain) {
+  TreeStore store;
+  List<int> list;
+  for (int i = 0; i < 100; ++i) list.PushBack(store, i);
+  list.Clear();
+  EXPECT_TRUE(list.empty());
+  list.PushBack(store, 7);
+  list.PushBack(store, 8);
+  EXPECT_EQ(Items(list), (std::vector<int>{7, 8}));
+}
+
+TEST(TreeStore, GivesArraysOfTheirOwn) {
+  TreeStore store;
+  std::set<void*> arrays;
+  for (int i = 0; i < 10; ++i) {
+    void* array = store.AllocateArray(6);
+    EXPECT_EQ(reinterpret_cast<std::uintptr_t>(array) % alignof(std::max_align_t), 0U);
+    EXPECT_TRUE(arrays.insert(array).second);
+  }
+}
+
+TEST(TreeStore, UsesRecycledArraysAgain) {
+  TreeStore store;
+  void* const first = store.AllocateArray(5);
+  void* const second = store.AllocateArray(5);
+  void* const larger = store.AllocateArray(7);
+  for (void* array : {first, second}) store.RecycleArray(array, 5);
+  store.RecycleArray(larger, 7);
+
+  const std::set<void*> again = {store.AllocateArray(5), store.AllocateArray(5)};
+  EXPECT_EQ(again, (std::set<void*>{first, second}));
+  EXPECT_EQ(store.AllocateArray(7), larger);
+  EXPECT_FALSE(again.contains(store.AllocateArray(5)));
+}
+
+TEST(TreeStore, CopiesTexts) {
+  TreeStore store;
+  std::string source = "some text";
+  source.resize(20, '\0');
+  const std::string kept = source;
+  const std::string_view copy = store.Copy(source);
+  source.assign(source.size(), '#');
+  EXPECT_EQ(copy, kept);
+  EXPECT_EQ(store.Copy(""), "");
+  EXPECT_EQ(store.Copy({}), "");
+
+  const std::string large(10000000, 'x');
+  EXPECT_TRUE(store.Copy(large) == large);
+  EXPECT_EQ(copy, kept);
+}
+
+TEST(TreeStore, CreatesElementsThatKnowIt) {
+  TreeStore store;
+  EXPECT_EQ(store.root, nullptr);
+  auto* parent = store.Create<VoA2LElement>();
+  auto* child = store.Create<VoA2LElement>(parent);
+  EXPECT_EQ(parent->parent, nullptr);
+  EXPECT_EQ(parent->store, &store);
+  EXPECT_EQ(child->parent, parent);
+  EXPECT_EQ(child->store, &store);
+  EXPECT_TRUE(parent->children.empty());
+}
+
+TEST(TreeStore, OfANewTreeKnowsTheRoot) {
+  VoA2LElement* root = NewTree();
+  EXPECT_EQ(root->store->root, root);
+  DestroyTree(root);
+}
+
+}  // namespace
+}  // namespace a2l::test

@@ -1,0 +1,486 @@
+// SPDX-License-Identifier: MIT
+#include "reader/a2l_reader.h"
+
+#include <cstddef>
+#include <istream>
+#include <ostream>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "elements/blocks/functions.h"
+#include "elements/blocks/raw.h"
+#include "export/json_writer.h"
+#include "tests/support/files.h"
+#include "tests/support/streams.h"
+#include "tests/support/trees.h"
+
+namespace a2l::test {
+namespace {
+
+constexpr std::string_view kSmallFile =
+    "ASAP2_VERSION 1 71\n"
+    "/begin PROJECT P \"\"\n"
+    "  WORD\n"
+    "/end PROJECT\n";
+
+// What becomes of a text below a root of the test's own.
+struct Result {
+  bool ok;
+  std::string message;
+};
+Result ReadInto(VoA2LElement& root, std::string_view text) {
+  A2LReader reader;
+  std::istringstream in{std::string(text)};
+  const bool ok = reader.Parse(in, &root);
+  return {ok, reader.message};
+}
+
+TEST(A2LReader, NeedsARoot) {
+  const TemporaryFolder folder;
+  WriteFile(folder / "in.a2l", kSmallFile);
+  A2LReader reader;
+  EXPECT_FALSE(reader.Parse((folder / "in.a2l").string(), nullptr));
+  std::istringstream in{std::string(kSmallFile)};
+  EXPECT_FALSE(reader.Parse(in, nullptr));
+  EXPECT_EQ(reader.message, "");
+  EXPECT_TRUE(reader.diagnostics.empty());
+}
+
+TEST(A2LReader, FailsWithoutAMessageWhereThereIsNoFile) {
+  const TemporaryFolder folder;
+  const Tree root(NewTree());
+  for (const std::string& path :
+       {(folder / "missing.a2l").string(), (folder / "missing/in.a2l").string(), std::string()}) {
+    A2LReader reader;
+    EXPECT_FALSE(reader.Parse(path, root.get())) << path;
+    EXPECT_EQ(reader.message, "") << path;
+  }
+  EXPECT_EQ(root->ChildCount(), 0U);
+}
+
+TEST(A2LReader, FailsOnAFolder) {
+  const TemporaryFolder folder;
+  const Tree root(NewTree());
+  A2LReader reader;
+  EXPECT_FALSE(reader.Parse(folder.Path().string(), root.get()));
+  EXPECT_EQ(reader.message, "");
+}
+
+TEST(A2LReader, ReadsAFileAsItReadsAStream) {
+  const TemporaryFolder folder;
+  WriteFile(folder / "in.a2l", kSmallFile);
+  const Tree root(NewTree());
+  A2LReader reader;
+  EXPECT_TRUE(reader.Parse((folder / "in.a2l").string(), root.get()));
+  EXPECT_EQ(reader.message, "Warning: Line(3) unexpected element WORD\n");
+
+  const Reading reading = Read(kSmallFile);
+  EXPECT_TRUE(reading.ok);
+  EXPECT_EQ(reading.reader.message, reader.message);
+  EXPECT_EQ(Written(*reading.root), Written(*root));
+  EXPECT_EQ(root->ChildCount(), 2U);
+}
+
+TEST(A2LReader, ReadsAnEmptyFile) {
+  const TemporaryFolder folder;
+  WriteFile(folder / "in.a2l", "");
+  const Tree root(NewTree());
+  A2LReader reader;
+  EXPECT_TRUE(reader.Parse((folder / "in.a2l").string(), root.get()));
+  for (const std::string_view text :
+       {"", "\n", "\r\n\r\n", " \t ", "// nothing\n/* at\nall */\n"}) {
+    const Reading reading = Read(text);
+    EXPECT_TRUE(reading.ok) << testing::PrintToString(text);
+    EXPECT_EQ(reading.reader.message, "") << testing::PrintToString(text);
+    EXPECT_EQ(reading.root->ChildCount(), 0U);
+  }
+}
+
+TEST(A2LReader, GivesItsMessagesAsDataToo) {
+  const Reading reading = Read(
+      "WORD\n"
+      "/begin PROJECT P \"\"\n"
+      "/begin MODULE M \"\"\n"
+      "/begin UNIT u\n"
+      "/end UNIT\n"
+      "FORMAT \"%5.2\"\n"
+      "WORD\n");
+  EXPECT_FALSE(reading.ok);
+  EXPECT_EQ(reading.reader.message,
+            "Warning: Line(1) unexpected element WORD\n"
+            "Warning: Line(5) element need more parameters 4\n"
+            "Error: Line(6) unexpected property of element FORMAT\n");
+  const std::vector<Diagnostic>& diagnostics = reading.reader.diagnostics;
+  ASSERT_EQ(diagnostics.size(), 3U);
+  EXPECT_EQ(diagnostics[0].kind, DiagnosticKind::UnexpectedElement);
+  EXPECT_EQ(diagnostics[0].line, 1U);
+  EXPECT_EQ(diagnostics[0].subject, "WORD");
+  EXPECT_EQ(diagnostics[1].kind, DiagnosticKind::NeedMoreParameters);
+  EXPECT_EQ(diagnostics[1].line, 5U);
+  EXPECT_EQ(diagnostics[1].subject, "4");
+  EXPECT_EQ(diagnostics[2].kind, DiagnosticKind::RefusedElement);
+  EXPECT_EQ(diagnostics[2].line, 6U);
+  EXPECT_EQ(diagnostics[2].subject, "FORMAT");
+}
+
+TEST(A2LReader, KeepsTheTreeThatItReadBeforeAnError) {
+  const Reading reading = Read(
+      "/begin PROJECT P \"\"\n"
+      "/begin MODULE M \"\"\n"
+      "/end PROJECT\n"
+      "ASAP2_VERSION 1 71\n");
+  EXPECT_FALSE(reading.ok);
+  EXPECT_EQ(reading.reader.message, "Error: Line(3) /end don't equal /begin MODULE\n");
+  EXPECT_EQ(Written(*reading.root),
+            "/begin PROJECT P \"\"\n"
+            "  /begin MODULE M \"\"\n"
+            "  /end MODULE\n"
+            "/end PROJECT\n");
+}
+
+TEST(A2LReader, FailsOnABrokenDeviceWithTheMessagesSoFar) {
+  std::string text;
+  for (int i = 0; i < 500000; ++i) text += "WORD\n";
+  FailingBuffer buffer(text, text.size() - 2);
+  std::istream in(&buffer);
+  const Tree root(NewTree());
+  A2LReader reader;
+  EXPECT_FALSE(reader.Parse(in, root.get()));
+  EXPECT_TRUE(
+      reader.message.starts_with("Warning: Line(1) unexpected element WORD\n"
+                                 "Warning: Line(2) unexpected element WORD\n"));
+  // The half line before the failure is not looked at, and the failure itself says nothing.
+  EXPECT_EQ(reader.message.find("element WO\n"), std::string::npos);
+  EXPECT_TRUE(reader.message.ends_with("unexpected element WORD\n"));
+}
+
+TEST(A2LReader, FailsOnABrokenDeviceInsideAComment) {
+  FailingBuffer buffer("/* " + std::string(1000, 'x'), 900);
+  std::istream in(&buffer);
+  const Tree root(NewTree());
+  A2LReader reader;
+  EXPECT_FALSE(reader.Parse(in, root.get()));
+  EXPECT_EQ(reader.message, "") << "the comment may well be closed in what could not be read";
+}
+
+// --- Whose validity is at stake when parameters are wrong -------------------------------------
+
+// The lines of one object in a module, what is said about them, and whether the object is valid
+// in the end.
+struct Validity {
+  std::string_view name;
+  std::string_view lines;
+  std::string_view message;
+  bool valid;
+};
+
+constexpr Validity kValidities[] = {
+    {"AllRight",
+     "/begin MEASUREMENT M \"\" UBYTE C 1 0 0 1\n"
+     "ECU_ADDRESS 1\n",
+     "", true},
+    // Numbers of its own.
+    {"OwnNumber", "/begin MEASUREMENT M \"\" UBYTE C x 0 0 1\n",
+     "Warning: Line(3) wrong parameters MEASUREMENT\n", false},
+    {"OwnNumberOfBlob",
+     "/begin BLOB B \"\"\n"
+     "0x10 x\n",
+     "Warning: Line(4) wrong parameters BLOB\n", false},
+    {"OwnNumberOfInstance", "/begin INSTANCE I \"\" T x\n",
+     "Warning: Line(3) wrong parameters INSTANCE\n", false},
+    {"OwnNumberMissing",
+     "/begin AXIS_PTS A \"\" 0 Q D 0 C 5 0\n"
+     "/begin ANNOTATION\n"
+     "/end ANNOTATION\n",
+     "Warning: Line(4) element need more parameters 10\n", false},
+    // A property that is complete on its line: the warning names the block around it, and the
+    // flag is that of the block's parent, here of a module, which has none to clear.
+    {"PropertyOnItsLine",
+     "/begin MEASUREMENT M \"\" UBYTE C 1 0 0 1\n"
+     "ECU_ADDRESS zz\n",
+     "Warning: Line(4) wrong parameters MEASUREMENT\n", true},
+    {"PropertyOfAnAxisOnItsLine",
+     "/begin CHARACTERISTIC K \"\" CURVE 0 D 0 C 0 1\n"
+     "/begin AXIS_DESCR STD_AXIS Q C 5 0 1\n"
+     "MAX_GRAD x\n"
+     "/end AXIS_DESCR\n",
+     "Warning: Line(5) wrong parameters AXIS_DESCR\n", false},
+    {"PropertyOfABitOperationOnItsLine",
+     "/begin MEASUREMENT M \"\" UBYTE C 1 0 0 1\n"
+     "/begin BIT_OPERATION\n"
+     "LEFT_SHIFT x\n"
+     "/end BIT_OPERATION\n",
+     "Warning: Line(5) wrong parameters BIT_OPERATION\n", false},
+    {"PropertyOfAnOverwriteOnItsLine",
+     "/begin INSTANCE I \"\" T 0\n"
+     "/begin OVERWRITE O 1\n"
+     "LIMITS 0 x\n"
+     "/end OVERWRITE\n",
+     "Warning: Line(5) wrong parameters OVERWRITE\n", false},
+    // A property that was collected over lines speaks for itself: the flag is its block's.
+    {"PropertyOverLines",
+     "/begin MEASUREMENT M \"\" UBYTE C 1 0 0 1\n"
+     "ECU_ADDRESS\n"
+     "zz\n",
+     "Warning: Line(5) wrong parameters ECU_ADDRESS\n", false},
+    {"PropertyOverLinesOfAnAxis",
+     "/begin CHARACTERISTIC K \"\" CURVE 0 D 0 C 0 1\n"
+     "/begin AXIS_DESCR STD_AXIS Q C 5 0 1\n"
+     "MAX_GRAD\n"
+     "x\n"
+     "/end AXIS_DESCR\n",
+     "Warning: Line(6) wrong parameters MAX_GRAD\n", true},
+    {"WordOverLines",
+     "/begin BLOB B \"\" 0 1\n"
+     "CALIBRATION_ACCESS\n"
+     "NONE\n",
+     "Warning: Line(5) wrong parameters CALIBRATION_ACCESS\n", false},
+    // One that its block ends before it is complete is read, but not judged.
+    {"PropertyIncomplete",
+     "/begin MEASUREMENT M \"\" UBYTE C 1 0 0 1\n"
+     "MAX_REFRESH 1\n",
+     "Warning: Line(5) element need more parameters 2\n", true},
+    // An open list is collected by nature.
+    {"OpenList",
+     "/begin MEASUREMENT M \"\" UBYTE C 1 0 0 1\n"
+     "MATRIX_DIM 2 x 3\n",
+     "Warning: Line(5) wrong parameters MATRIX_DIM\n", false},
+    {"OpenListBeforeAProperty",
+     "/begin MEASUREMENT M \"\" UBYTE C 1 0 0 1\n"
+     "MATRIX_DIM 2 x 3\n"
+     "DISCRETE\n",
+     "Warning: Line(5) wrong parameters MATRIX_DIM\n", false},
+    // Blocks inside the object.
+    {"AxisWithABadNumber",
+     "/begin CHARACTERISTIC K \"\" CURVE 0 D 0 C 0 1\n"
+     "/begin AXIS_DESCR STD_AXIS Q C x 0 1\n"
+     "/end AXIS_DESCR\n",
+     "Warning: Line(4) wrong parameters AXIS_DESCR\n", false},
+    {"AxisWithTooFewNumbers",
+     "/begin CHARACTERISTIC K \"\" CURVE 0 D 0 C 0 1\n"
+     "/begin AXIS_DESCR STD_AXIS Q C 5\n"
+     "/end AXIS_DESCR\n",
+     "Warning: Line(5) element need more parameters 6\n", false},
+    {"OverwriteWithABadNumber",
+     "/begin INSTANCE I \"\" T 0\n"
+     "/begin OVERWRITE O x\n"
+     "/end OVERWRITE\n",
+     "Warning: Line(4) wrong parameters OVERWRITE\n", false},
+    // Further down it is the parent alone that counts.
+    {"FixAxisListWithABadNumber",
+     "/begin CHARACTERISTIC K \"\" CURVE 0 D 0 C 0 1\n"
+     "/begin AXIS_DESCR FIX_AXIS Q C 5 0 1\n"
+     "/begin FIX_AXIS_PAR_LIST\n"
+     "0 x\n"
+     "/end FIX_AXIS_PAR_LIST\n"
+     "/end AXIS_DESCR\n",
+     "Warning: Line(7) wrong parameters FIX_AXIS_PAR_LIST\n", true},
+    {"UnknownWord",
+     "/begin MEASUREMENT M \"\" UBYTE C 1 0 0 1\n"
+     "WORD\n",
+     "Warning: Line(4) unexpected element WORD\n", true},
+};
+
+void PrintTo(const Validity& row, std::ostream* out) {
+  *out << row.name;
+}
+
+class ValidFlag : public testing::TestWithParam<Validity> {};
+
+TEST_P(ValidFlag, IsClearedWhereParametersOfTheObjectAreWrong) {
+  const Validity& row = GetParam();
+  const std::string_view block = row.lines.substr(7, row.lines.find(' ', 7) - 7);
+  const Reading reading =
+      Read("/begin PROJECT P \"\"\n/begin MODULE M \"\"\n" + std::string(row.lines) + "/end " +
+           std::string(block) + "\n/end MODULE\n/end PROJECT\n");
+  EXPECT_TRUE(reading.ok);
+  EXPECT_EQ(reading.reader.message, row.message);
+  const VoA2LElement* module = reading.root->Child(0)->Child(0);
+  ASSERT_EQ(module->ChildCount(), 1U) << "a wrong element stays in the tree";
+  EXPECT_EQ(module->Child(0)->valid, row.valid ? 1 : 0);
+  EXPECT_EQ(module->valid, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Objects, ValidFlag, testing::ValuesIn(kValidities),
+                         [](const auto& instance) { return std::string(instance.param.name); });
+
+// --- Roots that no file has -------------------------------------------------------------------
+
+// An application may read a fragment below an element of its own. Then the text can end that
+// element, too.
+TEST(FragmentReading, EndOfTheRootItselfIsAnError) {
+  struct Row {
+    ElementKind kind;
+    std::string_view text;
+    std::string_view message;
+  };
+  constexpr Row kRows[] = {
+      {ElementKind::PROJECT, "\n/end PROJECT\n", "Error: Line(2) unexpected NULL pointer\n"},
+      {ElementKind::PROJECT, "/end MODULE\n", "Error: Line(1) /end don't equal /begin PROJECT\n"},
+      {ElementKind::PROJECT, "/end PROJECT /end PROJECT\n",
+       "Error: Line(1) unexpected NULL pointer\n"},
+      // The root of a file has no keyword, which an unknown word does not close.
+      {KIND_ROOT, "/end WORD\n", "Error: Line(1) /end don't equal /begin \n"},
+      // A root that is a property has no block around it.
+      {ElementKind::FORMAT, "/end FORMAT\n", "Error: Line(1) unexpected NULL pointer\n"},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(testing::PrintToString(row.text));
+    const Tree root(NewTree());
+    root->kind = row.kind;
+    const auto [ok, message] = ReadInto(*root, row.text);
+    EXPECT_FALSE(ok);
+    EXPECT_EQ(message, row.message);
+  }
+}
+
+// A root that accepts children without becoming their parent.
+class Orphanage : public VoA2LElement {
+ public:
+  bool AddChild(VoA2LElement* child) override {
+    child->parent = nullptr;
+    children.PushBack(*store, child);
+    return true;
+  }
+};
+
+TEST(FragmentReading, ElementsWithoutAParentCannotBeLeft) {
+  struct Row {
+    std::string_view text;
+    std::string_view before;
+    std::string_view error;
+  };
+  constexpr Row kRows[] = {
+      // A property that its second line completes.
+      {"ASAP2_VERSION 1\n71\n", "", "2) unexpected NULL PTR\n"},
+      {"ASAP2_VERSION\n1\nx\n", "Warning: Line(3) wrong parameters ASAP2_VERSION\n",
+       "3) unexpected NULL PTR\n"},
+      // One that a begin line or an end line closes.
+      {"ASAP2_VERSION 1\n/begin PROJECT P \"\"\n",
+       "Warning: Line(2) element need more parameters 2\n", "2) unexpected NULL PTR\n"},
+      {"ASAP2_VERSION 1\n\n/end PROJECT\n", "Warning: Line(3) element need more parameters 2\n",
+       "3) unexpected NULL pointer\n"},
+      // An open list, closed by each kind of line.
+      {"MATRIX_DIM 2\n3\nVERSION \"\"\n", "", "3) unexpected NULL PTR\n"},
+      {"MATRIX_DIM 2\n/begin PROJECT P \"\"\n", "", "2) unexpected NULL PTR\n"},
+      {"MATRIX_DIM 2\n/end PROJECT\n", "", "2) unexpected NULL pointer\n"},
+      {"MATRIX_DIM x\n/end PROJECT\n", "Warning: Line(2) wrong parameters MATRIX_DIM\n",
+       "2) unexpected NULL pointer\n"},
+      // A block.
+      {"/begin PROJECT P \"\"\n/end PROJECT\n", "", "2) unexpected NULL pointer\n"},
+      {"/begin PROJECT P\n/end PROJECT\n", "Warning: Line(2) element need more parameters 2\n",
+       "2) unexpected NULL pointer\n"},
+      {"/begin IF_DATA XCP\n/end IF_DATA\n", "", "2) unexpected NULL pointer\n"},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(testing::PrintToString(row.text));
+    TreeStore store;
+    auto* root = store.Create<Orphanage>();
+    const auto [ok, message] = ReadInto(*root, row.text);
+    EXPECT_FALSE(ok);
+    EXPECT_EQ(message, std::string(row.before) + "Error: Line(" + std::string(row.error));
+    EXPECT_EQ(root->ChildCount(), 1U);
+  }
+}
+
+TEST(FragmentReading, PropertiesOnTheirLineNeedNoParent) {
+  TreeStore store;
+  auto* root = store.Create<Orphanage>();
+  const auto [ok, message] = ReadInto(*root, "ASAP2_VERSION 1 71\nDISCRETE\nASAP2_VERSION 1 x\n");
+  EXPECT_TRUE(ok);
+  EXPECT_EQ(message, "Warning: Line(3) wrong parameters \n") << "the root has no keyword";
+  EXPECT_EQ(root->ChildCount(), 3U);
+}
+
+// --- Sizes ------------------------------------------------------------------------------------
+
+// A list of 65535 entries on one line is complete there: what follows is no part of it.
+TEST(A2LReader, TakesAFullLineOfAnOpenListAtOnce) {
+  struct Row {
+    std::string_view head;
+    std::size_t tokens;
+    std::string_view message;
+  };
+  constexpr std::string_view kUnexpected = "Warning: Line(4) unexpected element 5\n";
+  constexpr Row kRows[] = {
+      {"MATRIX_DIM", 65534, ""},     {"MATRIX_DIM", 65535, kUnexpected},
+      {"/begin VIRTUAL", 65534, ""}, {"/begin VIRTUAL", 65535, kUnexpected},
+      {"/begin IF_DATA", 65534, ""}, {"/begin IF_DATA", 65535, kUnexpected},
+      {"/begin WORD", 65534, ""},    {"/begin WORD", 70000, kUnexpected},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.head);
+    std::string text = "/begin PROJECT P \"\" /begin MODULE M \"\"\n";
+    text += "/begin MEASUREMENT M \"\" UBYTE C 1 0 0 1\n";
+    text += row.head;
+    for (std::size_t i = 0; i < row.tokens; ++i) text += " 7";
+    text += "\n5\n";
+    const Reading reading = Read(text);
+    EXPECT_TRUE(reading.ok);
+    EXPECT_EQ(reading.reader.message, row.message);
+  }
+}
+
+TEST(A2LReader, CountsTheTokensOfAFullLine) {
+  std::string text = "/begin DEF_CHARACTERISTIC";
+  for (int i = 0; i < 70000; ++i) text += " c" + std::to_string(i);
+  TreeStore store;
+  auto* root = store.Create<Orphanage>();
+  EXPECT_TRUE(ReadInto(*root, text).ok);
+  const auto* list = dynamic_cast<const VoA2LElementDefCharacteristic*>(root->Child(0));
+  ASSERT_NE(list, nullptr);
+  ASSERT_EQ(list->IDENTIFIER_LIST.size(), 70000U);
+  EXPECT_EQ(list->IDENTIFIER_LIST[69999], "c69999");
+}
+
+// Neither reading nor writing nor freeing a tree depends on the call stack for its depth.
+TEST(A2LReader, ReadsBlocksOfAnyDepth) {
+  constexpr int kRounds = 75000;
+  std::string text;
+  for (int i = 0; i < kRounds; ++i) {
+    text +=
+        "/begin PROJECT P \"\"\n/begin MODULE M \"\"\n/begin FUNCTION F \"\"\n"
+        "/begin DEF_CHARACTERISTIC\n";
+  }
+  for (int i = 0; i < kRounds; ++i)
+    text += "/end DEF_CHARACTERISTIC\n/end FUNCTION\n/end MODULE\n/end PROJECT\n";
+  const Reading reading = Read(text);
+  EXPECT_TRUE(reading.ok);
+  EXPECT_EQ(reading.reader.message, "");
+  int depth = 0;
+  for (const VoA2LElement* element = reading.root->Child(0); element != nullptr;
+       element = element->Child(0)) {
+    ++depth;
+  }
+  EXPECT_EQ(depth, 4 * kRounds);
+  // The innermost block of a round is a list, which leaves its children out.
+  EXPECT_EQ(Written(*reading.root),
+            "/begin PROJECT P \"\"\n"
+            "  /begin MODULE M \"\"\n"
+            "    /begin FUNCTION F \"\"\n"
+            "      /begin DEF_CHARACTERISTIC\n"
+            "      /end DEF_CHARACTERISTIC\n"
+            "    /end FUNCTION\n"
+            "  /end MODULE\n"
+            "/end PROJECT\n");
+  EXPECT_NE(ToJson(*reading.root).find("\"FFUNCTION\": [{"), std::string::npos);
+}
+
+TEST(A2LReader, KeepsRawBlocksOfAnyDepth) {
+  constexpr std::size_t kDepth = 300000;
+  std::string body;
+  for (std::size_t i = 0; i < kDepth; ++i) body += "\n/begin B";
+  for (std::size_t i = 0; i < kDepth; ++i) body += "\n/end B";
+  const Reading reading = Read("/begin WORD a" + body + "\n/end WORD\n");
+  EXPECT_TRUE(reading.ok);
+  const auto* unknown = dynamic_cast<const VoA2LElementUnknown*>(reading.root->Child(0));
+  ASSERT_NE(unknown, nullptr);
+  EXPECT_TRUE(unknown->TEXT == " a" + body);
+}
+
+}  // namespace
+}  // namespace a2l::test
