@@ -54,6 +54,7 @@ std::vector<Case> AllCases() {
   return cases;
 }
 
+// NOLINTNEXTLINE(concurrency-mt-unsafe): no test sets the environment
 bool Updates() { return std::getenv("A2L2JSON_UPDATE_CASES") != nullptr; }
 
 void ExpectFile(const fs::path& path, const std::string& actual) {

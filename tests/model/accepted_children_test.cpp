@@ -167,9 +167,7 @@ void ExpectAccepts(VoA2LElement& block, std::string_view children) {
   }
 }
 
-void PrintTo(const Block& block, std::ostream* out) {
-  *out << block.keyword;
-}
+void PrintTo(const Block& block, std::ostream* out) { *out << block.keyword; }
 
 class AcceptedChildren : public testing::TestWithParam<Block> {};
 

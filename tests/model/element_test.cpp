@@ -16,6 +16,8 @@
 #include "elements/blocks/functions.h"
 #include "elements/blocks/project.h"
 #include "elements/properties/numbers.h"
+#include "elements/properties/record_layout_entries.h"
+#include "reader/a2l_reader.h"
 #include "reader/element_factory.h"
 #include "tests/support/files.h"
 #include "tests/support/kinds.h"
@@ -218,9 +220,7 @@ TEST_F(ElementTest, WriteReachesTheFileBeforeItIsClosed) {
   EXPECT_EQ(ReadFile(folder / "out.a2l"), "    ASAP2_VERSION 1 71\n");
 }
 
-TEST_F(ElementTest, DestroyTreeDoesNothingForNull) {
-  DestroyTree(nullptr);
-}
+TEST_F(ElementTest, DestroyTreeDoesNothingForNull) { DestroyTree(nullptr); }
 
 TEST_F(ElementTest, DestroyTreeTakesAnElementOutOfItsParent) {
   VoA2LElement* first = Make(ElementKind::PROJECT);
@@ -243,6 +243,44 @@ TEST_F(ElementTest, DestroyTreeLeavesTheParentOfARefusedChildAlone) {
   DestroyTree(MakePlain(ElementKind::MODULE));  // never had a parent
   ASSERT_EQ(root_->ChildCount(), 1U);
   EXPECT_EQ(root_->Child(0), project);
+}
+
+// An application may keep the root, or any single element, where it likes.
+TEST(ElementOnTheStack, CanBeTheRootOfATree) {
+  VoA2LElement root;
+  DestroyTree(&root);  // has nothing to release yet
+  for (int round = 0; round < 2; ++round) {
+    A2LReader reader;
+    std::istringstream in("/begin PROJECT P \"\"\n/end PROJECT\nASAP2_VERSION 1 71\n");
+    EXPECT_TRUE(reader.Parse(in, &root));
+    EXPECT_EQ(root.ChildCount(), 2U);
+    EXPECT_EQ(Written(root),
+              "ASAP2_VERSION 1 71\n"
+              "/begin PROJECT P \"\"\n"
+              "/end PROJECT\n");
+    DestroyTree(&root);
+    EXPECT_EQ(root.ChildCount(), 0U);
+    EXPECT_EQ(root.Child(0), nullptr);
+  }
+}
+
+TEST(ElementOnTheStack, CanReadItsParameters) {
+  VoA2LElementFunction function;
+  std::string line = " F \"d\" x";
+  std::string_view text = line;
+  EXPECT_TRUE(function.ParseParameters(text));
+  line.assign(line.size(), '#');
+  EXPECT_EQ(Written(function), "/begin FUNCTION F \"d\"\n/end FUNCTION\n");
+  DestroyTree(&function);
+}
+
+TEST(ElementOnTheStack, OfAnAxisFamilyIsMadeWithItsKind) {
+  VoA2LElementAxisPtsX points(ElementKind::AXIS_PTS_5);
+  EXPECT_EQ(points.kind, ElementKind::AXIS_PTS_5);
+  EXPECT_EQ(Written(points), "AXIS_PTS_5 0 UBYTE INDEX_INCR PBYTE\n");
+  EXPECT_EQ(VoA2LElementAxisPtsX().kind, ElementKind::AXIS_PTS_X);
+  EXPECT_EQ(VoA2LElementRipAddrX().kind, ElementKind::RIP_ADDR_X);
+  EXPECT_EQ(VoA2LElementRipAddrX(ElementKind::RIP_ADDR_W).kind, ElementKind::RIP_ADDR_W);
 }
 
 // A file may nest its blocks as deep as it is long.

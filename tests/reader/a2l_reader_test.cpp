@@ -285,9 +285,7 @@ constexpr Validity kValidities[] = {
      "Warning: Line(4) unexpected element WORD\n", true},
 };
 
-void PrintTo(const Validity& row, std::ostream* out) {
-  *out << row.name;
-}
+void PrintTo(const Validity& row, std::ostream* out) { *out << row.name; }
 
 class ValidFlag : public testing::TestWithParam<Validity> {};
 

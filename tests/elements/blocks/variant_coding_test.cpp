@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "elements/blocks/variant_coding.h"
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "tests/support/parsing.h"
+
+namespace a2l::test {
+namespace {
+
+std::string Block(const std::string& head, const std::string& lines) {
+  return "/begin " + head + "\n" + lines + "/end " + head.substr(0, head.find(' ')) + "\n";
+}
+
+TEST(VariantCoding, TakesNothing) {
+  ExpectParse({"VARIANT_CODING", " a b", true, " a b", Block("VARIANT_CODING", "")});
+}
+
+TEST(VarCriterion, TakesANameADescriptionAndValues) {
+  const std::string name(1024, 'n');
+  const ParseRow rows[] = {
+      {"VAR_CRITERION", R"( C "a b" Limousine "x y")", true, "",
+       Block("VAR_CRITERION C \"a b\"", "  Limousine \n  \"x y\" \n")},
+      {"VAR_CRITERION", R"( C "")", true, "", Block("VAR_CRITERION C \"\"", "")},
+      {"VAR_CRITERION", " C a b", true, "", Block("VAR_CRITERION C \"\"", "  b \n")},
+      {"VAR_CRITERION", name + "cut \"\" " + name + "cut", true, "",
+       Block("VAR_CRITERION " + name + " \"\"", "  " + name + " \n")},
+      {"VAR_CRITERION", "", true, "", Block("VAR_CRITERION  \"\"", "")},
+  };
+  ExpectParse(rows);
+}
+
+TEST(VarCharacteristic, TakesANameAndCriteria) {
+  const ParseRow rows[] = {
+      {"VAR_CHARACTERISTIC", " V Car Gear", true, "",
+       Block("VAR_CHARACTERISTIC V", "  Car \n  Gear \n")},
+      {"VAR_CHARACTERISTIC", " V", true, "", Block("VAR_CHARACTERISTIC V", "")},
+      {"VAR_CHARACTERISTIC", "", true, "", Block("VAR_CHARACTERISTIC ", "")},
+  };
+  ExpectParse(rows);
+}
+
+TEST(VarAddress, EndsAtTheFirstWrongNumberWhichIsDropped) {
+  const ParseRow rows[] = {
+      {"VAR_ADDRESS", " 0x8000 0x8010 32800", true, "",
+       Block("VAR_ADDRESS", "  0x8000 \n  0x8010 \n  0x8020 \n")},
+      {"VAR_ADDRESS", " 0x8000 xyz 5", false, " 5", Block("VAR_ADDRESS", "  0x8000 \n")},
+      {"VAR_ADDRESS", "", true, "", Block("VAR_ADDRESS", "")},
+  };
+  ExpectParse(rows);
+}
+
+TEST(VarForbiddenComb, TakesPairs) {
+  const ParseRow rows[] = {
+      {"VAR_FORBIDDEN_COMB", " Car Limousine Gear Manual", true, "",
+       Block("VAR_FORBIDDEN_COMB", "  Car Limousine\n  Gear Manual\n")},
+      {"VAR_FORBIDDEN_COMB", " Car Limousine Gear", false, "",
+       Block("VAR_FORBIDDEN_COMB", "  Car Limousine\n")},
+      {"VAR_FORBIDDEN_COMB", " Car", false, "", Block("VAR_FORBIDDEN_COMB", "")},
+      {"VAR_FORBIDDEN_COMB", "", true, "", Block("VAR_FORBIDDEN_COMB", "")},
+  };
+  ExpectParse(rows);
+  const std::string name(1024, 'n');
+  const Made<VoA2LElementVarForbiddenComb> combination(name + "cut " + name + "cut Gear");
+  ASSERT_EQ(combination->CRITERION_NAME.size(), 2U) << "a name without a value stays";
+  ASSERT_EQ(combination->VALUE.size(), 1U);
+  EXPECT_EQ(combination->CRITERION_NAME[0], name);
+  EXPECT_EQ(combination->CRITERION_NAME[1], "Gear");
+  EXPECT_EQ(combination->VALUE[0], name);
+}
+
+}  // namespace
+}  // namespace a2l::test

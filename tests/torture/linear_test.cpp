@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: MIT
+//
+// A conversion takes memory and time in proportion to its input: for every shape of input that
+// some part of the program could take too much work for, its cost is compared with the cost of an
+// input sixteen times as long. No clock is read. Steps of growth (buffers that double) even out
+// over two quadruplings, so the cost may grow by 25, which is five for each of them.
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <sstream>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "export/json_writer.h"
+#include "tests/support/trees.h"
+#include "tests/torture/generated_text.h"
+#include "tests/torture/meters.h"
+
+namespace a2l::test {
+namespace {
+
+constexpr std::size_t kFactor = 16;
+constexpr std::uint64_t kMostGrowth = 25;
+
+struct Shape {
+  const char* name;
+  Parts before;
+  Part repeated;
+  Parts after;
+};
+
+// What stands around the content of a module.
+Shape InModule(const char* name, const char* open, Part repeated, const char* close) {
+  return {name,
+          {"/begin PROJECT p \"\"\n/begin MODULE m \"\"\n", open},
+          std::move(repeated),
+          {close, "\n/end MODULE\n/end PROJECT\n"}};
+}
+
+Part Times(const char* text) { return {text, 1}; }
+Part Numbered(const char* before, const char* behind) {
+  return {[=](std::size_t i) { return before + std::to_string(i) + behind; }, 1};
+}
+
+std::vector<Shape> Shapes() {
+  const char* const measurement = "/begin MEASUREMENT x \"\" UBYTE c 1 1 0 1\n";
+  const char* const text = "/begin MOD_COMMON \"";
+  return {
+      {"BlankLines", {}, Times("\n"), {}},
+      {"Warnings", {}, Times("word word\n"), {}},
+      {"OneWord", {}, Times("x"), {}},
+      {"OneLine", {}, Times("a b "), {}},
+      {"Slashes", {}, Times("/ "), {}},
+      {"Stars", {"/*"}, Times("*"), {"/"}},
+      {"CommentOverLines", {"/*"}, Times("a\n"), {"*/"}},
+      {"CommentsOnOneLine", {}, Times("a /* b */ \"c\" "), {}},
+      {"CommentsOverTwoLines", {}, Times("a /* b\n */ c "), {}},
+      {"LineComments", {}, Times("// a\n"), {}},
+      {"Quotes", {}, Times("\""), {" /**/\n"}},
+      {"UnclosedQuotes", {}, Times("\" /* \n"), {}},
+      {"UnknownBlocksInEachOther", {}, Times("/begin X\n"), {}},
+      {"UnknownBlocksOnOneLine", {"/begin PROJECT p \"\""}, Times("/begin X /end X "), {}},
+      {"ProjectsInEachOther",
+       {},
+       Times("/begin PROJECT p \"\"\n/begin MODULE m \"\"\n"
+             "/begin MEASUREMENT x \"\" UBYTE c 1 1 0 1\n/begin VIRTUAL a\n"),
+       {}},
+      {"Modules", {"/begin PROJECT p \"\"\n"}, Times("/begin MODULE m \"\"\n/end MODULE\n"), {}},
+      {"Versions", {}, Numbered("ASAP2_VERSION 1 ", "\n"), {}},
+      InModule("LongText", text, Times("ab\\\"cd\"\""), "\"\n/end MOD_COMMON"),
+      InModule("LongTextOverLines", text, Times("a\n"), "\"\n/end MOD_COMMON"),
+      InModule("TextOfSeparators", text, Times("\xE2\x80\xA8"), "\"\n/end MOD_COMMON"),
+      InModule("UnclosedText", text, Times("a\n"), "/end MOD_COMMON"),
+      InModule("HeadOverLines", "/begin MEASUREMENT\n", Times("a\n\n"), "/end MEASUREMENT"),
+      InModule("Measurements", "",
+               Times("/begin MEASUREMENT x \"\" UBYTE c 1 1 0 1\nFORMAT \"%1\"\n"
+                     "/end MEASUREMENT\n"),
+               ""),
+      InModule("Properties", measurement, Times("FORMAT \"%1\"\nDISCRETE\n"), "/end MEASUREMENT"),
+      InModule("WrongProperties", measurement, Times("ECU_ADDRESS z\nBYTE_ORDER\nz\n"),
+               "/end MEASUREMENT"),
+      InModule("Dimensions", (measurement + std::string("MATRIX_DIM ")).c_str(), Times("1 2\n"),
+               "/end MEASUREMENT"),
+      InModule("Names", "/begin GROUP g \"\"\n/begin SUB_GROUP\n", Numbered("n", "\n"),
+               "/end SUB_GROUP\n/end GROUP"),
+      InModule("NamesOnOneLine", "/begin GROUP g \"\"\n/begin SUB_GROUP ", Numbered("n", " "),
+               "\n/end SUB_GROUP\n/end GROUP"),
+      InModule("GroupsOfRights", "/begin USER_RIGHTS u\n",
+               Times("/begin REF_GROUP a b\n/end REF_GROUP\n"), "/end USER_RIGHTS"),
+      InModule("Addresses", "/begin MOD_PAR \"\"\n", Times("ADDR_EPK 1\n"), "/end MOD_PAR"),
+      InModule("Annotations", "/begin GROUP g \"\"\n",
+               Times("/begin ANNOTATION\n/begin ANNOTATION_TEXT \"a\" \"b\"\n"
+                     "/end ANNOTATION_TEXT\n/end ANNOTATION\n"),
+               "/end GROUP"),
+      InModule("Combinations", "/begin VARIANT_CODING\n/begin VAR_FORBIDDEN_COMB\n",
+               Numbered("c", " v\n"), "/end VAR_FORBIDDEN_COMB\n/end VARIANT_CODING"),
+      InModule("RowsOfNoTable", "/begin COMPU_TAB t \"\" TAB_INTP 1000000000\n", Times("1 2\n"),
+               "/end COMPU_TAB"),
+      InModule("RowsOfATable", "/begin COMPU_VTAB t \"\" TAB_VERB 1000\n",
+               Times("1 \"one\" 2 \"two\"\n"), "/end COMPU_VTAB"),
+      InModule("InterfaceData", "/begin IF_DATA X\n", Times("/begin A\n a b\n/end A\n"),
+               "/end IF_DATA"),
+      InModule("InterfaceDataOnOneLine", "/begin IF_DATA X v ", Times("/begin A/end A"),
+               "/end IF_DATA"),
+      InModule("LongNumber", "/begin COMPU_TAB t \"\" TAB_INTP 1\n1", Times("0"),
+               " 1\n/end COMPU_TAB"),
+  };
+}
+
+// Everything that a user does with a text of the shape, `times` over.
+std::function<void()> Work(const Shape& shape, std::size_t times) {
+  return [&shape, times] {
+    Parts parts = shape.before;
+    parts.push_back(shape.repeated);
+    parts.back().times = times;
+    parts.insert(parts.end(), shape.after.begin(), shape.after.end());
+    const Reading reading = ReadParts(std::move(parts));
+    EXPECT_FALSE(ToJson(*reading.root).empty());
+    std::ostringstream out;
+    EXPECT_TRUE(reading.root->Write(0, out));
+  };
+}
+
+using Meter = std::optional<std::uint64_t> (*)(const std::function<void()>& work);
+
+// True unless the meter does not work here.
+bool ExpectProportion(Meter meter, std::size_t times) {
+  for (const Shape& shape : Shapes()) {
+    Work(shape, times)();  // what is made once and for all does not count
+    const std::optional<std::uint64_t> less = meter(Work(shape, times));
+    if (!less.has_value()) return false;
+    const std::optional<std::uint64_t> more = meter(Work(shape, kFactor * times));
+    EXPECT_TRUE(more.has_value() && *more <= kMostGrowth * *less)
+        << shape.name << ": " << *less << ", then " << more.value_or(0);
+  }
+  return true;
+}
+
+TEST(Linear, MemoryGrowsWithTheInput) {
+  if (!ExpectProportion(AllocatedBytes, 20000 / kScaleDown)) {
+    GTEST_SKIP() << "allocations are not counted in this build";
+  }
+}
+
+TEST(Linear, WorkGrowsWithTheInput) {
+  if (!ExpectProportion(ExecutedInstructions, 2000)) {
+    GTEST_SKIP() << "instructions are not counted on this system";
+  }
+}
+
+// The meters themselves: they see the work that is done, and four times as much of it.
+TEST(Meters, CountWhatIsAllocated) {
+  const auto allocate = [](std::size_t size) {
+    return AllocatedBytes([size] { EXPECT_EQ(std::string(size, 'x').size(), size); });
+  };
+  const std::optional<std::uint64_t> less = allocate(1000);
+  if (!less.has_value()) GTEST_SKIP() << "allocations are not counted in this build";
+  EXPECT_GE(*less, 1000U);
+  EXPECT_GE(allocate(4000), *less + 3000);
+}
+
+TEST(Meters, CountWhatIsExecuted) {
+  const auto count = [](std::size_t rounds) {
+    return ExecutedInstructions([rounds] {
+      volatile std::size_t sum = 0;
+      for (std::size_t i = 0; i < rounds; ++i) sum = sum + i;
+    });
+  };
+  const std::optional<std::uint64_t> less = count(100000);
+  if (!less.has_value()) GTEST_SKIP() << "instructions are not counted on this system";
+  EXPECT_GE(*less, 100000U);
+  EXPECT_GE(count(400000), *less * 3);
+}
+
+}  // namespace
+}  // namespace a2l::test

@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#include "tests/torture/meters.h"
+
+#include <cstdlib>
+#include <memory>
+#include <new>
+
+#ifdef __linux__
+#include <linux/perf_event.h>
+#include <sys/ioctl.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+#endif
+
+// The sanitizers have an operator new of their own, which knows more than this one.
+#if defined(__SANITIZE_ADDRESS__)
+#define A2L_OWN_OPERATOR_NEW 0
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define A2L_OWN_OPERATOR_NEW 0
+#endif
+#endif
+#if !defined(A2L_OWN_OPERATOR_NEW) && defined(__GNUC__)
+#define A2L_OWN_OPERATOR_NEW 1
+#endif
+
+namespace {
+
+std::uint64_t allocated = 0;  // the tests have one thread
+
+}  // namespace
+
+#if A2L_OWN_OPERATOR_NEW
+// Weak, so that another test may bring its own, strong ones; nothing is counted then.
+// NOLINTBEGIN(cppcoreguidelines-no-malloc)
+__attribute__((weak)) void* operator new(std::size_t size) {
+  allocated += size;
+  if (void* memory = std::malloc(size > 0 ? size : 1)) return memory;
+  throw std::bad_alloc();
+}
+__attribute__((weak)) void operator delete(void* memory) noexcept { std::free(memory); }
+__attribute__((weak)) void operator delete(void* memory, std::size_t /*size*/) noexcept {
+  std::free(memory);
+}
+// NOLINTEND(cppcoreguidelines-no-malloc)
+#endif
+
+namespace a2l::test {
+
+std::optional<std::uint64_t> AllocatedBytes(const std::function<void()>& work) {
+  const std::uint64_t before = allocated;
+  const auto probe = std::make_unique<std::uint64_t>(before);
+  if (allocated == *probe) return std::nullopt;
+  const std::uint64_t start = allocated;
+  work();
+  return allocated - start;
+}
+
+#ifdef __linux__
+
+namespace {
+
+// A counter of this process' instructions outside of the kernel.
+class InstructionCounter {
+ public:
+  InstructionCounter() {
+    perf_event_attr attributes{};
+    attributes.type = PERF_TYPE_HARDWARE;
+    attributes.size = sizeof(attributes);
+    attributes.config = PERF_COUNT_HW_INSTRUCTIONS;
+    attributes.disabled = 1;
+    attributes.exclude_kernel = 1;
+    attributes.exclude_hv = 1;
+    file_ = static_cast<int>(syscall(SYS_perf_event_open, &attributes, 0, -1, -1, 0));
+  }
+  ~InstructionCounter() {
+    if (file_ >= 0) close(file_);
+  }
+  InstructionCounter(const InstructionCounter&) = delete;
+  InstructionCounter& operator=(const InstructionCounter&) = delete;
+
+  [[nodiscard]] bool Works() const { return file_ >= 0; }
+  void Start() const { ioctl(file_, PERF_EVENT_IOC_ENABLE, 0); }
+  [[nodiscard]] std::optional<std::uint64_t> Stop() const {
+    ioctl(file_, PERF_EVENT_IOC_DISABLE, 0);
+    std::uint64_t count = 0;
+    if (read(file_, &count, sizeof(count)) != sizeof(count) || count == 0) return std::nullopt;
+    return count;
+  }
+
+ private:
+  int file_ = -1;
+};
+
+}  // namespace
+
+std::optional<std::uint64_t> ExecutedInstructions(const std::function<void()>& work) {
+  const InstructionCounter counter;
+  if (!counter.Works()) return std::nullopt;
+  counter.Start();
+  work();
+  return counter.Stop();
+}
+
+#else
+
+std::optional<std::uint64_t> ExecutedInstructions(const std::function<void()>& /*work*/) {
+  return std::nullopt;
+}
+
+#endif
+
+}  // namespace a2l::test
