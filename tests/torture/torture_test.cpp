@@ -18,7 +18,7 @@
 #include "elements/blocks/project.h"
 #include "elements/blocks/raw.h"
 #include "export/json_writer.h"
-#include "fuzz/json_check.h"
+#include "tests/support/json_check.h"
 #include "tests/support/trees.h"
 #include "tests/torture/generated_text.h"
 
