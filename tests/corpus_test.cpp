@@ -3,6 +3,7 @@
 // Files as users have them, which lie beside the repository where there are any. Their README
 // has a table with the exit code and the number of messages that each must give.
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <map>
 #include <set>
@@ -26,7 +27,7 @@ namespace fs = std::filesystem;
 const fs::path kCorpus = A2L2JSON_SHARED_CORPUS;
 
 struct Expectation {
-  int exitCode = -1;
+  long exitCode = -1;
   long messages = -1;
 };
 
@@ -57,8 +58,9 @@ std::map<std::string, Expectation> ReadTable() {
     Expectation expectation;
     for (std::size_t i = 0; i < cells.size(); ++i) {
       if (headings[i] == "file") file = cells[i];
-      if (headings[i] == "exit") expectation.exitCode = std::atoi(cells[i].c_str());
-      if (headings[i] == "messages") expectation.messages = std::atol(cells[i].c_str());
+      if (headings[i] == "exit") expectation.exitCode = std::strtol(cells[i].c_str(), nullptr, 10);
+      if (headings[i] == "messages")
+        expectation.messages = std::strtol(cells[i].c_str(), nullptr, 10);
     }
     if (file.ends_with(".a2l")) table[file] = expectation;
   }

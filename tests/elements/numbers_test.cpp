@@ -571,10 +571,10 @@ bool ReadsBackWith(int digits, double value, int& exponent) {
   const std::string format = "%." + std::to_string(digits - 1) + "e";
   std::string nearest = Printed(format.c_str(), value);
   const std::size_t e = nearest.find('e');
-  exponent = std::atoi(nearest.c_str() + e + 1);
+  exponent = static_cast<int>(std::strtol(nearest.c_str() + e + 1, nullptr, 10));
   nearest.resize(e);
   std::erase(nearest, '.');
-  const std::int64_t number = std::atoll(nearest.c_str());
+  const std::int64_t number = std::strtoll(nearest.c_str(), nullptr, 10);
   for (const std::int64_t candidate : {number, number - 1, number + 1}) {
     const std::string text =
         std::to_string(candidate) + "e" + std::to_string(exponent - (digits - 1));

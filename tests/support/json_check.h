@@ -12,7 +12,7 @@
 #include <string_view>
 #include <vector>
 
-namespace a2l::fuzz {
+namespace a2l::test {
 
 class JsonCheck {
  public:
@@ -167,4 +167,4 @@ class JsonCheck {
   const char* complaint_ = "";
 };
 
-}  // namespace a2l::fuzz
+}  // namespace a2l::test

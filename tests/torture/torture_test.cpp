@@ -58,7 +58,7 @@ void ExpectOne(const Reading& reading, DiagnosticKind kind, std::size_t line,
 
 std::string JsonOf(const Reading& reading) {
   std::string json = ToJson(*reading.root);
-  EXPECT_EQ(fuzz::JsonCheck::Complaint(json), "");
+  EXPECT_EQ(JsonCheck::Complaint(json), "");
   return json;
 }
 
@@ -368,7 +368,7 @@ TEST(Torture, AMillionBlocksBesideEachOtherOnOneLine) {
 
 TEST(Torture, AMillionCriteriaOfWhichHalfOccurTwice) {
   const std::size_t names = kMillion / 2;
-  const auto pair = [names](std::size_t i) {
+  const auto pair = [](std::size_t i) {
     // Every name once, in no order, then all of them again with another value.
     return "c" + std::to_string(i * 7919 % names) + (i < names ? " first\n" : " second\n");
   };
