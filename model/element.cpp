@@ -37,8 +37,12 @@ bool VoA2LElement::AddChild(VoA2LElement* child) { return Attach(child, kBaseChi
 std::int32_t VoA2LElement::MoreParameterCount() const { return HasMoreParameters() ? 0 : -1; }
 
 void VoA2LElement::MakeStore() {
-  store = new TreeStore;  // released by DestroyTree
-  store->root = this;
+  if (parent != nullptr) {
+    store = &parent->Store();
+  } else {
+    store = new TreeStore;  // released by DestroyTree
+    store->root = this;
+  }
 }
 
 bool VoA2LElement::Attach(VoA2LElement* child, const KindSet& accepted) {
@@ -98,12 +102,11 @@ VoA2LElement* NewTree() {
 }
 
 void DestroyTree(VoA2LElement* element) {
-  if (element == nullptr || element->store == nullptr) return;
-  if (element->store->root == element) {
+  if (element == nullptr) return;
+  if (element->parent != nullptr) element->parent->children.Remove(element);
+  if (element->store != nullptr && element->store->root == element) {
     element->children = {};
     delete std::exchange(element->store, nullptr);
-  } else if (element->parent != nullptr) {
-    element->parent->children.Remove(element);
   }
 }
 

@@ -44,8 +44,8 @@ std::string_view NextToken(std::string_view& text);
 /// The same into `out`, which has room for token.size() bytes; gives the number of bytes.
 std::size_t UnquoteInto(std::string_view token, char* out);
 
-/// Position of the quote that closes the quoted text which begins at `open`, scanning from
-/// `from` (behind `open`); npos when it is not closed.
+/// Position of the quote that closes a quoted text, looking from `from` on, which is behind the
+/// opening quote (and so at least 1); npos when it is not closed.
 [[nodiscard]] std::size_t FindClosingQuote(std::string_view text, std::size_t from);
 
 /// Counts the tokens of a text that grows at its end, each byte looked at once. Between two

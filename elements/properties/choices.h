@@ -2,7 +2,8 @@
 //
 // Properties with a word of an enumeration. The word may be part of a longer one, and the words
 // are tried in the order of the tables: NO_CALIBRATION and OFFLINE_CALIBRATION are therefore
-// read as CALIBRATION. Code 0 is no word and writes nothing.
+// read as CALIBRATION. Code 0 is no word and writes nothing, but in ADDRESS_TYPE, where it is
+// PBYTE.
 #pragma once
 
 #include <cstdint>

@@ -88,6 +88,12 @@ TEST_F(JsonWriterTest, FailsWhereTheFileCannotBeOpened) {
   EXPECT_FALSE(writer.Export(folder_.Path().string(), root_.get()));
   EXPECT_FALSE(writer.Export("", root_.get()));
   EXPECT_FALSE(fs::exists(folder_ / "missing"));
+
+  // The next file is another matter.
+  for (const char* name : {"first.json", "second.json"}) {
+    EXPECT_TRUE(writer.Export((folder_ / name).string(), root_.get()));
+    EXPECT_EQ(ReadFile(folder_ / name), ToJson(*root_));
+  }
 }
 
 TEST_F(JsonWriterTest, ReplacesWhatIsThere) {

@@ -404,5 +404,29 @@ TEST_F(ElementTest, EveryNewElementIsValidAndEmpty) {
   EXPECT_EQ(root_->ChildCount(), 0U) << "to create is not to attach";
 }
 
+// Elements need no store to begin with: trees can be built from plain objects.
+TEST(PlainElement, SharesTheStoreOfItsParent) {
+  VoA2LElement root;
+  VoA2LElementProject project;
+  ASSERT_TRUE(root.AddChild(&project));
+  std::string_view text = "P \"d\"";
+  EXPECT_TRUE(project.ParseParameters(text));
+  EXPECT_EQ(project.NAME, "P");
+  EXPECT_EQ(project.store, root.store);
+  DestroyTree(&root);
+  EXPECT_EQ(root.ChildCount(), 0U);
+}
+
+TEST(PlainElement, WithAStoreOfItsOwnLeavesItsParent) {
+  VoA2LElementProject project;
+  std::string_view text = "P \"d\"";
+  EXPECT_TRUE(project.ParseParameters(text));
+  VoA2LElement root;
+  ASSERT_TRUE(root.AddChild(&project));
+  DestroyTree(&project);
+  EXPECT_EQ(root.ChildCount(), 0U);
+  DestroyTree(&root);
+}
+
 }  // namespace
 }  // namespace a2l::test

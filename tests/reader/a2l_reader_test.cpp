@@ -85,6 +85,22 @@ TEST(A2LReader, ReadsAFileAsItReadsAStream) {
   EXPECT_EQ(root->ChildCount(), 2U);
 }
 
+// What was wrong with one file does not stand in the way of the next.
+TEST(A2LReader, ReadsOneFileAfterTheOther) {
+  const TemporaryFolder folder;
+  WriteFile(folder / "in.a2l", kSmallFile);
+  const Tree root(NewTree());
+  A2LReader reader;
+  EXPECT_FALSE(reader.Parse((folder / "missing.a2l").string(), root.get()));
+  EXPECT_TRUE(reader.Parse((folder / "in.a2l").string(), root.get()));
+  EXPECT_FALSE(reader.Parse(folder.Path().string(), root.get()));
+  EXPECT_TRUE(reader.Parse((folder / "in.a2l").string(), root.get()));
+  EXPECT_EQ(root->ChildCount(), 4U);
+  EXPECT_EQ(reader.message,
+            "Warning: Line(3) unexpected element WORD\n"
+            "Warning: Line(3) unexpected element WORD\n");
+}
+
 TEST(A2LReader, ReadsAnEmptyFile) {
   const TemporaryFolder folder;
   WriteFile(folder / "in.a2l", "");
