@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+//
+// File to file, as the program does it.
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <utility>
+
+#include "bench/input.h"
+#include "export/json_writer.h"
+#include "reader/a2l_reader.h"
+
+namespace a2l::bench {
+namespace {
+
+bool Convert(const std::string& a2lPath, const std::string& jsonPath) {
+  const Tree root(NewTree());
+  A2LReader reader;
+  JsonWriter writer;
+  return reader.Parse(a2lPath, root.get()) && writer.Export(jsonPath, root.get());
+}
+
+bool HoldsTheDocument(const std::string& path, const VoA2LElement& root) {
+  std::ifstream in(path, std::ios::binary);
+  const std::string json{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+  return json == ToJson(root);
+}
+
+void Whole(benchmark::State& state) {
+  const Input& input = InputOf(state.range(0));
+  const MemoryFile a2l("whole.a2l");
+  const MemoryFile json("whole.json");
+  std::ofstream(a2l.Path(), std::ios::binary) << input.text;
+  {
+    const Tree root = ReadChecked(input, state);
+    if (root == nullptr) return;
+    // The larger documents are made of the same objects, only more of them.
+    if (!Convert(a2l.Path(), json.Path()) ||
+        (state.range(0) == 1 && !HoldsTheDocument(json.Path(), *root))) {
+      state.SkipWithError("the file was not converted");
+      return;
+    }
+  }
+  for (auto _ : state) {
+    state.PauseTiming();
+    json.Remove();
+    state.ResumeTiming();
+    benchmark::DoNotOptimize(Convert(a2l.Path(), json.Path()));
+  }
+  ReportInput(state, input);
+}
+BENCHMARK(Whole)->Arg(1)->Arg(8)->Arg(64)->Arg(256)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace a2l::bench
