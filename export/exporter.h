@@ -11,7 +11,6 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -19,40 +18,11 @@
 #include <variant>
 #include <vector>
 
-#include "elements/blocks/project.h"
-#include "elements/properties/identifiers.h"
-#include "elements/properties/numbers.h"
-#include "elements/properties/texts.h"
+#include "export/document_table.h"
 #include "export/forms.h"
-#include "export/module_table.h"
 #include "export/object_table.h"
 
 namespace a2l {
-
-/// What the top level of the document is made of, found in one walk over the upper levels of the
-/// tree. Of everything that can occur more than once, the first counts; modules are all kept.
-struct DocumentParts {
-  const VoA2LElementA2MLVersion* a2mlVersion = nullptr;
-  const VoA2LElementASAP2Version* asap2Version = nullptr;
-  const VoA2LElementProject* project = nullptr;
-  const VoA2LElementHeader* header = nullptr;
-  const VoA2LElementVersion* headerVersion = nullptr;
-  const VoA2LElementProjectNo* headerProjectNo = nullptr;
-  std::vector<const VoA2LElementModule*> modules;
-
-  explicit DocumentParts(const VoA2LElement& root);
-};
-
-/// A key as an argument of a template.
-struct KeyLiteral {
-  std::array<char, KeyText::kBytes> bytes{};
-  template <std::size_t kSize>
-  consteval KeyLiteral(const char (&text)[kSize]) {  // NOLINT(google-explicit-constructor)
-    std::copy_n(text, kSize, bytes.begin());
-  }
-};
-template <KeyLiteral kLiteral>
-inline constexpr KeyText kKey{std::string_view(kLiteral.bytes.data())};
 
 template <class Sink>
 class Exporter {
@@ -60,44 +30,9 @@ class Exporter {
   explicit Exporter(Sink& sink) : sink_(sink) {}
 
   /// The whole document.
-  void Document(const VoA2LElement& root) {
-    const DocumentParts parts(root);
-    const auto* firstModule = parts.modules.empty() ? nullptr : parts.modules.front();
-    sink_.BeginObject();
-    Member<"FA2ML_VERSION_UPGRADE_NO">(parts.a2mlVersion, &VoA2LElementA2MLVersion::UPGRADE_NO);
-    Member<"FA2ML_VERSION_VERSION_NO">(parts.a2mlVersion, &VoA2LElementA2MLVersion::VERSION_NO);
-    Member<"FASAP2_VERSION_UPGRADE_NO">(parts.asap2Version, &VoA2LElementASAP2Version::UPGRADE_NO);
-    Member<"FASAP2_VERSION_VERSION_NO">(parts.asap2Version, &VoA2LElementASAP2Version::VERSION_NO);
-    sink_.NullMember(kKey<"FBaseA2LName">);  // reserved
-    Member<"FDatabaseName">(firstModule, &VoA2LElementModule::NAME);
-    sink_.Key(kKey<"FModules">);
-    sink_.BeginArray();
-    for (const VoA2LElementModule* module : parts.modules) {
-      sink_.Item();
-      Object(ModuleTable(), *module);
-    }
-    sink_.EndArray();
-    Member<"FProject_HEADER_COMMENT">(parts.header, &VoA2LElementHeader::COMMENT);
-    Member<"FProject_HEADER_PROJECT_NO">(parts.headerProjectNo, &VoA2LElementProjectNo::PROJECT_NO);
-    Member<"FProject_HEADER_VERSION">(parts.headerVersion, &VoA2LElementVersion::VERSION);
-    Member<"FProject_LONG_IDENTIFIER">(parts.project, &VoA2LElementProject::LONG_IDENTIFIER);
-    Member<"FProject_Name">(parts.project, &VoA2LElementProject::NAME);
-    sink_.EndObject();
-  }
+  void Document(const VoA2LElement& root) { Object(DocumentTable(), root); }
 
  private:
-  // A key with a field of an element, null without the element.
-  template <KeyLiteral kLiteral, class Element, class Field>
-  void Member(const Element* element, Field Element::*field) {
-    if (element == nullptr) return sink_.NullMember(kKey<kLiteral>);
-    sink_.Key(kKey<kLiteral>);
-    if constexpr (std::is_same_v<Field, std::string_view>) {
-      sink_.String(element->*field);
-    } else {
-      sink_.Integer(static_cast<std::int32_t>(element->*field));
-    }
-  }
-
   void Object(const ObjectTable& table, const VoA2LElement& element) {
     const Places places(places_, table, element);
     sink_.BeginObject();
@@ -176,6 +111,19 @@ class Exporter {
         }
         sink_.EndArray();
         return;
+      case Source::Grandchildren:
+        if (first == 0) return WriteAbsent(row, key);
+        sink_.Key(key);
+        sink_.BeginArray();
+        for (std::uint32_t position = first; position != 0; position = places.Next(position)) {
+          for (const VoA2LElement* grandchild : places.Child(position).children) {
+            if (grandchild->kind != row.grandchild) continue;
+            sink_.Item();
+            WriteValue(row.form, *grandchild);
+          }
+        }
+        sink_.EndArray();
+        return;
       case Source::Found:
         const VoA2LElement* found = row.find(element);
         if (found == nullptr) return WriteAbsent(row, key);
@@ -206,6 +154,9 @@ class Exporter {
 
   void Write(std::monostate /*nothing*/, const VoA2LElement& /*element*/) { sink_.Null(); }
   void Write(TextForm take, const VoA2LElement& element) { sink_.String(take(element)); }
+  void Write(WordForm form, const VoA2LElement& element) {
+    sink_.String(form.words->ToText(form.code(element)));
+  }
   void Write(BoolForm take, const VoA2LElement& element) { sink_.Bool(take(element)); }
   void Write(IntegerForm take, const VoA2LElement& element) { sink_.Integer(take(element)); }
   void Write(RealForm take, const VoA2LElement& element) { sink_.Real(take(element)); }
@@ -253,7 +204,7 @@ class Exporter {
     for (std::size_t i = 0; i < order.size(); ++i) {
       const std::string_view name = pairs.names[order[i]];
       if (i > 0 && name == pairs.names[order[i - 1]]) continue;
-      text_.assign("F").append(name);
+      text_.assign(1, 'F').append(name);
       sink_.Key(text_);
       sink_.String(pairs.values[order[i]]);
     }

@@ -25,6 +25,13 @@ struct Address {
   std::uint32_t value;
 };
 
+/// A word of an enumeration, taken as its code: the word of the code, and the empty text where the
+/// enumeration has none for it.
+struct WordForm {
+  std::uint32_t (*code)(const VoA2LElement&);
+  const WordTable* words;
+};
+
 /// Names and values that become the members of one object; the shorter list counts.
 struct NamedValues {
   std::span<const std::string_view> names;
@@ -48,8 +55,8 @@ using BuiltTextForm = void (*)(const VoA2LElement&, std::string&);
 using ObjectForm = const ObjectTable*;
 
 /// How a value is taken from an element; monostate gives null.
-using Form = std::variant<std::monostate, TextForm, AddressForm, BoolForm, IntegerForm, RealForm,
-                          TextArrayForm, RealArrayForm, IntegerArrayForm, NamedValuesForm,
+using Form = std::variant<std::monostate, TextForm, WordForm, AddressForm, BoolForm, IntegerForm,
+                          RealForm, TextArrayForm, RealArrayForm, IntegerArrayForm, NamedValuesForm,
                           BuiltTextForm, ObjectForm>;
 
 template <class Member>
@@ -106,8 +113,7 @@ constexpr Form AddressOf() {
 /// The word of a field that holds the code of an enumeration.
 template <auto kMember, const WordTable& kWords>
 constexpr Form WordOf() {
-  return TextForm{
-      [](const VoA2LElement& element) { return kWords.ToText(FieldOf<kMember>(element)); }};
+  return WordForm{[](const VoA2LElement& element) { return FieldOf<kMember>(element); }, &kWords};
 }
 
 /// The text of an address: "0x" and upper-case digits without leading zeros.

@@ -17,11 +17,12 @@ namespace a2l {
 
 /// Where the value of a row comes from.
 enum class Source : std::uint8_t {
-  Element,     ///< the element itself
-  FirstChild,  ///< its first child of a kind
-  Presence,    ///< whether it has a child of a kind
-  Children,    ///< all its children of a kind, as an array
-  Found,       ///< an element that a function finds
+  Element,        ///< the element itself
+  FirstChild,     ///< its first child of a kind
+  Presence,       ///< whether it has a child of a kind
+  Children,       ///< all its children of a kind, as an array
+  Grandchildren,  ///< all children of a kind of all these, as one array
+  Found,          ///< an element that a function finds
 };
 
 /// What stands in the document where the source has nothing.
@@ -39,6 +40,7 @@ struct Row {
   ElementKind kind = KIND_ROOT;
   /// A second kind that feeds the key; the child that comes first in the file counts.
   ElementKind otherKind = KIND_ROOT;
+  ElementKind grandchild = KIND_ROOT;
   Form form = {};
   Form otherForm = {};
   const VoA2LElement* (*find)(const VoA2LElement&) = nullptr;
@@ -126,6 +128,17 @@ constexpr Row Flag(std::string_view key, ElementKind kind) {
 constexpr Row Children(std::string_view key, ElementKind kind, const ObjectTable& table,
                        Absent absent = Absent::EmptyArray) {
   return {.key = key, .source = Source::Children, .absent = absent, .kind = kind, .form = &table};
+}
+
+/// All children of the kind `grandchild` of the children of `kind`, as an array of objects.
+constexpr Row Grandchildren(std::string_view key, ElementKind kind, ElementKind grandchild,
+                            const ObjectTable& table) {
+  return {.key = key,
+          .source = Source::Grandchildren,
+          .absent = Absent::EmptyArray,
+          .kind = kind,
+          .grandchild = grandchild,
+          .form = &table};
 }
 
 /// An element that `find` looks for; null when it finds none.

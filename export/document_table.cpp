@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "export/module_table.h"
+#include "export/document_table.h"
 
 #include "elements/blocks/project.h"
 #include "elements/blocks/raw.h"
+#include "elements/properties/identifiers.h"
+#include "elements/properties/numbers.h"
+#include "elements/properties/texts.h"
 #include "export/tables/characteristic.h"
 #include "export/tables/conversion.h"
 #include "export/tables/functions.h"
@@ -52,9 +55,53 @@ constexpr Row kModuleRows[] = {
 };
 constexpr ObjectTable kModule = MakeTable<kModuleRows>();
 
+// The first element, in the order of the file, that a path of kinds leads to from `element`.
+template <ElementKind kKind, ElementKind... kRest>
+const Element* FindFirst(const Element& element) {
+  for (const Element* child : element.children) {
+    if (child->kind != kKind) continue;
+    if constexpr (sizeof...(kRest) == 0) {
+      return child;
+    } else if (const Element* found = FindFirst<kRest...>(*child); found != nullptr) {
+      return found;
+    }
+  }
+  return nullptr;
+}
+
+// A field of that element.
+template <auto kMember, ElementKind... kPath>
+constexpr Row FirstField(std::string_view key) {
+  return Found(key, FindFirst<kPath...>, Value<kMember>());
+}
+
+// Of a second project or header, what the first one lacks counts; modules are all kept.
+constexpr Row kDocumentRows[] = {
+    FirstField<&VoA2LElementA2MLVersion::UPGRADE_NO, Kind::A2ML_VERSION>(
+        "FA2ML_VERSION_UPGRADE_NO"),
+    FirstField<&VoA2LElementA2MLVersion::VERSION_NO, Kind::A2ML_VERSION>(
+        "FA2ML_VERSION_VERSION_NO"),
+    FirstField<&VoA2LElementASAP2Version::UPGRADE_NO, Kind::ASAP2_VERSION>(
+        "FASAP2_VERSION_UPGRADE_NO"),
+    FirstField<&VoA2LElementASAP2Version::VERSION_NO, Kind::ASAP2_VERSION>(
+        "FASAP2_VERSION_VERSION_NO"),
+    Never("FBaseA2LName"),  // reserved
+    FirstField<&VoA2LElementModule::NAME, Kind::PROJECT, Kind::MODULE>("FDatabaseName"),
+    Grandchildren("FModules", Kind::PROJECT, Kind::MODULE, kModule),
+    FirstField<&VoA2LElementHeader::COMMENT, Kind::PROJECT, Kind::HEADER>(
+        "FProject_HEADER_COMMENT"),
+    FirstField<&VoA2LElementProjectNo::PROJECT_NO, Kind::PROJECT, Kind::HEADER, Kind::PROJECT_NO>(
+        "FProject_HEADER_PROJECT_NO"),
+    FirstField<&VoA2LElementVersion::VERSION, Kind::PROJECT, Kind::HEADER, Kind::VERSION>(
+        "FProject_HEADER_VERSION"),
+    FirstField<&VoA2LElementProject::LONG_IDENTIFIER, Kind::PROJECT>("FProject_LONG_IDENTIFIER"),
+    FirstField<&VoA2LElementProject::NAME, Kind::PROJECT>("FProject_Name"),
+};
+constexpr ObjectTable kDocument = MakeTable<kDocumentRows>();
+
 }  // namespace
 }  // namespace tables
 
-const ObjectTable& ModuleTable() { return tables::kModule; }
+const ObjectTable& DocumentTable() { return tables::kDocument; }
 
 }  // namespace a2l

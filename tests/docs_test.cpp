@@ -1,0 +1,248 @@
+// SPDX-License-Identifier: MIT
+//
+// The pages of docs/: what they name is there, and what they show is so.
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <map>
+#include <regex>
+#include <set>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "reader/diagnostics.h"
+#include "tests/support/files.h"
+
+namespace a2l::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kCases = A2L2JSON_CASES;
+const fs::path kDocs = kCases.parent_path().parent_path() / "docs";
+
+// A case is named as [topic/name], and the page ends with a line that leads there.
+const std::regex kCaseName(R"(\[([a-z_]+/(ok|warn|fail)_[a-z0-9_]+)\])");
+
+struct Block {
+  std::string language;
+  std::vector<std::string> lines;
+  std::string below;  // the next line that is not blank
+};
+
+// A page of Markdown, code blocks apart.
+struct Page {
+  explicit Page(const fs::path& path) : name(path.filename().string()), text(ReadFile(path)) {
+    std::istringstream in(text);
+    bool inBlock = false;
+    bool waits = false;
+    for (std::string line; std::getline(in, line);) {
+      if (line.starts_with("```")) {
+        inBlock = !inBlock;
+        waits = !inBlock;
+        if (inBlock) blocks.push_back({line.substr(3), {}, {}});
+      } else if (inBlock) {
+        blocks.back().lines.push_back(line);
+      } else {
+        lines.push_back(line);
+        if (waits && !line.empty()) {
+          blocks.back().below = line;
+          waits = false;
+        }
+      }
+    }
+  }
+
+  std::string name;
+  std::string text;
+  std::vector<std::string> lines;
+  std::vector<Block> blocks;
+};
+
+std::vector<Page> AllPages() {
+  std::vector<Page> pages;
+  for (const auto& entry : fs::directory_iterator(kDocs)) {
+    if (entry.path().extension() == ".md") pages.emplace_back(entry.path());
+  }
+  return pages;
+}
+
+// Group `group` of everything in `text` that `pattern` matches.
+std::vector<std::string> Matches(const std::string& text, const std::regex& pattern,
+                                 std::size_t group = 1) {
+  std::vector<std::string> found;
+  for (std::sregex_iterator match(text.begin(), text.end(), pattern), end; match != end; ++match) {
+    found.push_back((*match)[group].str());
+  }
+  return found;
+}
+
+// The statements of a page, each on one line: its paragraphs, the items of its lists, and the
+// rows of its tables.
+std::vector<std::string> Statements(const Page& page) {
+  std::vector<std::string> statements(1);
+  for (const std::string& line : page.lines) {
+    const bool begins = line.empty() || line.starts_with("- ") || line.starts_with("|") ||
+                        line.starts_with("#") || line.starts_with("[");
+    if (begins) statements.emplace_back();
+    statements.back() += (begins ? "" : " ") + line;
+  }
+  return statements;
+}
+
+// The name that a heading is linked by.
+std::string Anchor(std::string_view heading) {
+  std::string anchor;
+  for (const char c : heading) {
+    if (c == ' ') anchor += '-';
+    if (c == '-' || c == '_' || (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z')) anchor += c;
+    if (c >= 'A' && c <= 'Z') anchor += static_cast<char>(c - 'A' + 'a');
+  }
+  return anchor;
+}
+
+std::set<std::string> Anchors(const Page& page) {
+  std::set<std::string> anchors;
+  for (const std::string& line : page.lines) {
+    if (!line.starts_with("#")) continue;
+    const std::size_t begin = line.find_first_not_of("# ");
+    EXPECT_TRUE(anchors.insert(Anchor(line.substr(begin))).second) << page.name << ": " << line;
+  }
+  return anchors;
+}
+
+// Neighbouring blanks and line ends as one blank.
+std::string OneLine(std::string_view text) {
+  std::string line;
+  for (const char c : text) {
+    const bool blank = c == ' ' || c == '\t' || c == '\n' || c == '\r';
+    if (!blank) line += c;
+    if (blank && !line.empty() && line.back() != ' ') line += ' ';
+  }
+  if (line.ends_with(' ')) line.pop_back();
+  return line;
+}
+
+// Whether the pieces of `excerpt`, with "..." between them, stand in `text` in their order.
+bool IsExcerpt(const std::string& excerpt, const std::string& text) {
+  constexpr std::string_view kGap = "...";
+  std::size_t from = 0;
+  for (std::size_t begin = 0; begin <= excerpt.size();) {
+    const std::size_t end = std::min(excerpt.find(kGap, begin), excerpt.size());
+    const std::string piece = OneLine(excerpt.substr(begin, end - begin));
+    const std::size_t found = text.find(piece, from);
+    if (piece.empty() || found == std::string::npos) return false;
+    from = found + piece.size();
+    begin = end + kGap.size();
+  }
+  return true;
+}
+
+TEST(Docs, LinksLeadSomewhere) {
+  const std::regex link(R"(\]\(([^)#]*)(#[^)]*)?\))");
+  std::map<std::string, std::set<std::string>> anchors;
+  for (const Page& page : AllPages()) anchors[page.name] = Anchors(page);
+  for (const Page& page : AllPages()) {
+    for (const std::string& line : page.lines) {
+      for (std::sregex_iterator match(line.begin(), line.end(), link), end; match != end; ++match) {
+        const std::string target = (*match)[1];
+        const std::string anchor = (*match)[2];
+        if (target.starts_with("http")) continue;
+        EXPECT_TRUE(fs::exists(kDocs / target)) << page.name << ": " << target;
+        if (anchor.empty()) continue;
+        const std::string name = target.empty() ? page.name : target;
+        EXPECT_TRUE(anchors[name].contains(anchor.substr(1))) << page.name << ": " << anchor;
+      }
+    }
+  }
+}
+
+TEST(Docs, CasesThatAreNamedExist) {
+  const std::regex definition(R"(^\[([^\]]+)\]: (.+)$)");
+  for (const Page& page : AllPages()) {
+    std::map<std::string, std::string> targets;
+    std::set<std::string> named;
+    for (const std::string& line : page.lines) {
+      if (std::smatch match; std::regex_match(line, match, definition)) {
+        EXPECT_TRUE(targets.emplace(match[1], match[2]).second) << line;
+      } else {
+        for (const std::string& name : Matches(line, kCaseName)) named.insert(name);
+      }
+    }
+    for (const std::string& name : named) {
+      EXPECT_EQ(targets[name], "../tests/cases/" + name + ".a2l") << page.name;
+      EXPECT_TRUE(fs::exists(kCases / (name + ".a2l"))) << page.name << ": " << name;
+    }
+    for (const auto& [name, target] : targets) {
+      EXPECT_TRUE(named.contains(name)) << page.name << ": nothing names " << name;
+    }
+  }
+}
+
+TEST(ReadingPage, EveryStatementNamesACase) {
+  std::size_t count = 0;
+  for (const std::string& statement : Statements(Page(kDocs / "reading-a2l.md"))) {
+    const bool item = statement.starts_with("- ") && !statement.starts_with("- [");
+    const bool row = statement.starts_with("| `");
+    if (!item && !row) continue;
+    EXPECT_FALSE(Matches(statement, kCaseName).empty()) << statement;
+    ++count;
+  }
+  EXPECT_GT(count, 50U);
+}
+
+TEST(ReadingPage, HasEveryMessage) {
+  const std::string text = Page(kDocs / "reading-a2l.md").text;
+  constexpr auto kLast = static_cast<std::uint8_t>(DiagnosticKind::NoParent);
+  for (std::uint8_t kind = 0; kind <= kLast; ++kind) {
+    std::string message = Diagnostic{static_cast<DiagnosticKind>(kind), 12, ""}.Text();
+    message.pop_back();  // the line feed
+    EXPECT_NE(text.find("`" + message), std::string::npos) << message;
+  }
+}
+
+// The cases that a message is shown by print it.
+TEST(ReadingPage, MessagesAreThoseOfTheirCases) {
+  const std::regex row(R"(^\| `([A-Z][a-z]+): Line\(12\) ([^`]*)` \|.*)");
+  std::size_t count = 0;
+  for (const std::string& line : Page(kDocs / "reading-a2l.md").lines) {
+    std::smatch match;
+    if (!std::regex_match(line, match, row)) continue;
+    const std::string name = Matches(line, kCaseName).front();
+    const std::string out = ReadFile(kCases / (name + ".out"));
+    // What follows the text of the message differs from the example: its last word.
+    std::string text = match[2];
+    if (!text.ends_with(' ')) text.resize(text.rfind(' ') + 1);
+    EXPECT_NE(out.find(match[1].str() + ": Line("), std::string::npos) << name;
+    EXPECT_NE(out.find(") " + text), std::string::npos) << name;
+    ++count;
+  }
+  EXPECT_GE(count, 8U);
+}
+
+// An example is some A2L lines, and below them what they become in the document of the case.
+TEST(JsonPage, ExamplesAreThoseOfTheirCases) {
+  std::size_t count = 0;
+  for (const Block& block : Page(kDocs / "json.md").blocks) {
+    if (!block.language.empty()) continue;
+    const std::vector<std::string> names = Matches(block.below, kCaseName);
+    ASSERT_EQ(names.size(), 1U) << block.below;
+    ASSERT_GE(block.lines.size(), 2U) << names.front();
+    std::string a2l;
+    for (std::size_t i = 0; i + 1 < block.lines.size(); ++i) a2l += block.lines[i] + " ";
+    EXPECT_TRUE(IsExcerpt(a2l, OneLine(ReadFile(kCases / (names.front() + ".a2l"))))) << a2l;
+    EXPECT_TRUE(IsExcerpt(block.lines.back(), ReadFile(kCases / (names.front() + ".json"))))
+        << block.lines.back() << "\n"
+        << names.front();
+    ++count;
+  }
+  EXPECT_GT(count, 20U);
+}
+
+}  // namespace
+}  // namespace a2l::test
