@@ -3,7 +3,8 @@
 # A thin front door; the build itself is CMake's (see CMakePresets.json).
 
 .DEFAULT_GOAL := build
-.PHONY: deps deps-ci configure build demo test asan tidy format format-check clean
+.PHONY: deps deps-ci deps-packages configure build demo test packages asan tidy format \
+	format-check clean
 .NOTPARALLEL:
 
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
@@ -15,6 +16,9 @@ deps:
 
 deps-ci: deps
 	@bash scripts/deps ci
+
+deps-packages: deps
+	@bash scripts/deps packages
 
 configure: deps
 	cmake --preset release
@@ -29,6 +33,14 @@ demo: build
 test: build
 	cmake --build --preset release -j $(JOBS)
 	ctest --preset release
+
+packages: deps-packages
+	rm -rf build/packages
+	cmake --preset package
+	cmake --build --preset package -j $(JOBS)
+	cpack --preset package
+	@rm -rf build/packages/_CPack_Packages
+	@ls -l build/packages
 
 asan: deps-ci
 	cmake --preset asan-ubsan

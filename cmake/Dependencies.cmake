@@ -2,20 +2,34 @@
 #
 # Everything this build takes from outside stands in this one file:
 #
-#   fmt::fmt              number and text formatting     always
-#   json11::json11        the second JSON writer, tests  always
+#   {fmt}                 number and text formatting     always
+#   json11::json11        the second JSON writer, tests  where it is installed; for tests,
+#                                                        benchmarks and fuzz targets always
 #   GTest::gtest_main     unit tests                     with A2L2JSON_BUILD_TESTS
 #   benchmark::benchmark  benchmarks                     with A2L2JSON_BUILD_BENCH
 #
 # `make deps` installs all of them once; configuring needs no network after that.
 
 include_guard(GLOBAL)
+include("${CMAKE_CURRENT_LIST_DIR}/InstalledJson11.cmake")
 
 # ---------------------------------------------------------------------------------------------
 # {fmt}
+#
+# What is used of it is compiled in, so that neither the program nor the installed library needs
+# it on the machine where they are used. Whoever prefers the shared library, as distributions do,
+# says so.
+
+option(A2L2JSON_SHARED_FMT "Link the library of {fmt} instead of compiling in what is used of it"
+       OFF)
 
 find_package(fmt 9 CONFIG QUIET)
-if(NOT TARGET fmt::fmt)
+if(A2L2JSON_SHARED_FMT)
+  set(A2L2JSON_FMT fmt::fmt)
+else()
+  set(A2L2JSON_FMT fmt::fmt-header-only)
+endif()
+if(NOT TARGET ${A2L2JSON_FMT})
   message(FATAL_ERROR "{fmt} 9 or newer was not found; run `make deps`, or install the "
                       "development package of {fmt} (libfmt-dev on Debian).")
 endif()
@@ -127,28 +141,8 @@ function(a2l2json_clone_json11 folder)
   FetchContent_MakeAvailable(json11_sources)
 endfunction()
 
-function(a2l2json_find_json11)
-  find_package(json11 CONFIG QUIET GLOBAL)
-  if(TARGET json11::json11)
-    message(STATUS "json11: installed CMake package")
-    return()
-  endif()
-  if(TARGET json11)
-    add_library(json11::json11 ALIAS json11)
-    message(STATUS "json11: installed CMake package")
-    return()
-  endif()
-
-  find_package(PkgConfig QUIET)
-  if(PKG_CONFIG_FOUND)
-    pkg_check_modules(JSON11 QUIET IMPORTED_TARGET GLOBAL json11)
-    if(TARGET PkgConfig::JSON11)
-      add_library(json11::json11 ALIAS PkgConfig::JSON11)
-      message(STATUS "json11: installed pkg-config module")
-      return()
-    endif()
-  endif()
-
+# Leaves json11::json11 behind, or stops with the hint.
+function(a2l2json_take_json11)
   set(folder "${CMAKE_CURRENT_FUNCTION_LIST_DIR}/../.deps/json11")
   cmake_path(NORMAL_PATH folder)
   set(wanted "${folder}/json11.cpp" "${folder}/json11.hpp")
@@ -175,4 +169,11 @@ function(a2l2json_find_json11)
   message(STATUS "json11: ${folder}")
 endfunction()
 
-a2l2json_find_json11()
+a2l2json_find_installed_json11()
+if(TARGET json11::json11)
+  set(A2L2JSON_JSON11_INSTALLED TRUE)
+elseif(A2L2JSON_BUILD_TESTS OR A2L2JSON_BUILD_BENCH OR A2L2JSON_BUILD_FUZZ OR A2L2JSON_FUZZ)
+  a2l2json_take_json11()
+else()
+  message(STATUS "json11: not installed, and nothing needs it; the library goes without")
+endif()

@@ -1,0 +1,169 @@
+# SPDX-License-Identifier: MIT
+#
+# The library as other projects link it, a2l2json::a2l2json, and what `cmake --install` installs:
+# the program with its manual page, shell completions and documentation and, with
+# A2L2JSON_LIBRARY, the library with its headers, CMake package and pkg-config file.
+#
+# The components are there for the packages (packaging/packages.cmake); `debian` and `static` hold
+# what a plain installation has in another form.
+
+include_guard(GLOBAL)
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+
+# ---------------------------------------------------------------------------------------------
+# The library: all rooms in one archive
+
+# a2l2json_archive(<name> <output> <room>...): the rooms as lib<output>.a
+function(a2l2json_archive name output)
+  add_library(${name} STATIC)
+  foreach(room ${ARGN})
+    target_sources(${name} PRIVATE $<TARGET_OBJECTS:${room}>)
+  endforeach()
+  target_include_directories(
+    ${name} PUBLIC "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>"
+                   "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/a2l2json>")
+  target_compile_features(${name} PUBLIC cxx_std_20)
+  set_target_properties(${name} PROPERTIES OUTPUT_NAME ${output} LINKER_LANGUAGE CXX)
+  if(NOT A2L2JSON_LIBRARY)
+    set_target_properties(${name} PROPERTIES EXCLUDE_FROM_ALL ON)
+  endif()
+endfunction()
+
+a2l2json_archive(a2l2json_library a2l2json a2l2json_model a2l2json_tokenizer a2l2json_elements
+                 a2l2json_reader a2l2json_export)
+add_library(a2l2json::a2l2json ALIAS a2l2json_library)
+set_target_properties(a2l2json_library PROPERTIES EXPORT_NAME a2l2json)
+if(A2L2JSON_SHARED_FMT)
+  target_link_libraries(a2l2json_library PRIVATE fmt::fmt)
+endif()
+
+# Only with a json11 of the system: one that was built here would have to be installed as well. The
+# installed CMake package looks for json11 anew and links it then.
+if(A2L2JSON_JSON11_INSTALLED)
+  a2l2json_archive(a2l2json_json11 a2l2json-json11 a2l2json_export_json11)
+  add_library(a2l2json::json11 ALIAS a2l2json_json11)
+  set_target_properties(a2l2json_json11 PROPERTIES EXPORT_NAME json11)
+  target_link_libraries(a2l2json_json11 PUBLIC a2l2json_library $<BUILD_INTERFACE:json11::json11>)
+endif()
+
+if(NOT PROJECT_IS_TOP_LEVEL)
+  return()
+endif()
+
+# ---------------------------------------------------------------------------------------------
+# The program, its manual page, its completions, the documentation
+
+set(generated "${PROJECT_BINARY_DIR}/packaging")
+set(packaging "${PROJECT_SOURCE_DIR}/packaging")
+set(manual "${generated}/a2l2json.1")
+configure_file("${packaging}/a2l2json.1.in" "${manual}" @ONLY)
+
+install(TARGETS a2l2json COMPONENT program)
+
+install(
+  FILES "${packaging}/completions/a2l2json.bash"
+  DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions"
+  RENAME a2l2json
+  COMPONENT shared)
+install(
+  FILES "${packaging}/completions/a2l2json.fish"
+  DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d"
+  COMPONENT shared)
+install(
+  FILES "${PROJECT_SOURCE_DIR}/README.md"
+  DESTINATION "${CMAKE_INSTALL_DOCDIR}"
+  COMPONENT shared)
+install(
+  DIRECTORY "${PROJECT_SOURCE_DIR}/examples"
+  DESTINATION "${CMAKE_INSTALL_DOCDIR}"
+  COMPONENT shared
+  PATTERN "build" EXCLUDE)
+
+install(
+  FILES "${manual}"
+  DESTINATION "${CMAKE_INSTALL_MANDIR}/man1"
+  COMPONENT plain)
+install(
+  FILES "${packaging}/completions/_a2l2json"
+  DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/site-functions"
+  COMPONENT plain)
+install(
+  FILES "${PROJECT_SOURCE_DIR}/LICENSE" "${PROJECT_SOURCE_DIR}/CHANGELOG.md"
+  DESTINATION "${CMAKE_INSTALL_DOCDIR}"
+  COMPONENT plain)
+
+# ---------------------------------------------------------------------------------------------
+# The library, its headers, its CMake package and its pkg-config file
+
+if(A2L2JSON_LIBRARY)
+  set(headers "${CMAKE_INSTALL_INCLUDEDIR}/a2l2json")
+  set(package "${CMAKE_INSTALL_LIBDIR}/cmake/a2l2json")
+  set(version_file "${generated}/a2l2json-config-version.cmake")
+
+  # What a user includes, and what that includes.
+  install(
+    DIRECTORY "${PROJECT_SOURCE_DIR}/model" "${PROJECT_SOURCE_DIR}/elements"
+    DESTINATION "${headers}"
+    COMPONENT library
+    FILES_MATCHING
+    PATTERN "*.h"
+    PATTERN "*.def")
+  foreach(header reader/a2l_reader.h reader/diagnostics.h reader/tokenizer.h export/json_writer.h)
+    cmake_path(GET header PARENT_PATH room)
+    install(
+      FILES "${PROJECT_SOURCE_DIR}/${header}"
+      DESTINATION "${headers}/${room}"
+      COMPONENT library)
+  endforeach()
+
+  if(A2L2JSON_SHARED_FMT)
+    # The names in the library of {fmt} change with its version.
+    set(A2L2JSON_CONFIG_FMT "find_dependency(fmt ${fmt_VERSION} EXACT)")
+    set(A2L2JSON_PC_FMT "fmt = ${fmt_VERSION}")
+  endif()
+
+  install(TARGETS a2l2json_library EXPORT a2l2json-targets COMPONENT library)
+  install(
+    EXPORT a2l2json-targets
+    NAMESPACE a2l2json::
+    DESTINATION "${package}"
+    COMPONENT library)
+  if(A2L2JSON_JSON11_INSTALLED)
+    install(
+      FILES "${PROJECT_SOURCE_DIR}/export/json11_document.h"
+      DESTINATION "${headers}/export"
+      COMPONENT library)
+    install(TARGETS a2l2json_json11 EXPORT a2l2json-json11-targets COMPONENT library)
+    install(
+      EXPORT a2l2json-json11-targets
+      NAMESPACE a2l2json::
+      DESTINATION "${package}"
+      COMPONENT library)
+    install(
+      FILES "${PROJECT_SOURCE_DIR}/cmake/InstalledJson11.cmake"
+      DESTINATION "${package}"
+      COMPONENT library)
+  endif()
+
+  configure_package_config_file("${packaging}/a2l2json-config.cmake.in"
+                                "${generated}/a2l2json-config.cmake"
+                                INSTALL_DESTINATION "${package}")
+  write_basic_package_version_file("${version_file}" COMPATIBILITY SameMajorVersion)
+  install(
+    FILES "${generated}/a2l2json-config.cmake" "${version_file}"
+    DESTINATION "${package}"
+    COMPONENT library)
+
+  # The pkg-config file finds everything from where it lies, so the whole may be moved.
+  file(RELATIVE_PATH A2L2JSON_PC_PREFIX "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig"
+       "${CMAKE_INSTALL_PREFIX}")
+  string(REGEX REPLACE "/$" "" A2L2JSON_PC_PREFIX "${A2L2JSON_PC_PREFIX}")
+  configure_file("${packaging}/a2l2json.pc.in" "${generated}/a2l2json.pc" @ONLY)
+  install(
+    FILES "${generated}/a2l2json.pc"
+    DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig"
+    COMPONENT library)
+endif()
+
+include("${packaging}/packages.cmake")

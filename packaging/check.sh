@@ -1,0 +1,146 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
+# usage: packaging/check.sh
+#
+# Builds the packages and tries them as a user would: the Debian package in a clean system, the
+# statically linked program in an empty one, and examples/consumer against the installed library,
+# with CMake and with pkg-config. Stops at the first thing that is not as it should be.
+#
+# As root, the clean system is made by debootstrap from the package sources of this machine. Where
+# that cannot be done, it is the unpacked package with the shared libraries of this machine. What
+# is left of it all lies in build/package-check.
+
+set -euo pipefail
+
+cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
+work=$PWD/build/package-check
+root=$work/root
+demo=examples/demo.a2l
+expected=examples/demo.json
+
+say() { printf '%s\n' "packages: $*"; }
+die() {
+  say "FAILED: $*" >&2
+  exit 1
+}
+
+# in_root <root> <command>...: runs the command with that folder as the root of the file system
+in_root() {
+  if ((EUID == 0)); then
+    chroot "$@"
+  else
+    unshare --map-root-user chroot "$@"
+  fi
+}
+
+# try_program <root> <program>: converts the demo there and compares the document
+try_program() {
+  cp "$demo" "$1/demo.a2l"
+  in_root "$1" "$2" demo.a2l demo.json >"$work/console.txt"
+  [[ $(<"$work/console.txt") == Success. ]] || die "$2 said: $(<"$work/console.txt")"
+  cmp "$1/demo.json" "$expected"
+}
+
+# try_consumer <program>: the same with the program of examples/consumer
+try_consumer() {
+  "$1" "$demo" >"$work/consumer.json" 2>"$work/consumer.txt"
+  cmp "$work/consumer.json" "$expected"
+  grep -q '^EngineSpeed 0x' "$work/consumer.txt" || die "the consumer lists no measurement"
+}
+
+# The only file that the pattern names.
+the_only() {
+  (($# == 1)) && [[ -f $1 ]] || die "expected one file, found: $*"
+  printf '%s\n' "$1"
+}
+
+# A system with nothing but what every Debian has, of the release of this one.
+clean_system() {
+  local release mirror
+  ((EUID == 0)) && command -v debootstrap >/dev/null || return 1
+  release=$(. /etc/os-release && printf '%s' "${VERSION_CODENAME:-}")
+  mirror=$(apt-get indextargets --format '$(CODENAME) $(REPO_URI)' 'Created-By: Packages' |
+    sed -n "s/^$release //p" | head -n 1)
+  [[ $release && $mirror ]] || return 1
+  mkdir -p "$work/cache"
+  debootstrap --variant=minbase --cache-dir="$work/cache" "$release" "$root" "$mirror" \
+    >"$work/debootstrap.log" 2>&1
+}
+
+install_in_clean_system() {
+  cp "$deb" "$root/package.deb"
+  in_root "$root" env DEBIAN_FRONTEND=noninteractive \
+    apt-get -q -y --no-install-recommends install /package.deb >"$work/install.log" 2>&1 ||
+    die "the package cannot be installed: $(<"$work/install.log")"
+}
+
+unpack_with_libraries() {
+  local library
+  rm -rf --one-file-system "$root"
+  mkdir -p "$root"
+  dpkg -x "$deb" "$root"
+  ldd "$root/usr/bin/a2l2json" | grep -o '/[^ ]*' | while read -r library; do
+    mkdir -p "$root/${library%/*}"
+    cp -L "$library" "$root/$library"
+  done
+}
+
+# ---------------------------------------------------------------------------------------------
+
+make deps-packages
+rm -rf --one-file-system "$root" "$work/static" "$work/empty" "$work/consumer"
+mkdir -p "$work"
+clean_system &
+system=$!
+trap 'kill "$system" 2>/dev/null || true' EXIT
+make packages
+deb=$(the_only build/packages/*.deb)
+archive=$(the_only build/packages/*.tar.gz)
+
+if wait "$system"; then
+  install_in_clean_system
+  say "$deb is installed in a clean system made by debootstrap"
+else
+  unpack_with_libraries
+  say "no debootstrap here: $deb is unpacked beside the shared libraries that it needs"
+fi
+try_program "$root" /usr/bin/a2l2json
+say "the installed program converts $demo to $expected, byte for byte"
+
+mkdir -p "$work/static" "$work/empty"
+tar -xzf "$archive" -C "$work/static" --strip-components=1
+cp "$work/static/bin/a2l2json" "$work/empty"
+try_program "$work/empty" /a2l2json
+say "so does the program of $archive, in an otherwise empty system"
+
+cmake -S examples/consumer -B "$work/consumer" -DCMAKE_PREFIX_PATH="$root/usr" \
+  -DCMAKE_FIND_USE_CMAKE_SYSTEM_PATH=OFF >"$work/consumer.log"
+cmake --build "$work/consumer" >>"$work/consumer.log"
+try_consumer "$work/consumer/consumer"
+say 'examples/consumer works with the CMake package'
+
+pc=$(the_only "$root"/usr/lib/*/pkgconfig/a2l2json.pc)
+export PKG_CONFIG_LIBDIR=${pc%/*}
+read -ra flags < <(pkg-config --cflags --libs a2l2json)
+g++ -std=c++20 examples/consumer/main.cpp "${flags[@]}" -o "$work/consumer/with-pkg-config"
+try_consumer "$work/consumer/with-pkg-config"
+say 'examples/consumer works with pkg-config'
+
+# Every header, and the version that the library tells.
+{
+  find "$root/usr/include/a2l2json" -name '*.h' -printf '#include "%P"\n'
+  printf '%s\n' '#include <iostream>' 'int main() { std::cout << a2l::Version(); }'
+} >"$work/consumer/headers.cpp"
+g++ -std=c++20 -Wall -Wextra -Werror "$work/consumer/headers.cpp" "${flags[@]}" \
+  -o "$work/consumer/headers"
+version=$("$work/consumer/headers")
+[[ $(dpkg-deb --field "$deb" Version) == "$version" && $archive == *-"$version"-* &&
+  $(pkg-config --modversion a2l2json) == "$version" ]] || die "the versions differ from $version"
+say "all installed headers compile, and everything has the version $version"
+
+# Intermediate code would tie the library to one compiler.
+if readelf --section-headers --wide "${pc%/*/*}/liba2l2json.a" | grep -q '\.gnu\.lto_'; then
+  die 'the library holds intermediate code of link time optimisation'
+fi
+say "all is well ($SECONDS s)"

@@ -1,0 +1,15 @@
+# SPDX-License-Identifier: MIT
+#
+# The components that go into each package; cpack reads this once per package.
+
+if(CPACK_GENERATOR STREQUAL "DEB")
+  set(components program library shared debian)
+else()
+  set(components static shared plain)
+endif()
+
+list(GET CPACK_INSTALL_CMAKE_PROJECTS 0 build_folder)
+set(CPACK_INSTALL_CMAKE_PROJECTS "")
+foreach(component ${components})
+  list(APPEND CPACK_INSTALL_CMAKE_PROJECTS "${build_folder}" "${CPACK_PACKAGE_NAME}" ${component} /)
+endforeach()
