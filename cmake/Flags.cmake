@@ -15,12 +15,6 @@ option(A2L2JSON_COVERAGE "Build with coverage counters" OFF)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
-# Warnings are errors here, but not in a project that this one is part of. With a compiler that
-# warns of more than ours do: cmake --compile-no-warning-as-error.
-if(PROJECT_IS_TOP_LEVEL AND NOT DEFINED CMAKE_COMPILE_WARNING_AS_ERROR)
-  set(CMAKE_COMPILE_WARNING_AS_ERROR ON)
-endif()
-
 if(A2L2JSON_FUZZ AND NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
   message(FATAL_ERROR "A2L2JSON_FUZZ needs Clang; configure with `cmake --preset fuzz`.")
 endif()
