@@ -45,7 +45,8 @@ inline std::string_view ReadText(TreeStore& store, std::string_view& text) {
   const std::string_view token = NextToken(text);
   if (token.size() < 2 || token.front() != '"') return {};
   const std::string_view inside = token.substr(1, token.size() - 2);
-  const bool plain = std::ranges::none_of(inside, [](char c) { return c == '"' || c == '\\'; });
+  const bool plain =
+      inside.find('"') == std::string_view::npos && inside.find('\\') == std::string_view::npos;
   if (token.back() == '"' && plain) return store.Copy(inside);
   char* const bytes = store.AllocateBytes(token.size());
   return {bytes, UnquoteInto(token, bytes)};

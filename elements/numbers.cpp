@@ -50,11 +50,14 @@ Magnitude ReadMagnitude(std::string_view token) {
   } else if (token.starts_with('0')) {
     base = 8;
   }
+  // One division for all digits: one for each takes longer than everything else here.
+  constexpr std::uint64_t kMost = std::numeric_limits<std::uint64_t>::max();
+  const std::uint64_t mostBefore = kMost / base;
   for (const char c : token) {
     const unsigned digit = DigitValue(c);
     if (digit >= base) break;
     result.ok = true;
-    if (result.value > (std::numeric_limits<std::uint64_t>::max() - digit) / base) {
+    if (result.value > mostBefore || result.value * base > kMost - digit) {
       result.overflow = true;
     } else {
       result.value = result.value * base + digit;
@@ -101,6 +104,35 @@ bool IsTooLarge(std::string_view digits, bool hexadecimal) {
   return position * weight + exponent > 0;
 }
 
+// Digits with at most one point among them, 15 digits at most and nothing else; false for all other
+// texts. Most reals of a file are such. Their digits as a whole number and the power of ten that
+// divides it are both exact, so that the quotient is the double next to the decimal number, which
+// is what from_chars gives in twice to three times the time.
+bool ReadShortDecimal(std::string_view token, double& value) {
+  constexpr std::size_t kMostDigits = 15;
+  static constexpr std::array<double, kMostDigits + 1> kPowers = {
+      1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+  if (token.size() > kMostDigits + 1) return false;
+  std::uint64_t whole = 0;
+  std::size_t digits = 0;
+  std::size_t decimals = 0;  // counted from the point on, which itself is counted first
+  for (const char c : token) {
+    if (c >= '0' && c <= '9') {
+      whole = whole * 10 + static_cast<std::uint64_t>(c - '0');
+      ++digits;
+      decimals += decimals > 0 ? 1 : 0;
+    } else if (c == '.' && decimals == 0) {
+      decimals = 1;
+    } else {
+      return false;
+    }
+  }
+  if (digits == 0 || digits > kMostDigits) return false;
+  value = static_cast<double>(whole);
+  if (decimals > 1) value /= kPowers[decimals - 1];
+  return true;
+}
+
 }  // namespace
 
 Converted<std::uint32_t> ReadUnsigned(std::string_view token) {
@@ -142,7 +174,9 @@ Converted<double> ReadReal(std::string_view token) {
     return Converted<double>{value, error != std::errc::invalid_argument};
   };
   Converted<double> number{0, false};
-  if (IsHexPrefix(token)) {
+  if (ReadShortDecimal(token, number.value)) {
+    number.ok = true;
+  } else if (IsHexPrefix(token)) {
     // Without a digit behind it, "0x" is the number 0 and a rest.
     const bool digits = token[2] == '.' || DigitValue(token[2]) < 16;
     if (digits) number = convert(token.substr(2), std::chars_format::hex);

@@ -9,6 +9,8 @@
 namespace a2l {
 namespace {
 
+constexpr std::size_t kNone = std::string_view::npos;
+
 constexpr std::string_view kBegin = "/begin";
 constexpr std::string_view kEnd = "/end";
 
@@ -21,13 +23,15 @@ bool KeepsRawContent(ElementKind kind) {
 bool BlockParser::Run() {
   while (true) {
     std::string_view line = std::exchange(remainder_, {});
+    std::size_t slash = 0;  // there is none before it
     if (line.empty()) {
       if (!ReadPhysicalLine(line)) return !lines_.Failed();
-      if (!comments_.Remove(line, nextPhysicalLine_)) {
+      slash = line.find('/');
+      if (slash != kNone && !comments_.Remove(line, nextPhysicalLine_)) {
         return !lines_.Failed() && Fail(DiagnosticKind::UnterminatedComment);
       }
     }
-    if (!HandleLine(line)) return false;
+    if (!HandleLine(line, slash)) return false;
   }
 }
 
@@ -38,8 +42,7 @@ bool BlockParser::ReadPhysicalLine(std::string_view& line) {
 }
 
 BlockParser::MarkerPlace BlockParser::FindMarker(std::string_view line, std::size_t from) {
-  for (std::size_t i = line.find('/', from); i != std::string_view::npos;
-       i = line.find('/', i + 1)) {
+  for (std::size_t i = line.find('/', from); i != kNone; i = line.find('/', i + 1)) {
     const std::string_view rest = line.substr(i);
     if (rest.starts_with(kBegin)) return {Marker::Begin, i, i + kBegin.size()};
     if (rest.starts_with(kEnd)) return {Marker::End, i, i + kEnd.size()};
@@ -47,14 +50,14 @@ BlockParser::MarkerPlace BlockParser::FindMarker(std::string_view line, std::siz
   return {};
 }
 
-bool BlockParser::HandleLine(std::string_view line) {
+bool BlockParser::HandleLine(std::string_view line, std::size_t slash) {
   // A marker left over from the line before stands in front of this one.
   MarkerPlace place;
   if (state_ == State::PendingBegin || state_ == State::PendingEnd) {
     place.marker = state_ == State::PendingBegin ? Marker::Begin : Marker::End;
     state_ = State::Idle;
   } else {
-    place = FindMarker(line, 0);
+    place = FindMarker(line, slash);
     if (place.marker == Marker::None) return HandlePlain(line);
   }
   if (const MarkerPlace next = FindMarker(line, place.end); next.marker != Marker::None) {
@@ -129,8 +132,7 @@ bool BlockParser::HandlePlain(std::string_view line) {
     case State::CollectPropertyParams:
     case State::CollectMoreParams:
       Append(' ', line);
-      counter_.Continue(collected_);
-      return static_cast<std::int64_t>(counter_.Count()) < needed_ || CompleteCollection();
+      return !CountReaches(needed_, collected_) || CompleteCollection();
     case State::CollectOpen:
     case State::Idle:
     case State::PendingBegin:
@@ -179,8 +181,14 @@ bool BlockParser::Attach(VoA2LElement* element, std::string_view keyword) {
 
 bool BlockParser::HasTokens(std::string_view text, std::int64_t needed) {
   counter_.Reset();
-  counter_.Continue(text);
-  return static_cast<std::int64_t>(counter_.Count()) >= needed;
+  return CountReaches(needed, text);
+}
+
+bool BlockParser::CountReaches(std::int64_t needed, std::string_view text) {
+  if (needed <= 0) return true;
+  const auto enough = static_cast<std::size_t>(needed);
+  counter_.Continue(text, enough);
+  return counter_.Count() == enough;
 }
 
 void BlockParser::CompleteParameters(std::string_view text) {

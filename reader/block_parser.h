@@ -58,7 +58,7 @@ class BlockParser {
 
   // Each handles one kind of line; false when the read ends there. `text` is what follows the
   // marker, up to the next one.
-  bool HandleLine(std::string_view line);
+  bool HandleLine(std::string_view line, std::size_t slash);
   bool HandleBegin(std::string_view line, std::string_view text);
   bool HandleEnd(std::string_view line, std::string_view text);
   bool HandlePlain(std::string_view line);
@@ -66,6 +66,7 @@ class BlockParser {
 
   bool Attach(VoA2LElement* element, std::string_view keyword);
   bool HasTokens(std::string_view text, std::int64_t needed);
+  bool CountReaches(std::int64_t needed, std::string_view text);
   void CompleteParameters(std::string_view text);
 
   void StartCollecting(State state, std::string_view text, std::int64_t needed);

@@ -10,8 +10,9 @@ constexpr std::size_t kNone = std::string_view::npos;
 
 // Tokens are short: a loop finds their end sooner than a call of memchr.
 std::size_t FindBlank(std::string_view text, std::size_t position) {
-  while (position < text.size() && text[position] != ' ') ++position;
-  return position;
+  return static_cast<std::size_t>(
+      std::find(text.begin() + static_cast<std::ptrdiff_t>(position), text.end(), ' ') -
+      text.begin());
 }
 
 // Position behind the token that begins at `start`; kNone for an unclosed quoted text.
@@ -63,8 +64,8 @@ std::size_t CountTokens(std::string_view text) {
   return counter.Count();
 }
 
-void TokenCounter::Continue(std::string_view text) {
-  while (true) {
+void TokenCounter::Continue(std::string_view text, std::size_t enough) {
+  while (count_ < enough) {
     if (!inQuotes_) {
       position_ = SkipTrimmed(text, position_);
       if (position_ == text.size()) return;
@@ -79,7 +80,7 @@ void TokenCounter::Continue(std::string_view text) {
       }
       position_ = close + 1;
       inQuotes_ = false;
-    } else {
+    } else if (count_ + 1 < enough) {
       position_ = FindBlank(text, position_);
     }
     ++count_;

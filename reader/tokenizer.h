@@ -22,9 +22,11 @@ namespace a2l {
 /// `text` without blanks, tabs, line feeds and carriage returns at its two ends. Every token of a
 /// file passes through here, mostly with nothing to remove; hence inline.
 [[nodiscard]] constexpr std::string_view Trim(std::string_view text) {
-  while (!text.empty() && IsTrimmed(text.front())) text.remove_prefix(1);
-  while (!text.empty() && IsTrimmed(text.back())) text.remove_suffix(1);
-  return text;
+  const char* begin = text.data();
+  const char* end = begin + text.size();
+  while (begin != end && IsTrimmed(*begin)) ++begin;
+  while (begin != end && IsTrimmed(end[-1])) --end;
+  return {begin, static_cast<std::size_t>(end - begin)};
 }
 
 /// Trims `text`, cuts the first token off its front and returns it, itself trimmed. The rest
@@ -52,8 +54,11 @@ std::size_t UnquoteInto(std::string_view token, char* out);
 /// calls the text may only be appended to, beginning with a blank.
 class TokenCounter {
  public:
-  /// Takes up what was appended; `text` is the whole text.
-  void Continue(std::string_view text);
+  static constexpr std::size_t kAll = std::string_view::npos;
+
+  /// Takes up what was appended; `text` is the whole text. Stops at the token number `enough`
+  /// without a look at where it ends; Reset is all that may follow then.
+  void Continue(std::string_view text, std::size_t enough = kAll);
   void Reset() { *this = {}; }
   [[nodiscard]] std::size_t Count() const { return count_; }
 

@@ -384,6 +384,28 @@ void ExpectRealOfTheCLibrary(const std::string& token) {
   }
 }
 
+// Every number of digits before and behind the point, around the length up to which a division
+// of two exact numbers gives the result.
+TEST(ReadReal, ReadsDecimalsLikeTheCLibrary) {
+  std::mt19937_64 random(20);
+  for (std::size_t whole = 0; whole <= 18; ++whole) {
+    for (std::size_t decimals = 0; decimals <= 18; ++decimals) {
+      for (int round = 0; round < 20; ++round) {
+        std::string token;
+        for (std::size_t i = 0; i < whole + decimals; ++i) {
+          if (i == whole) token += '.';
+          token += static_cast<char>('0' + random() % 10);
+        }
+        ASSERT_NO_FATAL_FAILURE(ExpectRealOfTheCLibrary(token));
+        ASSERT_NO_FATAL_FAILURE(ExpectRealOfTheCLibrary("-" + token));
+        ASSERT_NO_FATAL_FAILURE(ExpectRealOfTheCLibrary(token + "."));
+        ASSERT_NO_FATAL_FAILURE(ExpectRealOfTheCLibrary(token + "e3"));
+        ASSERT_NO_FATAL_FAILURE(ExpectRealOfTheCLibrary(token + "x"));
+      }
+    }
+  }
+}
+
 TEST(Reals, AreThoseOfTheCLibrary) {
   const std::string zeros(400, '0');
   const std::vector<std::string> tokens = Combine({{"", " \t\v", "x"},
