@@ -3,7 +3,7 @@
 # A thin front door; the build itself is CMake's (see CMakePresets.json).
 
 .DEFAULT_GOAL := build
-.PHONY: deps deps-ci deps-packages configure build demo test packages asan tidy format \
+.PHONY: deps deps-ci deps-packages configure build demo test bench packages asan tidy format \
 	format-check clean
 .NOTPARALLEL:
 
@@ -33,6 +33,13 @@ demo: build
 test: build
 	cmake --build --preset release -j $(JOBS)
 	ctest --preset release
+
+# One table of speeds, memory and ratios; a few minutes, and 2 GB in memory-backed storage.
+bench: deps
+	cmake --preset bench
+	cmake --build --preset bench -j $(JOBS)
+	python3 bench/run.py --bench build/bench/a2l2json_bench --program build/bench/a2l2json \
+	  --generate build/bench/a2l2json_generate $(BENCH_FLAGS)
 
 packages: deps-packages
 	rm -rf build/packages

@@ -2,8 +2,12 @@
 #include "tests/torture/meters.h"
 
 #include <cstdlib>
+#include <fstream>
 #include <memory>
 #include <new>
+#include <string>
+
+#include "tests/support/files.h"
 
 #ifdef __linux__
 #include <linux/perf_event.h>
@@ -109,5 +113,21 @@ std::optional<std::uint64_t> ExecutedInstructions(const std::function<void()>& /
 }
 
 #endif
+
+std::optional<std::uint64_t> InstructionsOfTheProgram(const std::filesystem::path& a2l) {
+  const TemporaryFolder folder;
+  const std::filesystem::path counts = folder / "counts";
+  const std::string command = "valgrind --tool=callgrind --callgrind-out-file=" + Quoted(counts) +
+                              " " + Quoted(A2L2JSON_PROGRAM) + " " + Quoted(a2l) + " " +
+                              Quoted(folder / "json") + " >" + Quoted(folder / "log") + " 2>&1";
+  // The exit code is that of the conversion, which may fail. NOLINTNEXTLINE(concurrency-mt-unsafe)
+  (void)std::system(command.c_str());
+  std::ifstream in(counts);
+  for (std::string word; in >> word;) {
+    std::uint64_t count = 0;
+    if (word == "totals:" && in >> count) return count;
+  }
+  return std::nullopt;
+}
 
 }  // namespace a2l::test
