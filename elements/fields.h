@@ -178,16 +178,20 @@ struct Choice {
   }
 };
 
+/// What a list does with the items that it has from an earlier read.
+enum class OldItems { Drop, Keep };
+
 /// All remaining tokens, each turned into an item by `kRead`. `kQuoted` says how text items are
 /// written.
-template <class Self, class Item, Item (*kRead)(TreeStore&, std::string_view&), bool kQuoted>
+template <class Self, class Item, Item (*kRead)(TreeStore&, std::string_view&), bool kQuoted,
+          OldItems kOldItems = OldItems::Drop>
 struct TokenList {
   List<Item> Self::*member;
 
   static constexpr std::uint32_t kTokens = kOpenParameterList;
   static constexpr std::size_t kPlaces = 0;
   bool Read(Self& self, std::string_view& text) const {
-    (self.*member).Clear();
+    if constexpr (kOldItems == OldItems::Drop) (self.*member).Clear();
     for (text = Trim(text); !text.empty(); text = Trim(text)) {
       (self.*member).PushBack(self.Store(), kRead(self.Store(), text));
     }
@@ -207,6 +211,11 @@ template <class Self>
 constexpr auto Identifiers(List<std::string_view> Self::*member) {
   return TokenList<Self, std::string_view, ReadIdentifier, false>{member};
 }
+/// A list of names to which every read adds.
+template <class Self>
+constexpr auto MoreIdentifiers(List<std::string_view> Self::*member) {
+  return TokenList<Self, std::string_view, ReadIdentifier, false, OldItems::Keep>{member};
+}
 /// A list of texts in double quotes, written with them.
 template <class Self>
 constexpr auto Texts(List<std::string_view> Self::*member) {
@@ -222,14 +231,15 @@ constexpr auto UnquotedTexts(List<std::string_view> Self::*member) {
 enum class BadItem { Drop, KeepAsZero };
 
 /// All remaining tokens as numbers, read by `kRead`; wrong at the first that is none.
-template <class Self, class Value, Converted<Value> (*kRead)(std::string_view), BadItem kBadItem>
+template <class Self, class Value, Converted<Value> (*kRead)(std::string_view), BadItem kBadItem,
+          OldItems kOldItems>
 struct NumberList {
   List<Value> Self::*member;
 
   static constexpr std::uint32_t kTokens = kOpenParameterList;
   static constexpr std::size_t kPlaces = 0;
   bool Read(Self& self, std::string_view& text) const {
-    (self.*member).Clear();
+    if constexpr (kOldItems == OldItems::Drop) (self.*member).Clear();
     for (text = Trim(text); !text.empty(); text = Trim(text)) {
       const auto [value, ok] = kRead(NextToken(text));
       if (ok || kBadItem == BadItem::KeepAsZero) (self.*member).PushBack(self.Store(), value);
@@ -250,13 +260,14 @@ struct NumberList {
   }
 };
 
+/// A list of numbers to which every read adds.
 template <class Self>
-constexpr auto UnsignedList(List<std::uint32_t> Self::*member) {
-  return NumberList<Self, std::uint32_t, ReadUnsigned, BadItem::Drop>{member};
+constexpr auto MoreUnsigned(List<std::uint32_t> Self::*member) {
+  return NumberList<Self, std::uint32_t, ReadUnsigned, BadItem::Drop, OldItems::Keep>{member};
 }
 template <class Self>
 constexpr auto RealList(List<double> Self::*member) {
-  return NumberList<Self, double, ReadReal, BadItem::KeepAsZero>{member};
+  return NumberList<Self, double, ReadReal, BadItem::KeepAsZero, OldItems::Drop>{member};
 }
 
 /// The parameters of a keyword in file order.

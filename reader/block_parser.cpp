@@ -132,7 +132,8 @@ bool BlockParser::HandlePlain(std::string_view line) {
     case State::CollectPropertyParams:
     case State::CollectMoreParams:
       Append(' ', line);
-      return !CountReaches(needed_, collected_) || CompleteCollection();
+      counter_.Continue(collected_);
+      return static_cast<std::int64_t>(counter_.Count()) < needed_ || CompleteCollection();
     case State::CollectOpen:
     case State::Idle:
     case State::PendingBegin:
@@ -181,14 +182,8 @@ bool BlockParser::Attach(VoA2LElement* element, std::string_view keyword) {
 
 bool BlockParser::HasTokens(std::string_view text, std::int64_t needed) {
   counter_.Reset();
-  return CountReaches(needed, text);
-}
-
-bool BlockParser::CountReaches(std::int64_t needed, std::string_view text) {
-  if (needed <= 0) return true;
-  const auto enough = static_cast<std::size_t>(needed);
-  counter_.Continue(text, enough);
-  return counter_.Count() == enough;
+  counter_.Continue(text);
+  return static_cast<std::int64_t>(counter_.Count()) >= needed;
 }
 
 void BlockParser::CompleteParameters(std::string_view text) {

@@ -66,7 +66,6 @@ class BlockParser {
 
   bool Attach(VoA2LElement* element, std::string_view keyword);
   bool HasTokens(std::string_view text, std::int64_t needed);
-  bool CountReaches(std::int64_t needed, std::string_view text);
   void CompleteParameters(std::string_view text);
 
   void StartCollecting(State state, std::string_view text, std::int64_t needed);

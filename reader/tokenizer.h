@@ -54,11 +54,8 @@ std::size_t UnquoteInto(std::string_view token, char* out);
 /// calls the text may only be appended to, beginning with a blank.
 class TokenCounter {
  public:
-  static constexpr std::size_t kAll = std::string_view::npos;
-
-  /// Takes up what was appended; `text` is the whole text. Stops at the token number `enough`
-  /// without a look at where it ends; Reset is all that may follow then.
-  void Continue(std::string_view text, std::size_t enough = kAll);
+  /// Takes up what was appended; `text` is the whole text.
+  void Continue(std::string_view text);
   void Reset() { *this = {}; }
   [[nodiscard]] std::size_t Count() const { return count_; }
 

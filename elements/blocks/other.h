@@ -67,7 +67,8 @@ struct VoA2LElementCalibrationHandle final
     : Block<VoA2LElementCalibrationHandle, Kind::CALIBRATION_HANDLE> {
   List<std::int32_t> HANDLE;
   static constexpr auto parameters =
-      Parameters(NumberList<Self, std::int32_t, ReadSigned, BadItem::KeepAsZero>{&Self::HANDLE});
+      Parameters(NumberList<Self, std::int32_t, ReadSigned, BadItem::KeepAsZero, OldItems::Drop>{
+          &Self::HANDLE});
   static constexpr KindSet accepts = {Kind::CALIBRATION_HANDLE_TEXT};
   static constexpr Lines lines{" CALIBRATION_HANDLE"};
   static constexpr std::string_view item = "0x{0:X}";

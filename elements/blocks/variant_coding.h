@@ -21,8 +21,8 @@ struct VoA2LElementVarCriterion final : Block<VoA2LElementVarCriterion, Kind::VA
   std::string_view NAME;
   std::string_view LONG_IDENTIFIER;
   List<std::string_view> VALUE;
-  static constexpr auto parameters =
-      Parameters(Identifier(&Self::NAME), Text(&Self::LONG_IDENTIFIER), Identifiers(&Self::VALUE));
+  static constexpr auto parameters = Parameters(
+      Identifier(&Self::NAME), Text(&Self::LONG_IDENTIFIER), MoreIdentifiers(&Self::VALUE));
   static constexpr KindSet accepts = {Kind::VAR_MEASUREMENT, Kind::VAR_SELECTION_CHARACTERISTIC};
   static constexpr Lines lines{" VAR_CRITERION {0} {1}"};
   static constexpr std::string_view item = "{0} ";
@@ -34,7 +34,7 @@ struct VoA2LElementVarCharacteristic final
   std::string_view NAME;
   List<std::string_view> CRITERION_NAME;
   static constexpr auto parameters =
-      Parameters(Identifier(&Self::NAME), Identifiers(&Self::CRITERION_NAME));
+      Parameters(Identifier(&Self::NAME), MoreIdentifiers(&Self::CRITERION_NAME));
   static constexpr KindSet accepts = {Kind::VAR_ADDRESS};
   static constexpr Lines lines{" VAR_CHARACTERISTIC {0}"};
   static constexpr std::string_view item = "{0} ";
@@ -43,7 +43,7 @@ struct VoA2LElementVarCharacteristic final
 /// The addresses of a variant-coded characteristic.
 struct VoA2LElementVarAddress final : Block<VoA2LElementVarAddress, Kind::VAR_ADDRESS> {
   List<std::uint32_t> VAR_ADDRESS;
-  static constexpr auto parameters = Parameters(UnsignedList(&Self::VAR_ADDRESS));
+  static constexpr auto parameters = Parameters(MoreUnsigned(&Self::VAR_ADDRESS));
   static constexpr Lines lines{" VAR_ADDRESS"};
   static constexpr std::string_view item = "0x{0:X} ";
   static constexpr bool keepsChildrenSilent = true;

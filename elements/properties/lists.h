@@ -36,7 +36,7 @@ class ListProperty : public ElementClass<Class> {
 /// The dimensions of an array. The list ends at the first token that is not a number.
 struct VoA2LElementMatrixDim final : ListProperty<VoA2LElementMatrixDim, Kind::MATRIX_DIM> {
   List<std::uint32_t> MATRIX_DIM;
-  static constexpr auto parameters = Parameters(UnsignedList(&Self::MATRIX_DIM));
+  static constexpr auto parameters = Parameters(MoreUnsigned(&Self::MATRIX_DIM));
   static constexpr std::string_view firstLine = "MATRIX_DIM {0:d}";
   static constexpr std::string_view nextLine = "           {0:d}";
 };

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "reader/tokenizer.h"
 
-#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -187,34 +186,6 @@ TEST(TokenCounter, CountsManyPieces) {
         }
         ASSERT_EQ(counter.Count(), CountTokens(text)) << testing::PrintToString(text);
       }
-    }
-  }
-}
-
-// However few tokens are enough, the count stops there and is right up to there.
-TEST(TokenCounter, StopsAtEnough) {
-  for (const std::string& text : AllTexts(kAlphabet, 5)) {
-    const std::size_t all = CountTokens(text);
-    for (std::size_t enough = 0; enough <= all + 2; ++enough) {
-      TokenCounter counter;
-      counter.Continue(text, enough);
-      ASSERT_EQ(counter.Count(), std::min(all, enough))
-          << testing::PrintToString(text) << " " << enough;
-    }
-  }
-}
-
-TEST(TokenCounter, GoesOnBelowEnough) {
-  const std::vector<std::string> pieces = AllTexts(kAlphabet, 3);
-  for (const std::string& first : pieces) {
-    for (const std::string& second : pieces) {
-      const std::string whole = first + ' ' + second;
-      const std::size_t enough = CountTokens(first) + 2;
-      TokenCounter counter;
-      counter.Continue(first, enough);
-      counter.Continue(whole, enough);
-      ASSERT_EQ(counter.Count(), std::min(CountTokens(whole), enough))
-          << testing::PrintToString(first) << " and " << testing::PrintToString(second);
     }
   }
 }

@@ -52,6 +52,22 @@ TEST(VarAddress, EndsAtTheFirstWrongNumberWhichIsDropped) {
   ExpectParse(rows);
 }
 
+// What a second read finds is added to the lists.
+TEST(VariantCoding, ListsGrowWithASecondRead) {
+  Made<VoA2LElementVarCriterion> criterion(R"(C "a" x)");
+  EXPECT_TRUE(criterion.Parse(R"(D "b" y)"));
+  EXPECT_EQ(criterion.Written(), Block("VAR_CRITERION D \"b\"", "  x \n  y \n"));
+  Made<VoA2LElementVarCharacteristic> characteristic("V Car");
+  EXPECT_TRUE(characteristic.Parse("W Gear"));
+  EXPECT_EQ(characteristic.Written(), Block("VAR_CHARACTERISTIC W", "  Car \n  Gear \n"));
+  Made<VoA2LElementVarAddress> address("1");
+  EXPECT_TRUE(address.Parse("2"));
+  EXPECT_EQ(address.Written(), Block("VAR_ADDRESS", "  0x1 \n  0x2 \n"));
+  Made<VoA2LElementVarForbiddenComb> combination("Car a");
+  EXPECT_TRUE(combination.Parse("Gear b"));
+  EXPECT_EQ(combination.Written(), Block("VAR_FORBIDDEN_COMB", "  Car a\n  Gear b\n"));
+}
+
 TEST(VarForbiddenComb, TakesPairs) {
   const ParseRow rows[] = {
       {"VAR_FORBIDDEN_COMB", " Car Limousine Gear Manual", true, "",

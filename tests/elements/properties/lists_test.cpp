@@ -34,6 +34,19 @@ TEST(MatrixDim, TakesNumbersToTheEnd) {
   ExpectParse(rows);
 }
 
+// Numbers are added to those that are there; names replace them.
+TEST(Lists, ReadASecondTime) {
+  Made<VoA2LElementMatrixDim> dimensions("2 3");
+  EXPECT_TRUE(dimensions.Parse("4"));
+  EXPECT_EQ(dimensions.Written(),
+            "MATRIX_DIM 2\n"
+            "           3\n"
+            "           4\n");
+  Made<VoA2LElementFrameMeasurement> frame("a b");
+  EXPECT_TRUE(frame.Parse("c"));
+  EXPECT_EQ(frame.Written(), "FRAME_MEASUREMENT c\n");
+}
+
 TEST(MatrixDim, StoresNumbers) {
   const Made<VoA2LElementMatrixDim> dimensions("2 3");
   EXPECT_EQ(
