@@ -5,11 +5,6 @@
 #include <cstring>
 
 namespace a2l {
-namespace {
-
-constexpr std::size_t kPieceSize = std::size_t{256} * 1024;
-
-}  // namespace
 
 bool LineSource::Next(std::string_view& line) {
   std::size_t searched = 0;
@@ -35,10 +30,10 @@ bool LineSource::Refill() {
     end_ -= begin_;
     begin_ = 0;
   }
-  if (buffer_.size() - end_ < kPieceSize) {
-    buffer_.resize(std::max(buffer_.size() * 2, end_ + kPieceSize));
+  if (buffer_.size() - end_ < pieceSize_) {
+    buffer_.resize(std::max(buffer_.size() * 2, end_ + pieceSize_));
   }
-  in_.read(buffer_.data() + end_, static_cast<std::streamsize>(kPieceSize));
+  in_.read(buffer_.data() + end_, static_cast<std::streamsize>(pieceSize_));
   end_ += static_cast<std::size_t>(in_.gcount());
   return in_.gcount() > 0;
 }

@@ -16,8 +16,11 @@ namespace a2l {
 /// longer than a piece makes the buffer grow.
 class LineSource {
  public:
+  static constexpr std::size_t kPieceSize = std::size_t{256} * 1024;
+
   /// `in` stays the caller's and must outlive this object.
-  explicit LineSource(std::istream& in) : in_(in) {}
+  explicit LineSource(std::istream& in, std::size_t pieceSize = kPieceSize)
+      : in_(in), pieceSize_(pieceSize) {}
 
   /// The next line, without its line feed; valid until the next call. False at the end of the
   /// input and when it cannot be read on (see Failed).
@@ -30,6 +33,7 @@ class LineSource {
   bool Refill();
 
   std::istream& in_;
+  std::size_t pieceSize_;
   std::vector<char> buffer_;
   std::size_t begin_ = 0;  // of what has not been handed out
   std::size_t end_ = 0;    // of what has been read

@@ -22,8 +22,8 @@ struct Lines {
   bool failed = false;
 };
 
-Lines ReadAll(std::istream& in) {
-  LineSource source(in);
+Lines ReadAll(std::istream& in, std::size_t pieceSize = LineSource::kPieceSize) {
+  LineSource source(in, pieceSize);
   Lines result;
   for (std::string_view line; source.Next(line);) result.lines.emplace_back(line);
   result.failed = source.Failed();
@@ -80,6 +80,16 @@ TEST(LineSource, HandsOutLinesOfAnyLength) {
   EXPECT_EQ(ReadAll(text).lines, lines);
   text.pop_back();
   EXPECT_EQ(ReadAll(text).lines, lines) << "without the last line feed";
+}
+
+TEST(LineSource, HandsOutTheSameLinesInPiecesOfAnySize) {
+  const std::string text = "one\n\ntwo\r\na line that is longer than a piece\n\n\nend";
+  const std::vector<std::string> lines = {"one", "", "two\r", "a line that is longer than a piece",
+                                          "",    "", "end"};
+  for (std::size_t pieceSize = 1; pieceSize <= text.size() + 1; ++pieceSize) {
+    std::istringstream in(text);
+    EXPECT_EQ(ReadAll(in, pieceSize).lines, lines) << pieceSize;
+  }
 }
 
 TEST(LineSource, HandsOutManyShortLines) {

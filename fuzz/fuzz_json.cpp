@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+//
+// The JSON text against json11, byte for byte: of the tree that the input is read into, and of
+// single values made of its raw bytes.
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <map>
+#include <string>
+#include <string_view>
+
+#include <json11.hpp>
+
+#include "export/json11_document.h"
+#include "export/json_text.h"
+#include "export/json_writer.h"
+#include "fuzz/check.h"
+#include "fuzz/reading.h"
+
+namespace a2l::fuzz {
+namespace {
+
+using json11::Json;
+
+template <class Function>
+std::string TextOf(Function write) {
+  std::string text;
+  JsonText json([&text](std::string_view piece) { text += piece; });
+  write(json);
+  json.Flush();
+  return text;
+}
+
+void CheckString(std::string_view bytes) {
+  CheckSame(TextOf([&](JsonText& json) { json.String(bytes); }), Json(std::string(bytes)).dump(),
+            "a string");
+}
+
+// Texts are escaped in pieces and pass through a buffer: the same bytes again and again, at any
+// place of a text that is longer than a piece, now and then also longer than the buffer.
+void CheckLongString(std::string_view bytes) {
+  // Which bytes meet at an edge is a matter of a few; long inputs are for the document.
+  if (bytes.size() < 2 || bytes.size() > 64) return;
+  const auto first = static_cast<unsigned char>(bytes[0]);
+  const auto second = static_cast<unsigned char>(bytes[1]);
+  const std::size_t size = first % 64 == 0 ? 70000 : 2500;
+  std::string text(second * std::size_t{4} + first % 4, 'x');
+  while (text.size() < size) text += bytes;
+  CheckString(text);
+}
+
+// The bytes as numbers, one behind the other, each made of the bytes in memory.
+template <class Number, class Write>
+void CheckNumbers(std::string_view bytes, Write write) {
+  Json::array numbers;
+  const std::string text = TextOf([&](JsonText& json) {
+    json.BeginArray();
+    for (; bytes.size() >= sizeof(Number); bytes.remove_prefix(sizeof(Number))) {
+      Number number;
+      std::memcpy(&number, bytes.data(), sizeof(Number));
+      numbers.emplace_back(number);
+      json.Item();
+      write(json, number);
+    }
+    json.EndArray();
+  });
+  CheckSame(text, Json(numbers).dump(), "an array of numbers");
+}
+
+// Each line a key, and its value.
+void CheckMembers(std::string_view bytes) {
+  std::map<std::string, Json> members;
+  while (!bytes.empty()) {
+    const std::string line(bytes.substr(0, bytes.find('\n')));
+    members.emplace(line, line);
+    bytes.remove_prefix(std::min(line.size() + 1, bytes.size()));
+  }
+  const std::string text = TextOf([&](JsonText& json) {
+    json.BeginObject();
+    for (const auto& [key, value] : members) {
+      json.Key(key);
+      json.String(value.string_value());
+    }
+    json.EndObject();
+  });
+  CheckSame(text, Json(members).dump(), "an object");
+}
+
+void CheckAgainstJson11(std::string_view bytes) {
+  CheckString(bytes);
+  CheckLongString(bytes);
+  const std::string_view numbers = bytes.substr(0, 256);
+  CheckNumbers<double>(numbers, [](JsonText& json, double number) { json.Real(number); });
+  CheckNumbers<std::int32_t>(numbers,
+                             [](JsonText& json, std::int32_t number) { json.Integer(number); });
+  CheckMembers(bytes);
+
+  const Reading reading = Read(bytes);
+  CheckSame(ToJson(*reading.root), ToJson11(*reading.root).dump(), "the document");
+}
+
+}  // namespace
+}  // namespace a2l::fuzz
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  a2l::fuzz::CheckAgainstJson11(a2l::fuzz::Input(data, size, 65536));
+  return 0;
+}

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+//
+// Lines, comments and tokens against the naive telling of the same rules.
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <deque>
+#include <optional>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "elements/fields.h"
+#include "fuzz/check.h"
+#include "fuzz/naive_tokenizer.h"
+#include "reader/comments.h"
+#include "reader/line_source.h"
+#include "reader/tokenizer.h"
+
+namespace a2l::fuzz {
+namespace {
+
+void CheckUnquote(std::string_view token) {
+  const std::string expected = naive::Unquote(std::string(token));
+  CheckSame(Unquote(token), expected, "Unquote");
+  std::vector<char> room(token.size());
+  const std::size_t size = UnquoteInto(token, room.data());
+  CheckSame(std::string_view(room.data(), size), expected, "UnquoteInto");
+}
+
+void CheckTokens(std::string_view text) {
+  TreeStore store;
+  std::string naiveRest(text);
+  std::string_view rest = text;
+  while (true) {
+    std::string_view forReadText = rest;
+    const std::string_view token = NextToken(rest);
+    const std::string expected = naive::NextToken(naiveRest).text;
+    CheckSame(token, expected, "NextToken");
+    CheckSame(rest, naiveRest, "the rest behind a token");
+    CheckUnquote(token);
+    CheckSame(ReadText(store, forReadText), naive::Unquote(expected), "ReadText");
+    CheckSame(forReadText, naiveRest, "the rest behind a text");
+    if (token.empty()) break;
+  }
+}
+
+void CheckCount(std::string_view text) {
+  const std::size_t count = naive::CountTokens(std::string(text));
+  CheckSame(CountTokens(text), count, "CountTokens");
+}
+
+// As the reader does it: each line is put behind those before, with a blank between.
+void CheckCounter(const std::deque<std::string>& lines) {
+  // The naive count begins anew with every line.
+  constexpr std::size_t kMostLines = 40;
+  TokenCounter counter;
+  std::string text;
+  for (std::size_t i = 0; i < std::min(lines.size(), kMostLines); ++i) {
+    if (i > 0) text += ' ';
+    text += lines[i];
+    counter.Continue(text);
+    CheckSame(counter.Count(), naive::CountTokens(text), "TokenCounter");
+  }
+}
+
+void CheckLines(std::string_view bytes, std::size_t pieceSize,
+                const std::deque<std::string>& lines) {
+  std::istringstream in{std::string(bytes)};
+  LineSource source(in, pieceSize);
+  std::string_view line;
+  for (const std::string& expected : lines) {
+    Check(source.Next(line), "LineSource has as many lines");
+    CheckSame(line, expected, "a line");
+  }
+  Check(!source.Next(line), "LineSource has no further line");
+}
+
+void CheckComments(const std::deque<std::string>& lines) {
+  std::deque<std::string> following = lines;
+  std::size_t next = 0;
+  CommentRemover remover;
+  // The line before the next one need not stay readable: it lies in memory of its own.
+  std::optional<std::vector<char>> current;
+  const CommentRemover::NextLine nextLine = [&](std::string_view& line) {
+    if (next == lines.size()) return false;
+    current.emplace(lines[next].begin(), lines[next].end());
+    ++next;
+    line = std::string_view(current->data(), current->size());
+    return true;
+  };
+  while (!following.empty()) {
+    std::string first = following.front();
+    following.pop_front();
+    const std::optional<std::string> expected = naive::WithoutComments(std::move(first), following);
+    std::string_view line;
+    Check(nextLine(line), "CommentRemover takes as many lines");
+    Check(remover.Remove(line, nextLine) == expected.has_value(), "a comment ends with the file");
+    if (!expected.has_value()) return;
+    CheckSame(line, *expected, "a line without comments");
+    CheckSame(next, lines.size() - following.size(), "the lines that a comment took");
+  }
+}
+
+void CheckTokenizer(std::string_view bytes) {
+  CheckSame(Trim(bytes), naive::Trim(std::string(bytes)), "Trim");
+  CheckUnquote(bytes);
+  CheckTokens(bytes);
+  CheckCount(bytes);
+  const std::deque<std::string> lines = naive::Lines(std::string(bytes));
+  CheckLines(bytes, 1, lines);
+  CheckLines(bytes, 2 + bytes.size() / 3, lines);
+  CheckCounter(lines);
+  CheckComments(lines);
+}
+
+}  // namespace
+}  // namespace a2l::fuzz
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  a2l::fuzz::CheckTokenizer(a2l::fuzz::Input(data, size, 4096));
+  return 0;
+}

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <sstream>
+#include <string>
+#include <string_view>
+
+#include "fuzz/check.h"
+#include "model/element.h"
+#include "reader/a2l_reader.h"
+
+namespace a2l::fuzz {
+
+struct TreeDeleter {
+  void operator()(VoA2LElement* root) const { DestroyTree(root); }
+};
+using Tree = std::unique_ptr<VoA2LElement, TreeDeleter>;
+
+/// What the reader made of a text.
+struct Reading {
+  bool ok = false;
+  Tree root{NewTree()};
+  A2LReader reader;
+};
+
+inline Reading Read(std::string_view text) {
+  Reading reading;
+  std::istringstream in{std::string(text)};
+  reading.ok = reading.reader.Parse(in, reading.root.get());
+  return reading;
+}
+
+/// The tree as A2L text.
+inline std::string Written(VoA2LElement& root) {
+  std::ostringstream out;
+  Check(root.Write(0, out), "Write takes a stream that is open");
+  return out.str();
+}
+
+}  // namespace a2l::fuzz

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/element.h"
+
+namespace a2l::fuzz {
+
+/// True when the tree, written as A2L text and read again, is promised to be written the same.
+/// It is not where it holds
+///
+/// - a TRANSFORMER, or a list of its objects that is not empty: their texts are written without
+///   quotes;
+/// - a CALIBRATION_HANDLE_TEXT, which is written under another keyword;
+/// - an A2ML, which is written with an indentation that then counts as part of its text;
+/// - a CALIBRATION_HANDLE or an ECU_CALIBRATION_OFFSET below 0, written as "0x-1A";
+/// - an enumeration without a word, or an empty name: nothing is written in its place;
+/// - a name with quotes that is not one quoted text as a whole, or cut so that white space is last;
+/// - a name or a line of kept text that holds the signs of a comment;
+/// - a name that is a keyword, where it begins a line of a list;
+/// - a text that ends with a backslash: the quote behind it does not close;
+/// - a table whose rows are not as many as declared;
+/// - several version lines at the root, whose order is turned round.
+///
+/// Unknown blocks, and what stands inside of lists, are not written at all: the text is the same
+/// without them.
+bool RoundTrips(const VoA2LElement& root);
+
+/// True when nothing is lost either: the tree holds no unknown block.
+bool IsWrittenWhole(const VoA2LElement& root);
+
+}  // namespace a2l::fuzz

@@ -1,0 +1,368 @@
+// SPDX-License-Identifier: MIT
+//
+// Random files against what the generator says must come of them: the tree, the document and
+// every message with its line.
+#include "tests/generator/generator.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <json11.hpp>
+
+#include "elements/blocks/raw.h"
+#include "export/json11_document.h"
+#include "export/json_writer.h"
+#include "reader/line_source.h"
+#include "tests/generator/random.h"
+#include "tests/support/kinds.h"
+#include "tests/support/trees.h"
+
+namespace a2l::test {
+namespace {
+
+using json11::Json;
+
+constexpr std::uint64_t kSeeds = 800;
+
+Json ToJson11(const Value& value) {
+  if (const auto* text = std::get_if<std::string>(&value)) return *text;
+  if (const auto* number = std::get_if<std::int32_t>(&value)) return *number;
+  if (const auto* number = std::get_if<double>(&value)) return *number;
+  return nullptr;
+}
+
+// Texts with the bytes of any character set: compared as JSON text, so that a failure shows them.
+void ExpectJson(const Json& actual, const Json& expected, const std::string& what) {
+  EXPECT_EQ(actual.dump(), expected.dump()) << what;
+}
+
+std::vector<const Node*> ChildrenOf(const Node& node, std::string_view keyword) {
+  std::vector<const Node*> children;
+  for (const auto& child : node.children) {
+    if (child->keyword == keyword) children.push_back(child.get());
+  }
+  return children;
+}
+
+// -----------------------------------------------------------------------------------------------
+// The tree
+
+void ExpectTree(const VoA2LElement& element, const Node& node, const std::string& path) {
+  const std::string here = path + "/" + node.keyword;
+  ASSERT_EQ(static_cast<std::int32_t>(element.kind), NumberOf(node.keyword)) << here;
+  EXPECT_EQ(element.valid != 0, node.valid) << here;
+  if (node.keyword == "IF_DATA") {
+    const auto& data = static_cast<const VoA2LElementIfData&>(element);
+    EXPECT_EQ(Value(std::string(data.NAME)), node.values.at(0)) << here;
+    EXPECT_EQ(data.IF_DATA, node.content) << here;
+  } else if (node.keyword == "A2ML") {
+    EXPECT_EQ(static_cast<const VoA2LElementA2ML&>(element).A2ML, node.content) << here;
+  } else if (node.keyword == "?") {
+    EXPECT_EQ(static_cast<const VoA2LElementUnknown&>(element).TEXT, node.content) << here;
+  }
+  ASSERT_EQ(element.ChildCount(), node.children.size()) << here;
+  for (std::size_t i = 0; i < node.children.size(); ++i) {
+    ExpectTree(*element.Child(i), *node.children[i], here + "[" + std::to_string(i) + "]");
+  }
+}
+
+// -----------------------------------------------------------------------------------------------
+// The document
+
+// The parameters of a keyword as members of an object.
+void ExpectParameters(const Json& json, const Node& node, const std::string& here) {
+  const Keyword& keyword = Find(node.keyword);
+  for (std::size_t i = 0; i < keyword.parameters.size(); ++i) {
+    const std::string name(keyword.parameters[i].name);
+    if (name.size() == 2 && name[0] == 'O') continue;  // the offsets of memory
+    Json expected = ToJson11(node.values.at(i));
+    if (node.keyword == "MEASUREMENT" && name == "RESOLUTION") expected = 1;
+    if (node.keyword == "MEASUREMENT" && name == "ACCURACY") expected = 0;
+    ExpectJson(json["F" + name], expected, here + "/" + name);
+  }
+}
+
+bool HasMemberOfItsOwn(const Node& node, std::string_view property) {
+  // The record layout of an axis hides the other DEPOSIT; identifications go under another key;
+  // the rest is put together from several values or properties.
+  static const std::set<std::string_view> kOthers = {
+      "COEFFS",   "COEFFS_LINEAR",  "ADDR_EPK",          "SYSTEM_CONSTANT", "IDENTIFICATION",
+      "RESERVED", "ALIGNMENT_WORD", "FRAME_MEASUREMENT", "CONVERSION"};
+  return !kOthers.contains(property) && !(node.keyword == "AXIS_PTS" && property == "DEPOSIT");
+}
+
+void ExpectProperty(const Json& json, const Keyword& property, const Node* first,
+                    const std::string& here) {
+  const Json& actual = json["F" + std::string(property.text)];
+  if (first == nullptr) {
+    const bool isFlag = property.parameters.empty() && property.list.empty();
+    ExpectJson(actual,
+               isFlag                  ? Json(false)
+               : property.list.empty() ? Json()
+                                       : Json(Json::array()),
+               here);
+  } else if (first->isBroken) {
+    return;
+  } else if (!property.list.empty()) {
+    Json::array items;
+    for (const Value& item : first->items) items.push_back(ToJson11(item));
+    ExpectJson(actual, items, here);
+  } else if (property.parameters.empty()) {
+    ExpectJson(actual, true, here);
+  } else if (property.parameters.size() == 1 && property.parameters[0].name == property.text) {
+    ExpectJson(actual, ToJson11(first->values.at(0)), here);
+  } else {
+    ExpectParameters(actual, *first, here);
+  }
+}
+
+// A list of names as one text.
+void ExpectNames(const Json& json, const Keyword& list, const Node* first,
+                 const std::string& here) {
+  Json expected;
+  if (first != nullptr) {
+    std::string joined;
+    for (const Value& item : first->items) joined += std::get<std::string>(item) + ",";
+    if (!joined.empty()) joined.pop_back();
+    expected = joined;
+  }
+  ExpectJson(json["F" + std::string(list.text)], expected, here);
+}
+
+void ExpectColumns(const Json& json, const Node& node, const std::string& here) {
+  const Keyword& keyword = Find(node.keyword);
+  for (std::size_t column = 0; column < keyword.columns.size(); ++column) {
+    Json::array expected;
+    for (std::size_t i = column; i < node.items.size(); i += keyword.columns.size()) {
+      expected.push_back(ToJson11(node.items[i]));
+    }
+    const std::string name(keyword.columns[column].name);
+    ExpectJson(json["F" + name], expected, here + "/" + name);
+  }
+}
+
+void ExpectObject(const Json& json, const Node& node, const std::string& here);
+
+// Blocks of one kind as an array of objects, in the order of the file.
+void ExpectObjects(const Json& json, const Node& node, std::string_view keyword,
+                   const std::string& path) {
+  const std::string here = path + "/" + std::string(keyword);
+  const std::vector<const Node*> expected = ChildrenOf(node, keyword);
+  const Json& actual = json["F" + std::string(keyword)];
+  ASSERT_EQ(actual.array_items().size(), expected.size()) << here;
+  for (std::size_t i = 0; i < expected.size(); ++i) {
+    ExpectObject(actual[i], *expected[i], here + "[" + std::to_string(i) + "]");
+  }
+}
+
+void ExpectObject(const Json& json, const Node& node, const std::string& here) {
+  ASSERT_TRUE(json.is_object()) << here;
+  const Keyword& keyword = Find(node.keyword);
+  if (keyword.isRaw) {
+    ExpectJson(json["FNAME"], ToJson11(node.values.at(0)), here);
+    ExpectJson(json["FIF_DATA"], node.content, here);
+    return;
+  }
+  ExpectParameters(json, node, here);
+  if (keyword.onWrongNumber == OnWrongNumber::MarkAndGoOn) {
+    ExpectJson(json["FISVALID"], node.valid, here);
+  }
+  if (!keyword.columns.empty()) ExpectColumns(json, node, here);
+  for (const std::string_view text : keyword.children) {
+    const Keyword& child = Find(text);
+    const std::vector<const Node*> there = ChildrenOf(node, text);
+    const Node* first = there.empty() ? nullptr : there.front();
+    const std::string path = here + "/" + std::string(text);
+    const bool isNames = child.parameters.empty() && child.list.size() == 1 &&
+                         child.list[0].type == ParameterType::Name;
+    if (text == "IF_DATA" || text == "AXIS_DESCR" || text == "OVERWRITE" ||
+        text == "STRUCTURE_COMPONENT") {
+      ExpectObjects(json, node, text, here);
+    } else if (child.isBlock && isNames && text != "MAP_LIST" && text != "REF_GROUP") {
+      ExpectNames(json, child, first, path);
+    } else if (!child.isBlock && HasMemberOfItsOwn(node, text)) {
+      ExpectProperty(json, child, first, path);
+    }
+  }
+}
+
+void ExpectModule(const Json& json, const Node& module) {
+  ExpectParameters(json, module, "MODULE");
+  for (const std::string_view text : Find("MODULE").children) {
+    const std::string key = "F" + std::string(text);
+    const std::vector<const Node*> there = ChildrenOf(module, text);
+    const bool isSingle = text == "FRAME" || text == "MOD_COMMON" || text == "MOD_PAR" ||
+                          text == "VARIANT_CODING" || text == "A2ML";
+    if (!isSingle) {
+      ExpectObjects(json, module, text, "MODULE");
+    } else if (there.empty()) {
+      ExpectJson(json[key], nullptr, key);
+    } else if (text == "A2ML") {
+      ExpectJson(json[key], there.front()->content, key);
+    } else {
+      ExpectObject(json[key], *there.front(), key);
+    }
+  }
+}
+
+void ExpectDocument(const Json& document, const Node& root) {
+  std::vector<const Node*> modules;
+  for (const Node* project : ChildrenOf(root, "PROJECT")) {
+    for (const Node* module : ChildrenOf(*project, "MODULE")) modules.push_back(module);
+  }
+  ASSERT_EQ(document["FModules"].array_items().size(), modules.size());
+  for (std::size_t i = 0; i < modules.size(); ++i) {
+    ExpectModule(document["FModules"][i], *modules[i]);
+  }
+  ExpectJson(document["FDatabaseName"],
+             modules.empty() ? Json() : ToJson11(modules.front()->values.at(0)), "FDatabaseName");
+}
+
+// The same messages, `raise` lines further down.
+std::string WithLinesRaised(std::string_view message, std::size_t raise) {
+  std::string raised;
+  while (!message.empty()) {
+    const std::size_t number = message.find('(') + 1;
+    const std::size_t behind = message.find(')');
+    const std::size_t end = message.find('\n') + 1;
+    raised += message.substr(0, number);
+    raised += std::to_string(std::stoul(std::string(message.substr(number))) + raise);
+    raised += message.substr(behind, end - behind);
+    message.remove_prefix(end);
+  }
+  return raised;
+}
+
+TEST(Generator, FilesAreReadAsTheyWereMeant) {
+  for (std::uint64_t seed = 0; seed < kSeeds && !testing::Test::HasFailure(); ++seed) {
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    const GeneratedFile file = Generate(seed);
+    const Reading reading = Read(file.text);
+    EXPECT_EQ(reading.ok, file.ok);
+    EXPECT_EQ(reading.reader.message, file.message);
+    ExpectTree(*reading.root, file.root, "");
+
+    const std::string json = a2l::ToJson(*reading.root);
+    std::string error;
+    const Json document = Json::parse(json, error);
+    ASSERT_EQ(error, "");
+    ExpectDocument(document, file.root);
+    EXPECT_EQ(json, a2l::ToJson11(*reading.root).dump());
+    if (HasFailure()) ADD_FAILURE() << file.text;
+  }
+}
+
+// A generator that makes the same file again and again would test nothing.
+TEST(Generator, FilesHoldEveryKeywordAndEveryMessage) {
+  std::set<std::string> keywords;
+  bool hasEncoding = false;
+  std::map<std::string, int> messages;
+  std::map<bool, int> results;
+  std::map<bool, int> validities;
+  bool hasCarriageReturns = false;
+  for (std::uint64_t seed = 0; seed < kSeeds; ++seed) {
+    const GeneratedFile file = Generate(seed);
+    std::vector<const Node*> nodes = {&file.root};
+    while (!nodes.empty()) {
+      const Node& node = *nodes.back();
+      nodes.pop_back();
+      keywords.insert(node.keyword);
+      if (node.keyword == "MEASUREMENT") ++validities[node.valid];
+      for (const auto& child : node.children) nodes.push_back(child.get());
+    }
+    for (std::string_view rest = file.message; !rest.empty();) {
+      std::string_view line = rest.substr(0, rest.find('\n'));
+      rest.remove_prefix(line.size() + 1);
+      line.remove_prefix(line.find(')') + 2);
+      // Up to the keyword, word or number that it names.
+      ++messages[std::string(line.substr(0, line.rfind(' ')))];
+    }
+    ++results[file.ok];
+    hasEncoding = hasEncoding || file.message.ends_with(" ENCODING\n");
+    hasCarriageReturns = hasCarriageReturns || file.text.find('\r') != std::string::npos;
+  }
+  for (const NumberedKeyword& keyword : AllKeywords()) {
+    if (keyword.keyword == "ENCODING") continue;  // which becomes no element, but a message
+    EXPECT_TRUE(keywords.contains(keyword.keyword)) << keyword.keyword;
+  }
+  EXPECT_TRUE(hasEncoding);
+  EXPECT_TRUE(keywords.contains("?"));
+  for (const char* message :
+       {"wrong parameters", "element need more parameters", "unexpected element",
+        "Cannot find comment end */", "unexpected element with /begin",
+        "unexpected property of element", "/end don't equal /begin",
+        "unexpected element, this element need /begin"}) {
+    EXPECT_GE(messages[message], 3) << message;
+  }
+  EXPECT_GE(results[false], 20);
+  EXPECT_GE(results[true], 200);
+  EXPECT_GE(validities[false], 20);
+  EXPECT_GE(validities[true], 20);
+  EXPECT_TRUE(hasCarriageReturns);
+}
+
+TEST(Generator, GivesTheSameFileForTheSameSeed) {
+  EXPECT_EQ(Generate(7).text, Generate(7).text);
+  EXPECT_NE(Generate(7).text, Generate(8).text);
+}
+
+// The reader has a piece of the file in memory at a time. A comment in front changes nothing but
+// the place where a piece ends, within the lines that follow.
+TEST(Generator, FilesAreReadTheSameWhereverTheirPiecesEnd) {
+  for (std::uint64_t seed = 0; seed < 60; ++seed) {
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    const GeneratedFile file = Generate(seed);
+    const std::size_t place = Random(seed).Below(file.text.size());
+    std::string padding = "/*";
+    while (padding.size() + place + 100 < LineSource::kPieceSize) {
+      padding += std::string(90, '.') + "*//*\n";
+    }
+    padding += std::string(LineSource::kPieceSize - padding.size() - place - 3, '.') + "*/\n";
+    const auto lines = static_cast<std::size_t>(std::ranges::count(padding, '\n'));
+
+    const Reading padded = Read(padding + file.text);
+    EXPECT_EQ(padded.ok, file.ok);
+    EXPECT_EQ(padded.reader.message, WithLinesRaised(file.message, lines));
+    ExpectTree(*padded.root, file.root, "");
+    EXPECT_EQ(a2l::ToJson(*padded.root), a2l::ToJson(*Read(file.text).root));
+    if (HasFailure()) return;
+  }
+}
+
+// The lines of every keyword, read where they may stand.
+TEST(Generator, LinesOfEveryKeywordAreReadWithoutAWord) {
+  const auto parentOf = [](std::string_view child) {
+    for (const Keyword& keyword : Grammar()) {
+      if (keyword.Accepts(child)) return keyword.text;
+    }
+    return std::string_view{};
+  };
+  for (const Keyword& keyword : Grammar()) {
+    std::string before;
+    for (std::string_view parent = parentOf(keyword.text); !parent.empty();
+         parent = parentOf(parent)) {
+      const Keyword& block = Find(parent);
+      std::string head = "/begin " + std::string(parent);
+      for (const Parameter& parameter : block.parameters) {
+        head += parameter.type == ParameterType::Text ? " \"\"" : " 0";
+      }
+      before.insert(0, head + "\n");
+    }
+    for (std::uint64_t seed = 0; seed < 3; ++seed) {
+      const std::string lines = GenerateLines(keyword.text, seed);
+      const Reading reading = Read(before + lines);
+      EXPECT_TRUE(reading.ok) << before << lines;
+      EXPECT_EQ(reading.reader.message, "") << before << lines;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace a2l::test
