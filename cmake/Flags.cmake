@@ -33,6 +33,8 @@ add_library(a2l2json_fuzzer INTERFACE)
 if(A2L2JSON_FUZZ)
   target_compile_options(a2l2json_sanitizers INTERFACE -fsanitize=fuzzer-no-link)
   target_link_options(a2l2json_fuzzer INTERFACE -fsanitize=fuzzer)
+  # Buffers so small that inputs of a few bytes go over their edges.
+  target_compile_definitions(a2l2json_sanitizers INTERFACE A2L2JSON_SMALL_BUFFERS)
 endif()
 
 # ---------------------------------------------------------------------------------------------

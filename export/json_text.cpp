@@ -14,9 +14,6 @@ namespace {
 constexpr std::size_t kMostNumberBytes = 32;
 constexpr std::size_t kMostEscapeBytes = 6;
 
-// Texts are escaped in pieces that surely fit the buffer.
-constexpr std::size_t kPieceSize = 1024;
-
 // The escapes of one byte; a letter stands for a backslash and that letter.
 constexpr char kPlain = 0;
 constexpr char kCode = 1;           // \u and four digits
@@ -124,6 +121,7 @@ void JsonText::String(std::string_view text) {
 }
 
 void JsonText::PutEscaped(std::string_view text) {
+  static_assert(kPieceSize * kMostEscapeBytes <= kBufferSize);
   Reserve(text.size() * kMostEscapeBytes);
   char* out = buffer_.get() + used_;
   for (std::size_t i = 0; i < text.size(); ++i) {

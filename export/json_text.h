@@ -45,7 +45,13 @@ class JsonText {
   void Flush();
 
  private:
+#ifdef A2L2JSON_SMALL_BUFFERS
+  static constexpr std::size_t kBufferSize = 1024;
+#else
   static constexpr std::size_t kBufferSize = std::size_t{64} * 1024;
+#endif
+  // Texts are escaped in pieces that surely fit the buffer.
+  static constexpr std::size_t kPieceSize = kBufferSize / 64;
   static constexpr std::string_view kSeparator = ", ";
 
   void Open(char bracket) {

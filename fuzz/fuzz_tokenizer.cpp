@@ -119,6 +119,6 @@ void CheckTokenizer(std::string_view bytes) {
 }  // namespace a2l::fuzz
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  a2l::fuzz::CheckTokenizer(a2l::fuzz::Input(data, size, 4096));
+  a2l::fuzz::CheckTokenizer(a2l::fuzz::Input(data, size, 1024));
   return 0;
 }

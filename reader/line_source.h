@@ -16,7 +16,11 @@ namespace a2l {
 /// longer than a piece makes the buffer grow.
 class LineSource {
  public:
+#ifdef A2L2JSON_SMALL_BUFFERS
+  static constexpr std::size_t kPieceSize = 16;
+#else
   static constexpr std::size_t kPieceSize = std::size_t{256} * 1024;
+#endif
 
   /// `in` stays the caller's and must outlive this object.
   explicit LineSource(std::istream& in, std::size_t pieceSize = kPieceSize)
