@@ -31,8 +31,16 @@ void Enter(std::vector<DocumentObject>& objects, const Form& form, ElementKind k
   if (std::ranges::find(object->kinds, kind) == object->kinds.end()) object->kinds.push_back(kind);
 }
 
+// The parts, one behind the other.
+template <class... Part>
+std::string Text(const Part&... parts) {
+  std::string text;
+  (text.append(std::string_view(parts)), ...);
+  return text;
+}
+
 std::string Quoted(std::string_view text) {
-  return '"' + std::string(text) + '"';  // nothing in the tables needs an escape
+  return Text("\"", text, "\"");  // nothing in the tables needs an escape
 }
 
 // Items joined by ", ", with a line feed and `indent` blanks where a line would get too long.
@@ -68,19 +76,20 @@ class ValueSchema {
   std::string operator()(TextForm /*form*/) const { return Type("string"); }
   std::string operator()(BuiltTextForm /*form*/) const { return Type("string"); }
   std::string operator()(AddressForm /*form*/) const {
-    return Type("string") + R"(, "pattern": "^0x(0|[1-9A-F][0-9A-F]{0,7})$")";
+    return Text(Type("string"), R"(, "pattern": "^0x(0|[1-9A-F][0-9A-F]{0,7})$")");
   }
   std::string operator()(BoolForm /*form*/) const { return Type("boolean"); }
-  std::string operator()(IntegerForm /*form*/) const { return Type("integer") + kBounds; }
+  std::string operator()(IntegerForm /*form*/) const { return Text(Type("integer"), kBounds); }
   // Infinities and NaN are null.
   std::string operator()(RealForm /*form*/) const { return R"("type": ["number", "null"])"; }
 
   std::string operator()(WordForm form) const {
     std::string words;
-    for (const Word& word : form.words->words) words += Quoted(word.text) + ", ";
+    for (const Word& word : form.words->words) words += Text(Quoted(word.text), ", ");
     if (form.words->ToText(form.words->fallback).empty()) words += R"("", )";
     if (orNull_) words += "null, ";
-    return R"("enum": [)" + words.substr(0, words.size() - 2) + "]";
+    words.resize(words.size() - 2);
+    return Text(R"("enum": [)", words, "]");
   }
 
   std::string operator()(TextArrayForm /*form*/) const { return Array(R"("type": "string")"); }
@@ -88,28 +97,30 @@ class ValueSchema {
     return Array(R"("type": ["number", "null"])");
   }
   std::string operator()(IntegerArrayForm /*form*/) const {
-    return Array(R"("type": "integer")" + std::string(kBounds));
+    return Array(Text(R"("type": "integer")", kBounds));
   }
   std::string operator()(NamedValuesForm /*form*/) const {
-    return Type("object") +
-           R"(, "propertyNames": {"pattern": "^F"}, "additionalProperties": {"type": "string"})";
+    return Text(
+        Type("object"),
+        R"(, "propertyNames": {"pattern": "^F"}, "additionalProperties": {"type": "string"})");
   }
 
   std::string operator()(ObjectForm table) const {
-    const std::string reference = R"("$ref": "#/$defs/)" + ObjectName(objects_, *table) + '"';
-    return orNull_ ? R"("anyOf": [{)" + reference + R"(}, {"type": "null"}])" : reference;
+    const std::string reference = Text(R"("$ref": "#/$defs/)", ObjectName(objects_, *table), "\"");
+    return orNull_ ? Text(R"("anyOf": [{)", reference, R"(}, {"type": "null"}])") : reference;
   }
 
-  [[nodiscard]] std::string Array(const std::string& items) const {
-    return Type("array") + R"(, "items": {)" + items + "}";
+  [[nodiscard]] std::string Array(std::string_view items) const {
+    return Text(Type("array"), R"(, "items": {)", items, "}");
   }
 
  private:
   // Whole numbers are signed and of 32 bits.
-  static constexpr const char* kBounds = R"(, "minimum": -2147483648, "maximum": 2147483647)";
+  static constexpr std::string_view kBounds = R"(, "minimum": -2147483648, "maximum": 2147483647)";
 
   [[nodiscard]] std::string Type(std::string_view type) const {
-    return R"("type": )" + (orNull_ ? "[" + Quoted(type) + R"(, "null"])" : Quoted(type));
+    const std::string quoted = Quoted(type);
+    return orNull_ ? Text(R"("type": [)", quoted, R"(, "null"])") : Text(R"("type": )", quoted);
   }
 
   const std::vector<DocumentObject>& objects_;
@@ -130,8 +141,8 @@ std::string SchemaOf(const std::vector<DocumentObject>& objects, const Row& row)
       return ValueSchema(objects, orNull).Array(SchemaOf(objects, row.form, false));
     case Source::FirstChild:
       if (row.otherKind != KIND_ROOT) {
-        return R"("anyOf": [{)" + SchemaOf(objects, row.form, orNull) + "}, {" +
-               SchemaOf(objects, row.otherForm, false) + "}]";
+        return Text(R"("anyOf": [{)", SchemaOf(objects, row.form, orNull), "}, {",
+                    SchemaOf(objects, row.otherForm, false), "}]");
       }
       break;
     case Source::Element:
@@ -146,18 +157,18 @@ std::string SchemaOf(const std::vector<DocumentObject>& objects, const DocumentO
   std::string properties;
   for (const Row& row : object.table->rows) {
     if (row.absent != Absent::Omit) required.push_back(Quoted(row.key));
-    properties += "        " + Quoted(row.key) + ": {" + SchemaOf(objects, row) + "},\n";
+    properties += Text("        ", Quoted(row.key), ": {", SchemaOf(objects, row), "},\n");
   }
   properties.erase(properties.size() - 2, 1);
-  std::string text = "    " + Quoted(object.Name()) +
-                     ": {\n"
-                     "      \"type\": \"object\",\n"
-                     "      \"additionalProperties\": false,\n";
+  std::string text = Text("    ", Quoted(object.Name()),
+                          ": {\n"
+                          "      \"type\": \"object\",\n"
+                          "      \"additionalProperties\": false,\n");
   if (!required.empty()) {
     const std::string_view start = R"(      "required": [)";
-    text.append(start).append(Joined(required, start.size(), start.size())).append("],\n");
+    text += Text(start, Joined(required, start.size(), start.size()), "],\n");
   }
-  return text + "      \"properties\": {\n" + properties + "      }\n    }";
+  return Text(text, "      \"properties\": {\n", properties, "      }\n    }");
 }
 
 }  // namespace
@@ -198,9 +209,9 @@ std::string JsonSchema() {
   "$ref": "#/$defs/document",
   "$defs": {
 )";
-  for (const auto& [name, schema] : definitions) text += schema + ",\n";
+  for (const auto& [name, schema] : definitions) text += Text(schema, ",\n");
   text.erase(text.size() - 2, 1);
-  return text + "  }\n}\n";
+  return Text(text, "  }\n}\n");
 }
 
 }  // namespace a2l
