@@ -9,7 +9,8 @@
 
 namespace a2l {
 
-/// Writes the JSON document of a tree to a file.
+/// Writes the JSON document of a tree to a file. A writer is used in one thread at a time; the tree
+/// is not changed, here or by the functions below, so that several threads may export one tree.
 class JsonWriter {
  public:
   /// Writes the document of the tree below `root` to the file at `path`, replacing what is
@@ -21,10 +22,12 @@ class JsonWriter {
   std::ofstream out_;
 };
 
-/// The JSON document of the tree below `root`.
+/// The JSON document of the tree below `root`: one line without a line feed. Memory that runs out
+/// gives std::bad_alloc; nothing else can go wrong.
 [[nodiscard]] std::string ToJson(const VoA2LElement& root);
 
-/// The same into any stream, piece by piece.
+/// The same into any stream, piece by piece, so that it is never in memory as a whole. Whether all
+/// of it was taken, the stream tells: see its good().
 void WriteJson(const VoA2LElement& root, std::ostream& out);
 
 }  // namespace a2l

@@ -27,7 +27,9 @@ inline constexpr std::uint32_t kOpenParameterList = 65535;
 /// A parent owns its children, and the root the whole tree; the memory itself lies in the
 /// tree's store. Elements hold no other resource. NewTree makes a root in a store; an element that
 /// was made without one (a plain root on the stack, say) gets its own when it first needs it.
-/// Either way, DestroyTree ends the tree.
+/// Either way, DestroyTree ends the tree; Tree (model/tree.h) does it by itself.
+///
+/// Elements are used in one thread at a time; several may look at one that no thread changes.
 class VoA2LElement {
  public:
   ElementKind kind = KIND_ROOT;
@@ -70,7 +72,7 @@ class VoA2LElement {
   /// Writes this element and everything below it as A2L text, `level` times two blanks in front
   /// of each line. False, and nothing written, when `out` cannot take text (a file that is not
   /// open); true otherwise. The version line of a tree comes first: a root moves its
-  /// ASAP2_VERSION to the front of its children.
+  /// ASAP2_VERSION to the front of its children, which is a change of the tree.
   virtual bool Write(int level, std::ostream& out);
 
   /// Number of tokens that ParseMoreParameters needs; in the base 0 where there is a second run

@@ -1,10 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "reader/a2l_reader.h"
 
+#include <streambuf>
+
 #include "reader/block_parser.h"
 #include "reader/line_source.h"
 
 namespace a2l {
+namespace {
+
+/// A stream of bytes that are in memory already.
+class TextBuffer : public std::streambuf {
+ public:
+  explicit TextBuffer(std::string_view text) {
+    char* const begin = const_cast<char*>(text.data());  // only to be read
+    setg(begin, begin, begin + text.size());
+  }
+};
+
+}  // namespace
 
 bool A2LReader::Parse(const std::string& path, VoA2LElement* root) {
   if (root == nullptr) return false;
@@ -20,6 +34,12 @@ bool A2LReader::Parse(std::istream& in, VoA2LElement* root) {
   LineSource lines(in);
   BlockParser parser(lines, *root, [this](const Diagnostic& diagnostic) { Report(diagnostic); });
   return parser.Run();
+}
+
+bool A2LReader::ParseText(std::string_view text, VoA2LElement* root) {
+  TextBuffer buffer(text);
+  std::istream in(&buffer);
+  return Parse(in, root);
 }
 
 void A2LReader::Report(const Diagnostic& diagnostic) {

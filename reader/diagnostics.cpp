@@ -48,14 +48,18 @@ const Row& RowOf(DiagnosticKind kind) { return kRows[static_cast<std::size_t>(ki
 
 Severity Diagnostic::GetSeverity() const { return RowOf(kind).severity; }
 
+std::string Diagnostic::What() const {
+  std::string what(RowOf(kind).text);
+  what += subject;
+  return what;
+}
+
 std::string Diagnostic::Text() const {
-  const Row& row = RowOf(kind);
-  std::string text(row.prefix);
+  std::string text(RowOf(kind).prefix);
   text += ": Line(";
   text += std::to_string(line);
   text += ") ";
-  text += row.text;
-  text += subject;
+  text += What();
   text += '\n';
   return text;
 }

@@ -37,6 +37,8 @@ struct Diagnostic {
   std::string subject;
 
   [[nodiscard]] Severity GetSeverity() const;
+  /// The message without severity and line, as in "unexpected element COLOUR".
+  [[nodiscard]] std::string What() const;
   /// The message, with its line feed, as users know it.
   [[nodiscard]] std::string Text() const;
 };

@@ -2,11 +2,14 @@
 #include "reader/a2l_reader.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <filesystem>
 #include <istream>
 #include <ostream>
 #include <sstream>
 #include <string>
 #include <string_view>
+#include <thread>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -17,9 +20,13 @@
 #include "tests/support/files.h"
 #include "tests/support/streams.h"
 #include "tests/support/trees.h"
+#include "tests/torture/meters.h"
 
 namespace a2l::test {
 namespace {
+
+const std::filesystem::path kExamples =
+    std::filesystem::path(A2L2JSON_CASES).parent_path().parent_path() / "examples";
 
 constexpr std::string_view kSmallFile =
     "ASAP2_VERSION 1 71\n"
@@ -83,6 +90,69 @@ TEST(A2LReader, ReadsAFileAsItReadsAStream) {
   EXPECT_EQ(reading.reader.message, reader.message);
   EXPECT_EQ(Written(*reading.root), Written(*root));
   EXPECT_EQ(root->ChildCount(), 2U);
+}
+
+TEST(A2LReader, ReadsATextInMemoryAsItReadsAFile) {
+  const Tree root;
+  A2LReader reader;
+  {
+    const std::string text(kSmallFile);
+    EXPECT_TRUE(reader.ParseText(text, root.get()));
+  }
+  EXPECT_EQ(reader.message, "Warning: Line(3) unexpected element WORD\n");
+  EXPECT_EQ(Written(*root), Written(*Read(kSmallFile).root)) << "the text need not stay";
+
+  EXPECT_FALSE(reader.ParseText("/end PROJECT", root.get()));
+  EXPECT_FALSE(reader.ParseText(kSmallFile, nullptr));
+  EXPECT_TRUE(reader.ParseText({}, Tree().get()));
+  EXPECT_TRUE(reader.ParseText(std::string_view("/begin PROJECT P \"\0\"", 21), Tree().get()));
+}
+
+// A large text is not copied as a whole, only what the tree keeps of it.
+TEST(A2LReader, TakesLittleMemoryForATextInMemory) {
+  const std::string text(std::size_t{16} * 1024 * 1024, '\n');
+  const Tree root;
+  A2LReader reader;
+  const auto bytes = AllocatedBytes([&] { EXPECT_TRUE(reader.ParseText(text, root.get())); });
+  if (!bytes.has_value()) GTEST_SKIP() << "allocations cannot be counted here";
+  EXPECT_LT(*bytes, std::uint64_t{1024} * 1024);
+}
+
+// Readers and trees share nothing.
+TEST(A2LReader, ReadsInSeveralThreadsAtATime) {
+  const std::string text = ReadFile(kExamples / "demo.a2l");
+  const std::string expected = ReadFile(kExamples / "demo.json");
+  std::vector<std::string> documents(4);
+  {
+    std::vector<std::jthread> threads;
+    for (std::string& document : documents) {
+      threads.emplace_back([&] {
+        for (int i = 0; i < 20; ++i) {
+          const Tree tree;
+          A2LReader reader;
+          if (reader.ParseText(text, tree.get())) document = ToJson(*tree);
+        }
+      });
+    }
+  }
+  for (const std::string& document : documents) EXPECT_EQ(document, expected);
+}
+
+// A tree that is only looked at may be looked at by several threads.
+TEST(A2LReader, GivesATreeThatThreadsMayShare) {
+  const Tree tree;
+  A2LReader reader;
+  ASSERT_TRUE(reader.Parse((kExamples / "demo.a2l").string(), tree.get()));
+  const VoA2LElement& root = *tree;
+  const std::string expected = ReadFile(kExamples / "demo.json");
+  std::vector<std::string> documents(4);
+  {
+    std::vector<std::jthread> threads;
+    for (std::string& document : documents) {
+      threads.emplace_back([&] { document = ToJson(root); });
+    }
+  }
+  for (const std::string& document : documents) EXPECT_EQ(document, expected);
 }
 
 // What was wrong with one file does not stand in the way of the next.

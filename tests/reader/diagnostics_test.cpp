@@ -51,6 +51,16 @@ TEST(Diagnostic, HasAFixedTextAndSeverity) {
   }
 }
 
+// For those who write severity and line in a form of their own.
+TEST(Diagnostic, SaysWhatWithoutSeverityAndLine) {
+  for (const Row& row : kRows) {
+    const Diagnostic diagnostic{row.kind, 7, std::string(row.subject)};
+    std::string what(row.text.substr(row.text.find(") ") + 2));
+    what.pop_back();  // the line feed
+    EXPECT_EQ(diagnostic.What(), what);
+  }
+}
+
 TEST(Diagnostic, MayHaveAnEmptySubject) {
   EXPECT_EQ((Diagnostic{DiagnosticKind::EndDoesNotMatch, 1, ""}.Text()),
             "Error: Line(1) /end don't equal /begin \n");

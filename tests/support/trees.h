@@ -3,21 +3,13 @@
 // Trees, for tests.
 #pragma once
 
-#include <memory>
 #include <string>
 #include <string_view>
 
-#include "model/element.h"
+#include "model/tree.h"
 #include "reader/a2l_reader.h"
 
 namespace a2l::test {
-
-struct TreeDeleter {
-  void operator()(VoA2LElement* root) const { DestroyTree(root); }
-};
-
-/// A tree that is destroyed with its owner.
-using Tree = std::unique_ptr<VoA2LElement, TreeDeleter>;
 
 /// What the reader made of a text.
 struct Reading {

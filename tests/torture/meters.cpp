@@ -30,7 +30,7 @@
 
 namespace {
 
-std::uint64_t allocated = 0;  // the tests have one thread
+thread_local std::uint64_t allocated = 0;
 
 }  // namespace
 
