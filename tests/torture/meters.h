@@ -11,7 +11,8 @@
 
 namespace a2l::test {
 
-/// Bytes that `work` takes from operator new in this thread, freed or not; nothing where they cannot be counted.
+/// Bytes that `work` takes from operator new in this thread, freed or not; nothing where they
+/// cannot be counted.
 std::optional<std::uint64_t> AllocatedBytes(const std::function<void()>& work);
 
 /// Instructions that `work` executes; nothing where the system does not count them for us.
