@@ -3,7 +3,8 @@
 # Everything this build takes from outside stands in this one file:
 #
 #   {fmt}                 number and text formatting     always
-#   json11::json11        the second JSON writer, tests  where it is installed; for tests,
+#   json11::json11        the document as a json11       where it is installed; with
+#                         value, tests                   A2L2JSON_JSON11 and for tests,
 #                                                        benchmarks and fuzz targets always
 #   GTest::gtest_main     unit tests                     with A2L2JSON_BUILD_TESTS
 #   benchmark::benchmark  benchmarks                     with A2L2JSON_BUILD_BENCH
@@ -170,10 +171,14 @@ function(a2l2json_take_json11)
 endfunction()
 
 a2l2json_find_installed_json11()
-if(TARGET json11::json11)
-  set(A2L2JSON_JSON11_INSTALLED TRUE)
-elseif(A2L2JSON_BUILD_TESTS OR A2L2JSON_BUILD_BENCH OR A2L2JSON_BUILD_FUZZ OR A2L2JSON_FUZZ)
-  a2l2json_take_json11()
-else()
-  message(STATUS "json11: not installed, and nothing needs it; the library goes without")
+if(NOT TARGET json11::json11)
+  if(A2L2JSON_JSON11
+     OR A2L2JSON_BUILD_TESTS
+     OR A2L2JSON_BUILD_BENCH
+     OR A2L2JSON_BUILD_FUZZ
+     OR A2L2JSON_FUZZ)
+    a2l2json_take_json11()
+  else()
+    message(STATUS "json11: not installed, and nothing needs it; the library goes without")
+  endif()
 endif()

@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
 #
 # The library as other projects link it, a2l2json::a2l2json, and what `cmake --install` installs:
-# the program with its manual page, shell completions and documentation and, with
-# A2L2JSON_LIBRARY, the library with its headers, CMake package and pkg-config file.
+# the program with its manual page, shell completions, documentation and the JSON Schema of its
+# documents and, with A2L2JSON_LIBRARY, the library with its headers, CMake package and pkg-config file.
 #
 # The components are there for the packages (packaging/packages.cmake); `debian` and `static` hold
 # what a plain installation has in another form.
@@ -38,9 +38,8 @@ if(A2L2JSON_SHARED_FMT)
   target_link_libraries(a2l2json_library PRIVATE fmt::fmt)
 endif()
 
-# Only with a json11 of the system: one that was built here would have to be installed as well. The
-# installed CMake package looks for json11 anew and links it then.
-if(A2L2JSON_JSON11_INSTALLED)
+# json11 itself is not part of it: the installed CMake package looks for it anew and links it then.
+if(TARGET a2l2json_export_json11)
   a2l2json_archive(a2l2json_json11 a2l2json-json11 a2l2json_export_json11)
   add_library(a2l2json::json11 ALIAS a2l2json_json11)
   set_target_properties(a2l2json_json11 PROPERTIES EXPORT_NAME json11)
@@ -71,8 +70,17 @@ install(
   DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d"
   COMPONENT shared)
 install(
+  FILES "${PROJECT_SOURCE_DIR}/docs/json.schema.json"
+  DESTINATION "${CMAKE_INSTALL_DATADIR}/a2l2json"
+  COMPONENT shared)
+install(
   FILES "${PROJECT_SOURCE_DIR}/README.md"
   DESTINATION "${CMAKE_INSTALL_DOCDIR}"
+  COMPONENT shared)
+install(
+  FILES "${PROJECT_SOURCE_DIR}/docs/json.md" "${PROJECT_SOURCE_DIR}/docs/reading-a2l.md"
+        "${PROJECT_SOURCE_DIR}/docs/recipes.md"
+  DESTINATION "${CMAKE_INSTALL_DOCDIR}/docs"
   COMPONENT shared)
 install(
   DIRECTORY "${PROJECT_SOURCE_DIR}/examples"
@@ -129,7 +137,7 @@ if(A2L2JSON_LIBRARY)
     NAMESPACE a2l2json::
     DESTINATION "${package}"
     COMPONENT library)
-  if(A2L2JSON_JSON11_INSTALLED)
+  if(TARGET a2l2json_json11)
     install(
       FILES "${PROJECT_SOURCE_DIR}/export/json11_document.h"
       DESTINATION "${headers}/export"

@@ -4,8 +4,11 @@
 # package that the build installs, which carries a copy of this file.
 
 # Gives the target json11::json11 when json11 is installed, as a CMake package or as a pkg-config
-# module, and nothing otherwise.
+# module, and nothing otherwise. A target of that name that is there already is left alone.
 function(a2l2json_find_installed_json11)
+  if(TARGET json11::json11)
+    return()
+  endif()
   find_package(json11 CONFIG QUIET GLOBAL)
   if(NOT TARGET json11::json11 AND TARGET json11)
     add_library(json11::json11 ALIAS json11)

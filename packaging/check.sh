@@ -4,14 +4,16 @@
 # usage: packaging/check.sh
 #
 # Builds the packages and tries them as a user would: the Debian package in a clean system, the
-# statically linked program in an empty one, and examples/consumer against the installed library,
-# with CMake and with pkg-config. Stops at the first thing that is not as it should be.
+# statically linked program in an empty one, and programs against the installed library, among them
+# examples/consumer, with CMake and with pkg-config. Stops at the first thing that is not as it
+# should be.
 #
 # As root, the clean system is made by debootstrap from the package sources of this machine. Where
 # that cannot be done, it is the unpacked package with the shared libraries of this machine. What
 # is left of it all lies in build/package-check.
 
 set -euo pipefail
+shopt -s globstar nullglob
 
 cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
 work=$PWD/build/package-check
@@ -46,7 +48,7 @@ try_program() {
 try_consumer() {
   "$1" "$demo" >"$work/consumer.json" 2>"$work/consumer.txt"
   cmp "$work/consumer.json" "$expected"
-  grep -q '^EngineSpeed 0x' "$work/consumer.txt" || die "the consumer lists no measurement"
+  grep -q '^EngineSpeed at ' "$work/consumer.txt" || die "the consumer lists no measurement"
 }
 
 # The only file that the pattern names.
@@ -89,7 +91,7 @@ unpack_with_libraries() {
 # ---------------------------------------------------------------------------------------------
 
 make deps-packages
-rm -rf --one-file-system "$root" "$work/static" "$work/empty" "$work/consumer"
+rm -rf --one-file-system "$root" "$work"/{static,empty,installed,consumer,check}
 mkdir -p "$work"
 clean_system &
 system=$!
@@ -127,17 +129,41 @@ g++ -std=c++20 examples/consumer/main.cpp "${flags[@]}" -o "$work/consumer/with-
 try_consumer "$work/consumer/with-pkg-config"
 say 'examples/consumer works with pkg-config'
 
-# Every header, and the version that the library tells.
-{
-  find "$root/usr/include/a2l2json" -name '*.h' -printf '#include "%P"\n'
-  printf '%s\n' '#include <iostream>' 'int main() { std::cout << a2l::Version(); }'
-} >"$work/consumer/headers.cpp"
-g++ -std=c++20 -Wall -Wextra -Werror "$work/consumer/headers.cpp" "${flags[@]}" \
-  -o "$work/consumer/headers"
-version=$("$work/consumer/headers")
+cmake -S packaging/check -B "$work/check" -DCMAKE_PREFIX_PATH="$root/usr" \
+  -DJSON11="$PWD/.deps/json11" >"$work/check.log"
+cmake --build "$work/check" >>"$work/check.log"
+version=$("$work/check/check" examples/small.a2l examples/small.json) || die 'the library does not do as it should'
+say 'the library reads, writes and converts bytes in memory, also to a json11 value'
+
+# Every header on its own.
+find "$root/usr/include/a2l2json" -name '*.h' -printf '%P\n' | grep -v json11 |
+  while read -r header; do
+    printf '#include "%s"\n' "$header" |
+      g++ -std=c++20 -Wall -Wextra -Werror -fsyntax-only "${flags[@]}" -x c++ - ||
+      die "$header does not compile by itself"
+  done
+say 'each of the installed headers compiles by itself'
+
+# One version everywhere.
 [[ $(dpkg-deb --field "$deb" Version) == "$version" && $archive == *-"$version"-* &&
-  $(pkg-config --modversion a2l2json) == "$version" ]] || die "the versions differ from $version"
-say "all installed headers compile, and everything has the version $version"
+  $(pkg-config --modversion a2l2json) == "$version" &&
+  $(zcat "$root/usr/share/man/man1/a2l2json.1.gz") == *"a2l2json $version"* ]] ||
+  die "the versions differ from $version"
+say "everything has the version $version"
+
+# What programs look for by its name, in the package and where `cmake --install` puts it.
+cmake --install build/package --prefix "$work/installed" >"$work/installed.log"
+for prefix in "$root/usr" "$work/installed"; do
+  for file in bin/a2l2json share/a2l2json/json.schema.json 'share/man/man1/a2l2json.1*' \
+    share/bash-completion/completions/a2l2json 'share/zsh/*/_a2l2json' \
+    share/fish/vendor_completions.d/a2l2json.fish include/a2l2json/reader/a2l_reader.h \
+    'lib*/**/liba2l2json.a' 'lib*/**/cmake/a2l2json/a2l2json-config.cmake' \
+    'lib*/**/pkgconfig/a2l2json.pc'; do
+    compgen -G "$prefix/$file" >/dev/null || die "there is no $prefix/$file"
+  done
+done
+cmp "$(pkg-config --variable=schema a2l2json)" docs/json.schema.json
+say 'program, library, manual page, completions and schema are where they are looked for'
 
 # Intermediate code would tie the library to one compiler.
 if readelf --section-headers --wide "${pc%/*/*}/liba2l2json.a" | grep -q '\.gnu\.lto_'; then

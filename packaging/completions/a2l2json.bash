@@ -3,7 +3,7 @@
 
 _a2l2json() {
   local word=${COMP_WORDS[COMP_CWORD]} IFS=$'\n'
-  compopt -o filenames
+  compopt -o filenames 2>/dev/null
   case $COMP_CWORD in
     1) COMPREPLY=($(compgen -d -- "$word"; compgen -f -X '!*.[aA]2[lL]' -- "$word")) ;;
     2) COMPREPLY=($(compgen -f -- "$word")) ;;
