@@ -11,12 +11,17 @@
 #include <sstream>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "export/json_schema.h"
 #include "reader/diagnostics.h"
+#include "reader/element_factory.h"
 #include "tests/support/files.h"
+#include "tests/support/kinds.h"
+#include "tests/support/trees.h"
 
 namespace a2l::test {
 namespace {
@@ -242,6 +247,106 @@ TEST(JsonPage, ExamplesAreThoseOfTheirCases) {
     ++count;
   }
   EXPECT_GT(count, 20U);
+}
+
+// The lines of a section, without its heading.
+std::string Section(const Page& page, const std::string& heading) {
+  const std::size_t begin = page.text.find("\n### " + heading + "\n");
+  EXPECT_NE(begin, std::string::npos) << heading;
+  return page.text.substr(begin + 1, page.text.find("\n### ", begin + 1) - begin);
+}
+
+// What stands in backquotes.
+std::set<std::string> CodeIn(const std::string& text) {
+  const std::vector<std::string> found = Matches(text, std::regex("`([^`\n]+)`"));
+  return {found.begin(), found.end()};
+}
+
+// Found by their own means, not by a row for their kind.
+bool IsShownOtherwise(ElementKind parent, ElementKind child) {
+  return (parent == ElementKind::MOD_PAR && child == ElementKind::ADDR_EPK) ||
+         (parent == ElementKind::USER_RIGHTS && child == ElementKind::REF_GROUP) ||
+         (parent == ElementKind::VAR_CHARACTERISTIC && child == ElementKind::VAR_ADDRESS);
+}
+
+TEST(JsonPage, NamesWhatIsReadButNotShown) {
+  const std::set<std::string> named =
+      CodeIn(Section(Page(kDocs / "json.md"), "Read, but not shown"));
+  for (const DocumentObject& object : DocumentObjects()) {
+    for (const ElementKind kind : object.kinds) {
+      for (const ElementKind childKind : KindsWithAClass()) {
+        const Tree tree;
+        VoA2LElement* element = CreateElement(kind, *tree);
+        VoA2LElement* child = CreateElement(childKind, *element);
+        const bool isShown = object.table->rowOfKind[KindIndex(childKind)] != 0 ||
+                             kBaseChildren.Contains(childKind) || IsShownOtherwise(kind, childKind);
+        if (isShown || !element->AddChild(child)) continue;
+        EXPECT_TRUE(named.contains(Shown(kind)) && named.contains(Shown(childKind)))
+            << Shown(childKind) << " in " << Shown(kind);
+      }
+    }
+  }
+}
+
+// The type that JSON has for the value of a row.
+std::string JsonType(const Form& form) {
+  struct Name {
+    std::string operator()(std::monostate /*nothing*/) const { return "null"; }
+    std::string operator()(TextForm /*form*/) const { return "string"; }
+    std::string operator()(BuiltTextForm /*form*/) const { return "string"; }
+    std::string operator()(AddressForm /*form*/) const { return "string"; }
+    std::string operator()(WordForm /*form*/) const { return "string"; }
+    std::string operator()(BoolForm /*form*/) const { return "boolean"; }
+    std::string operator()(IntegerForm /*form*/) const { return "integer"; }
+    std::string operator()(RealForm /*form*/) const { return "real"; }
+    std::string operator()(TextArrayForm /*form*/) const { return "array of strings"; }
+    std::string operator()(RealArrayForm /*form*/) const { return "array of reals"; }
+    std::string operator()(IntegerArrayForm /*form*/) const { return "array of integers"; }
+    std::string operator()(NamedValuesForm /*form*/) const { return "object"; }
+    std::string operator()(ObjectForm /*form*/) const { return "object"; }
+  };
+  return std::visit(Name{}, form);
+}
+std::string JsonType(const Row& row) {
+  switch (row.source) {
+    case Source::Presence:
+      return "boolean";
+    case Source::Children:
+    case Source::Grandchildren:
+      return "array of objects";
+    case Source::Element:
+    case Source::FirstChild:
+    case Source::Found:
+      break;
+  }
+  return JsonType(row.form) + (row.otherKind != KIND_ROOT ? " or another" : "");
+}
+
+TEST(JsonPage, NamesTheArraysThatMayBeNull) {
+  std::set<std::string> arrays;
+  for (const DocumentObject& object : DocumentObjects()) {
+    for (const Row& row : object.table->rows) {
+      const bool isNull = row.source != Source::Element && row.absent == Absent::Null;
+      if (isNull && JsonType(row).starts_with("array")) arrays.emplace(row.key);
+    }
+  }
+  std::set<std::string> named = CodeIn(Section(Page(kDocs / "json.md"), "Arrays that may be null"));
+  for (const char* other : {"[]", "FMATRIX_DIM"}) named.erase(other);
+  EXPECT_EQ(named, arrays);
+}
+
+TEST(JsonPage, NamesTheKeysWithTwoMeanings) {
+  std::map<std::string, std::set<std::string>> types;
+  for (const DocumentObject& object : DocumentObjects()) {
+    for (const Row& row : object.table->rows) {
+      if (JsonType(row) != "null") types[std::string(row.key)].insert(JsonType(row));
+    }
+  }
+  const std::set<std::string> named =
+      CodeIn(Section(Page(kDocs / "json.md"), "One key, two meanings"));
+  for (const auto& [key, ofKey] : types) {
+    EXPECT_TRUE(ofKey.size() == 1 || named.contains(key)) << key;
+  }
 }
 
 }  // namespace
