@@ -135,13 +135,22 @@ cmake --build "$work/check" >>"$work/check.log"
 version=$("$work/check/check" examples/small.a2l examples/small.json) || die 'the library does not do as it should'
 say 'the library reads, writes and converts bytes in memory, also to a json11 value'
 
+# What the README shows.
+{
+  printf '#include <iostream>\n'
+  sed -n '/^```cpp$/,/^```$/{/^```/d;p}' README.md | awk '/^a2l::/ && !n++ { print "int main() {" } 1'
+  printf '  return ok && json.size() > 100 ? 0 : 1;\n}\n'
+} >"$work/check/readme.cpp"
+g++ -std=c++20 "$work/check/readme.cpp" "${flags[@]}" -o "$work/check/readme"
+cp "$demo" "$work/check/engine.a2l"
+[[ $(cd "$work/check" && ./readme) == EngineSpeed* ]] || die 'the README shows something else'
+say 'so does what the README shows'
+
 # Every header on its own.
-find "$root/usr/include/a2l2json" -name '*.h' -printf '%P\n' | grep -v json11 |
-  while read -r header; do
-    printf '#include "%s"\n' "$header" |
-      g++ -std=c++20 -Wall -Wextra -Werror -fsyntax-only "${flags[@]}" -x c++ - ||
-      die "$header does not compile by itself"
-  done
+find "$root/usr/include/a2l2json" -name '*.h' ! -name 'json11*' -printf '%P\0' |
+  xargs -0 -P "${JOBS:-2}" -I{} \
+    g++ -std=c++20 -Wall -Wextra -Werror -fsyntax-only "${flags[@]}" -include {} -x c++ /dev/null ||
+  die 'a header does not compile by itself'
 say 'each of the installed headers compiles by itself'
 
 # One version everywhere.
@@ -162,6 +171,16 @@ for prefix in "$root/usr" "$work/installed"; do
     compgen -G "$prefix/$file" >/dev/null || die "there is no $prefix/$file"
   done
 done
+# completed <word>...: what bash proposes for the last of these words behind "a2l2json"
+completed() (
+  source "$root/usr/share/bash-completion/completions/a2l2json"
+  COMP_WORDS=(a2l2json "$@") COMP_CWORD=$#
+  _a2l2json
+  printf '%s\n' "${COMPREPLY[@]}" | sort | paste -sd ' '
+)
+[[ $(completed examples/) == 'examples/consumer examples/demo.a2l examples/small.a2l' &&
+  $(completed "$demo" examples/d) == 'examples/demo.a2l examples/demo.json' &&
+  $(completed "$demo" demo.json '') == '' ]] || die 'bash does not complete as it should'
 cmp "$(pkg-config --variable=schema a2l2json)" docs/json.schema.json
 say 'program, library, manual page, completions and schema are where they are looked for'
 
