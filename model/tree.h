@@ -44,17 +44,24 @@ class Tree {
   std::unique_ptr<VoA2LElement, Destroy> root_;
 };
 
-/// The element as one of `Class`; null where its kind belongs to another class.
+/// Whether the element is of `Class`: its kind tells.
+template <class Class>
+[[nodiscard]] bool Is(const VoA2LElement& element) {
+  if constexpr (std::is_same_v<Class, VoA2LElement>) {
+    return true;
+  } else {
+    return std::ranges::find(Class::kinds, element.kind) != Class::kinds.end();
+  }
+}
+
+/// The element as one of `Class`; null where it is of another one.
 template <class Class>
 [[nodiscard]] const Class* As(const VoA2LElement& element) {
-  if constexpr (!std::is_same_v<Class, VoA2LElement>) {
-    if (std::ranges::find(Class::kinds, element.kind) == Class::kinds.end()) return nullptr;
-  }
-  return static_cast<const Class*>(&element);
+  return Is<Class>(element) ? static_cast<const Class*>(&element) : nullptr;
 }
 template <class Class>
 [[nodiscard]] Class* As(VoA2LElement& element) {
-  return const_cast<Class*>(As<Class>(std::as_const(element)));
+  return Is<Class>(element) ? static_cast<Class*>(&element) : nullptr;
 }
 
 /// A range of elements of `Class`: of all elements that Steps::Next gives one after the other, null
@@ -83,6 +90,10 @@ class Walk {
     friend bool operator==(const Iterator& iterator, std::default_sentinel_t /*end*/) {
       return iterator.element_ == nullptr;
     }
+    // Follows from ==, which static analysis does not see everywhere.
+    friend bool operator!=(const Iterator& iterator, std::default_sentinel_t /*end*/) {
+      return iterator.element_ != nullptr;
+    }
 
    private:
     Steps steps_;
@@ -93,6 +104,11 @@ class Walk {
 
   [[nodiscard]] Iterator begin() const { return Iterator(Steps(*from_)); }
   [[nodiscard]] std::default_sentinel_t end() const { return {}; }
+  /// Null where there is none.
+  [[nodiscard]] Class* First() const {
+    const Iterator first = begin();
+    return first == end() ? nullptr : &*first;
+  }
 
  private:
   const VoA2LElement* from_;
@@ -152,13 +168,11 @@ template <class Class>
 /// The first child of `parent` that is of `Class`; null where there is none.
 template <class Class>
 [[nodiscard]] const Class* FirstChild(const VoA2LElement& parent) {
-  const auto children = ChildrenOf<Class>(parent);
-  const auto first = children.begin();
-  return first == children.end() ? nullptr : &*first;
+  return ChildrenOf<Class>(parent).First();
 }
 template <class Class>
 [[nodiscard]] Class* FirstChild(VoA2LElement& parent) {
-  return const_cast<Class*>(FirstChild<Class>(std::as_const(parent)));
+  return ChildrenOf<Class>(parent).First();
 }
 
 }  // namespace a2l

@@ -91,6 +91,8 @@ TEST(As, GivesAnElementAsItsClass) {
   EXPECT_EQ(As<VoA2LElementModule>(project), nullptr);
   EXPECT_EQ(As<VoA2LElementProject>(*reading.root), nullptr);
   EXPECT_EQ(As<VoA2LElement>(project), &project);
+  EXPECT_TRUE(Is<VoA2LElementProject>(project));
+  EXPECT_FALSE(Is<VoA2LElementModule>(project));
 
   static_assert(std::is_same_v<decltype(As<VoA2LElementProject>(project)), VoA2LElementProject*>);
   const VoA2LElement& constant = project;
@@ -198,6 +200,8 @@ TEST(Walks, AreRanges) {
   EXPECT_EQ(std::ranges::find_if(measurements, isB)->NAME, "b");
   EXPECT_EQ(std::ranges::count_if(measurements, isB), 1);
   EXPECT_EQ(std::ranges::count_if(measurements, isB), 1) << "a walk may be made again";
+  EXPECT_EQ(measurements.First()->NAME, "a");
+  EXPECT_EQ(Descendants<VoA2LElementUnit>(*reading.root).First(), nullptr);
 }
 
 }  // namespace
