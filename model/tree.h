@@ -46,7 +46,7 @@ class Tree {
 
 /// Whether the element is of `Class`: its kind tells.
 template <class Class>
-[[nodiscard]] bool Is(const VoA2LElement& element) {
+[[nodiscard]] bool HasClass(const VoA2LElement& element) {
   if constexpr (std::is_same_v<Class, VoA2LElement>) {
     return true;
   } else {
@@ -57,11 +57,11 @@ template <class Class>
 /// The element as one of `Class`; null where it is of another one.
 template <class Class>
 [[nodiscard]] const Class* As(const VoA2LElement& element) {
-  return Is<Class>(element) ? static_cast<const Class*>(&element) : nullptr;
+  return HasClass<Class>(element) ? static_cast<const Class*>(&element) : nullptr;
 }
 template <class Class>
 [[nodiscard]] Class* As(VoA2LElement& element) {
-  return Is<Class>(element) ? static_cast<Class*>(&element) : nullptr;
+  return HasClass<Class>(element) ? static_cast<Class*>(&element) : nullptr;
 }
 
 /// A range of elements of `Class`: of all elements that Steps::Next gives one after the other, null

@@ -91,8 +91,8 @@ TEST(As, GivesAnElementAsItsClass) {
   EXPECT_EQ(As<VoA2LElementModule>(project), nullptr);
   EXPECT_EQ(As<VoA2LElementProject>(*reading.root), nullptr);
   EXPECT_EQ(As<VoA2LElement>(project), &project);
-  EXPECT_TRUE(Is<VoA2LElementProject>(project));
-  EXPECT_FALSE(Is<VoA2LElementModule>(project));
+  EXPECT_TRUE(HasClass<VoA2LElementProject>(project));
+  EXPECT_FALSE(HasClass<VoA2LElementModule>(project));
 
   static_assert(std::is_same_v<decltype(As<VoA2LElementProject>(project)), VoA2LElementProject*>);
   const VoA2LElement& constant = project;
