@@ -5,6 +5,7 @@
 
 #include "export/exporter.h"
 #include "export/json_text.h"
+#include "model/file_path.h"
 
 namespace a2l {
 namespace {
@@ -19,7 +20,7 @@ void Write(const VoA2LElement& root, JsonText::Output output) {
 
 bool JsonWriter::Export(const std::string& path, const VoA2LElement* root) {
   if (root == nullptr || root->kind != KIND_ROOT) return false;
-  out_.open(path, std::ios::binary | std::ios::trunc);
+  out_.open(FilePath(path), std::ios::binary | std::ios::trunc);
   if (!out_.is_open()) return false;
   WriteJson(*root, out_);
   out_.close();

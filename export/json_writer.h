@@ -13,9 +13,9 @@ namespace a2l {
 /// is not changed, here or by the functions below, so that several threads may export one tree.
 class JsonWriter {
  public:
-  /// Writes the document of the tree below `root` to the file at `path`, replacing what is
-  /// there. False, with nothing written, when `root` is not the root of a tree, and when the
-  /// file cannot be opened. An error while writing is not reported.
+  /// Writes the document of the tree below `root` to the file at `path` (on Windows UTF-8),
+  /// replacing what is there. False, with nothing written, when `root` is not the root of a tree,
+  /// and when the file cannot be opened. An error while writing is not reported.
   bool Export(const std::string& path, const VoA2LElement* root);
 
  private:

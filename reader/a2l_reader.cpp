@@ -3,6 +3,7 @@
 
 #include <streambuf>
 
+#include "model/file_path.h"
 #include "reader/block_parser.h"
 #include "reader/line_source.h"
 
@@ -23,7 +24,7 @@ class TextBuffer : public std::streambuf {
 
 bool A2LReader::Parse(const std::string& path, VoA2LElement* root) {
   if (root == nullptr) return false;
-  in_.open(path, std::ios::binary);
+  in_.open(FilePath(path), std::ios::binary);
   if (!in_.is_open()) return false;
   const bool ok = Parse(in_, root);
   in_.close();

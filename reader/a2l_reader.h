@@ -23,10 +23,10 @@ namespace a2l {
 /// memory runs out.
 class A2LReader {
  public:
-  /// Reads the file at `path`; everything in it is attached below `root`, as a rule a new tree
-  /// (Tree, NewTree). True when the file was read to its end, with or without warnings. False, and
-  /// no message, when `root` is null or the file cannot be opened; false when it cannot be read to
-  /// its end or holds an error: the tree then has what was read before.
+  /// Reads the file at `path` (on Windows UTF-8); everything in it is attached below `root`, as a
+  /// rule a new tree (Tree, NewTree). True when the file was read to its end, with or without
+  /// warnings. False, and no message, when `root` is null or the file cannot be opened; false when
+  /// it cannot be read to its end or holds an error: the tree then has what was read before.
   bool Parse(const std::string& path, VoA2LElement* root);
 
   /// The same for text from any stream, which should be open in binary mode and, as every new
