@@ -17,6 +17,7 @@
 #include "export/json11_document.h"
 #include "export/json_writer.h"
 #include "tests/support/files.h"
+#include "tests/support/programs.h"
 #include "tests/support/trees.h"
 
 namespace a2l::test {
@@ -100,7 +101,7 @@ TEST_F(Corpus, IsConvertedAsItsTableSays) {
     ASSERT_TRUE(table.contains(file));
     const Expectation& expected = table.at(file);
     const fs::path json = folder / (file + ".json");
-    const RunResult run = RunProgram(Quoted(kCorpus / file) + " " + Quoted(json));
+    const RunResult run = RunProgram({kCorpus / file, json});
     EXPECT_EQ(run.exitCode, expected.exitCode);
     EXPECT_EQ(CountMessages(run.out), expected.messages) << run.out;
     EXPECT_EQ(run.err, "");

@@ -22,6 +22,7 @@
 #include "export/json11_document.h"
 #include "export/json_writer.h"
 #include "tests/support/files.h"
+#include "tests/support/programs.h"
 #include "tests/support/trees.h"
 
 namespace a2l::test {
@@ -71,7 +72,7 @@ TEST_P(Golden, ProgramGivesConsoleTextExitCodeAndDocument) {
   const Case& golden = GetParam();
   const TemporaryFolder folder;
   const fs::path json = folder / "out.json";
-  const RunResult run = RunProgram(Quoted(golden.path) + " " + Quoted(json));
+  const RunResult run = RunProgram({golden.path, json});
 
   EXPECT_EQ(run.err, "");
   ExpectFile(golden.With(".out"), run.out);

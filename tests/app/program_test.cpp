@@ -4,10 +4,12 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <gtest/gtest.h>
 
 #include "tests/support/files.h"
+#include "tests/support/programs.h"
 
 namespace a2l::test {
 namespace {
@@ -36,14 +38,12 @@ class Program : public testing::Test {
 
   void SetUp() override { WriteFile(a2l_, kInput); }
 
-  static RunResult Run(const std::string& arguments) {
+  static RunResult Run(const std::vector<fs::path>& arguments) {
     RunResult result = RunProgram(arguments);
     EXPECT_EQ(result.err, "") << "nothing is ever written to standard error";
     return result;
   }
-  static RunResult Convert(const fs::path& a2l, const fs::path& json) {
-    return Run(Quoted(a2l) + " " + Quoted(json));
-  }
+  static RunResult Convert(const fs::path& a2l, const fs::path& json) { return Run({a2l, json}); }
 };
 
 TEST_F(Program, ConvertsAFile) {
@@ -67,22 +67,22 @@ TEST_F(Program, ShowsWarningsBehindSuccess) {
 }
 
 TEST_F(Program, ShowsItsUsageForAnyOtherNumberOfArguments) {
-  for (const std::string& arguments : {std::string(), Quoted(a2l_), std::string("--help"),
-                                       Quoted(a2l_) + " " + Quoted(json_) + " " + Quoted(json_),
-                                       Quoted(a2l_) + " " + Quoted(json_) + " \"\""}) {
+  const std::vector<fs::path> rows[] = {
+      {}, {a2l_}, {"--help"}, {a2l_, json_, json_}, {a2l_, json_, ""}};
+  for (const std::vector<fs::path>& arguments : rows) {
+    SCOPED_TRACE(arguments.size());
     const RunResult run = Run(arguments);
-    EXPECT_EQ(run.exitCode, kUsage) << arguments;
-    EXPECT_EQ(run.out, "Failed: using " A2L2JSON_PROGRAM " [in]a2l_file [out]json_file\n")
-        << arguments;
-    EXPECT_FALSE(fs::exists(json_)) << arguments;
+    EXPECT_EQ(run.exitCode, kUsage);
+    EXPECT_EQ(run.out, "Failed: using " A2L2JSON_PROGRAM " [in]a2l_file [out]json_file\n");
+    EXPECT_FALSE(fs::exists(json_));
   }
   EXPECT_EQ(ReadFile(a2l_), kInput);
 }
 
 TEST_F(Program, FailsWithoutAReasonWhereTheInputCannotBeOpened) {
   WriteFile(json_, "old");
-  for (const fs::path& input :
-       {folder_ / "missing.a2l", folder_ / "missing/in.a2l", fs::path("--help"), fs::path()}) {
+  for (const fs::path& input : {folder_ / "missing.a2l", folder_ / "missing/in.a2l",
+                                folder_ / "*.a2l", fs::path("--help"), fs::path()}) {
     const RunResult run = Convert(input, json_);
     EXPECT_EQ(run.exitCode, kNotRead) << input;
     EXPECT_EQ(run.out, "Failed: \n") << input;

@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/files.h"
 
-#include <atomic>
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <random>
 
 #include <gtest/gtest.h>
 
-#ifndef _WIN32
-#include <sys/wait.h>
-#endif
+#include "model/file_path.h"
 
 namespace a2l::test {
 
@@ -35,26 +31,13 @@ TemporaryFolder::TemporaryFolder() {
   } while (!std::filesystem::create_directory(path_));
 }
 
+std::filesystem::path TemporaryFolder::operator/(std::string_view name) const {
+  return path_ / FilePath(name);
+}
+
 TemporaryFolder::~TemporaryFolder() {
   std::error_code ignored;
   std::filesystem::remove_all(path_, ignored);
-}
-
-std::string Quoted(const std::filesystem::path& path) { return "\"" + path.string() + "\""; }
-
-RunResult RunProgram(const std::string& arguments) {
-  const TemporaryFolder folder;
-  std::string command = Quoted(A2L2JSON_PROGRAM) + " " + arguments + " >" + Quoted(folder / "out") +
-                        " 2>" + Quoted(folder / "err");
-#ifdef _WIN32
-  command = "\"" + command + "\"";
-  const int exitCode = std::system(command.c_str());
-#else
-  // NOLINTNEXTLINE(concurrency-mt-unsafe): tests run one after the other
-  const int status = std::system(command.c_str());
-  const int exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-#endif
-  return {exitCode, ReadFile(folder / "out"), ReadFile(folder / "err")};
 }
 
 }  // namespace a2l::test

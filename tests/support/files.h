@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Files and programs, for tests.
+// Files, for tests.
 #pragma once
 
 #include <filesystem>
@@ -23,25 +23,11 @@ class TemporaryFolder {
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
   [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
-  [[nodiscard]] std::filesystem::path operator/(std::string_view name) const {
-    return path_ / name;
-  }
+  /// Something in the folder; the name is UTF-8 (see FilePath).
+  [[nodiscard]] std::filesystem::path operator/(std::string_view name) const;
 
  private:
   std::filesystem::path path_;
 };
-
-/// What a run of the program left behind.
-struct RunResult {
-  int exitCode;  ///< as the system reports it: -1 is 255
-  std::string out;
-  std::string err;
-};
-
-/// Runs the built program with `arguments`, a shell text.
-RunResult RunProgram(const std::string& arguments);
-
-/// `path` in quotes for the shell.
-std::string Quoted(const std::filesystem::path& path);
 
 }  // namespace a2l::test

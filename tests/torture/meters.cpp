@@ -8,6 +8,7 @@
 #include <string>
 
 #include "tests/support/files.h"
+#include "tests/support/programs.h"
 
 #ifdef __linux__
 #include <linux/perf_event.h>
@@ -117,11 +118,10 @@ std::optional<std::uint64_t> ExecutedInstructions(const std::function<void()>& /
 std::optional<std::uint64_t> InstructionsOfTheProgram(const std::filesystem::path& a2l) {
   const TemporaryFolder folder;
   const std::filesystem::path counts = folder / "counts";
-  const std::string command = "valgrind --tool=callgrind --callgrind-out-file=" + Quoted(counts) +
-                              " " + Quoted(A2L2JSON_PROGRAM) + " " + Quoted(a2l) + " " +
-                              Quoted(folder / "json") + " >" + Quoted(folder / "log") + " 2>&1";
-  // The exit code is that of the conversion, which may fail. NOLINTNEXTLINE(concurrency-mt-unsafe)
-  (void)std::system(command.c_str());
+  std::filesystem::path option = "--callgrind-out-file=";
+  option += counts;
+  // The exit code is that of the conversion, which may fail.
+  (void)RunProgram({a2l, folder / "json"}, {"valgrind", "--tool=callgrind", option});
   std::ifstream in(counts);
   for (std::string word; in >> word;) {
     std::uint64_t count = 0;

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support/programs.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/files.h"
+
+#ifdef _WIN32
+#include <windows.h>
+#else
+#include <cstdlib>
+
+#include <sys/wait.h>
+#endif
+
+namespace a2l::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+#ifdef _WIN32
+
+// `text` as one argument in a command line: quotes, and the backslashes before them, are escaped.
+std::wstring Quoted(const std::wstring& text) {
+  std::wstring quoted = L"\"";
+  std::size_t backslashes = 0;
+  for (const wchar_t c : text) {
+    if (c == L'"') quoted.append(backslashes + 1, L'\\');
+    backslashes = c == L'\\' ? backslashes + 1 : 0;
+    quoted += c;
+  }
+  return quoted.append(backslashes, L'\\') + L"\"";
+}
+
+HANDLE NewFile(const fs::path& path) {
+  SECURITY_ATTRIBUTES inherited{sizeof(inherited), nullptr, TRUE};
+  return CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited, CREATE_ALWAYS,
+                     FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
+// The exit code of a program whose output goes to two files.
+int Run(const std::vector<fs::path>& words, const fs::path& out, const fs::path& err) {
+  std::wstring command;
+  for (const fs::path& word : words) {
+    command += (command.empty() ? L"" : L" ") + Quoted(word.native());
+  }
+  STARTUPINFOW startup{};
+  startup.cb = sizeof(startup);
+  startup.dwFlags = STARTF_USESTDHANDLES;
+  startup.hStdOutput = NewFile(out);
+  startup.hStdError = NewFile(err);
+  PROCESS_INFORMATION process{};
+  const BOOL started = CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr,
+                                      nullptr, &startup, &process);
+  CloseHandle(startup.hStdOutput);
+  CloseHandle(startup.hStdError);
+  EXPECT_NE(started, 0) << words.front();
+  if (started == 0) return -1;
+  DWORD exitCode = 0;
+  WaitForSingleObject(process.hProcess, INFINITE);
+  GetExitCodeProcess(process.hProcess, &exitCode);
+  CloseHandle(process.hThread);
+  CloseHandle(process.hProcess);
+  return static_cast<int>(exitCode & 0xFF);
+}
+
+#else
+
+// `text` as one word of the shell.
+std::string Quoted(const std::string& text) {
+  std::string quoted = "'";
+  for (const char c : text) {
+    if (c == '\'') quoted += "'\\'";
+    quoted += c;
+  }
+  return quoted + "'";
+}
+
+// The exit code of a program whose output goes to two files.
+int Run(const std::vector<fs::path>& words, const fs::path& out, const fs::path& err) {
+  std::string command;
+  for (const fs::path& word : words) command += Quoted(word.native()) + " ";
+  command += ">" + Quoted(out.native()) + " 2>" + Quoted(err.native());
+  // NOLINTNEXTLINE(concurrency-mt-unsafe): tests run one after the other
+  const int status = std::system(command.c_str());
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+#endif
+
+}  // namespace
+
+RunResult RunProgram(const std::vector<fs::path>& arguments,
+                     const std::vector<fs::path>& launcher) {
+  std::vector<fs::path> words = launcher;
+  words.emplace_back(A2L2JSON_PROGRAM);
+  words.insert(words.end(), arguments.begin(), arguments.end());
+  const TemporaryFolder folder;
+  const int exitCode = Run(words, folder / "out", folder / "err");
+  return {exitCode, ReadFile(folder / "out"), ReadFile(folder / "err")};
+}
+
+}  // namespace a2l::test
