@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <cstdio>
-#include <cstdlib>
 #include <iostream>
 #include <string>
 
+#include "app/system.h"
 #include "export/json_writer.h"
 #include "model/element.h"
 #include "reader/a2l_reader.h"
@@ -13,22 +13,20 @@ namespace {
 // What the process returns; scripts tell the situations apart by it.
 enum ExitCode { kSuccess = 0, kUsage = -1, kNotRead = -2, kNotWritten = -3 };
 
-// Ends the process where a conversion fails. Nothing is torn down: the system takes the memory
-// back faster than we could, and every text was flushed when it was printed.
-[[noreturn]] void EndAtOnce(ExitCode code) { std::_Exit(code); }
-
+// Where a conversion fails, the process ends without destroying the tree: the system takes the
+// memory back faster than we could, and every text was flushed when it was printed.
 int Convert(const std::string& a2lPath, const std::string& jsonPath) {
   a2l::A2LReader reader;
   a2l::JsonWriter writer;
   a2l::VoA2LElement* root = a2l::NewTree();
   if (!reader.Parse(a2lPath, root)) {
     std::cout << "Failed: " << reader.message << std::endl;
-    EndAtOnce(kNotRead);
+    a2l::EndAtOnce(kNotRead);
   }
   if (!writer.Export(jsonPath, root)) {
     std::cout << "Failed: "
               << "Can not write access json file " << jsonPath << std::endl;
-    EndAtOnce(kNotWritten);
+    a2l::EndAtOnce(kNotWritten);
   }
   std::cout << "Success." << std::endl << reader.message << std::endl;
   a2l::DestroyTree(root);
@@ -38,6 +36,7 @@ int Convert(const std::string& a2lPath, const std::string& jsonPath) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  a2l::BeginProcess(argc, argv);
   if (argc != 3) {
     std::printf("Failed: using %s [in]a2l_file [out]json_file\n", argv[0]);
     return kUsage;
