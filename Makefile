@@ -3,8 +3,8 @@
 # A thin front door; the build itself is CMake's (see CMakePresets.json).
 
 .DEFAULT_GOAL := build
-.PHONY: deps deps-ci deps-packages configure build demo test bench packages asan tidy format \
-	format-check clean
+.PHONY: deps deps-ci deps-packages deps-windows configure build demo test bench packages windows \
+	asan tidy format format-check clean
 .NOTPARALLEL:
 
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
@@ -19,6 +19,9 @@ deps-ci: deps
 
 deps-packages: deps
 	@bash scripts/deps packages
+
+deps-windows: deps
+	@bash scripts/deps windows
 
 configure: deps
 	cmake --preset release
@@ -48,6 +51,10 @@ packages: deps-packages
 	cpack --preset package
 	@rm -rf build/packages/_CPack_Packages
 	@ls -l build/packages
+
+windows: deps-windows
+	cmake --preset windows
+	cmake --build --preset windows -j $(JOBS)
 
 asan: deps-ci
 	cmake --preset asan-ubsan

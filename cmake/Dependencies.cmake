@@ -14,6 +14,12 @@
 include_guard(GLOBAL)
 include("${CMAKE_CURRENT_LIST_DIR}/InstalledJson11.cmake")
 
+# What is installed was compiled for the system that builds. For another one, the headers of {fmt}
+# and the sources of GoogleTest and json11 will do, which Debian has as well.
+option(A2L2JSON_LIBRARIES_FROM_SOURCE
+       "Compile {fmt}, GoogleTest and json11 from headers and sources, as cross compiling asks for"
+       OFF)
+
 # ---------------------------------------------------------------------------------------------
 # {fmt}
 #
@@ -24,7 +30,27 @@ include("${CMAKE_CURRENT_LIST_DIR}/InstalledJson11.cmake")
 option(A2L2JSON_SHARED_FMT "Link the library of {fmt} instead of compiling in what is used of it"
        OFF)
 
-find_package(fmt 9 CONFIG QUIET)
+# fmt::fmt-header-only from the headers of the system that builds. They are reached through a link,
+# because the folder that they are in has the C library's headers as well.
+function(a2l2json_take_fmt_headers)
+  find_path(A2L2JSON_FMT_HEADERS fmt/format.h PATHS /usr/include NO_CMAKE_FIND_ROOT_PATH)
+  mark_as_advanced(A2L2JSON_FMT_HEADERS)
+  if(NOT A2L2JSON_FMT_HEADERS)
+    return()
+  endif()
+  set(folder "${PROJECT_BINARY_DIR}/libraries/fmt")
+  file(MAKE_DIRECTORY "${folder}")
+  file(CREATE_LINK "${A2L2JSON_FMT_HEADERS}/fmt" "${folder}/fmt" SYMBOLIC)
+  add_library(fmt::fmt-header-only INTERFACE IMPORTED GLOBAL)
+  target_include_directories(fmt::fmt-header-only SYSTEM INTERFACE "${folder}")
+  target_compile_definitions(fmt::fmt-header-only INTERFACE FMT_HEADER_ONLY=1)
+endfunction()
+
+if(A2L2JSON_LIBRARIES_FROM_SOURCE)
+  a2l2json_take_fmt_headers()
+else()
+  find_package(fmt 9 CONFIG QUIET)
+endif()
 if(A2L2JSON_SHARED_FMT)
   set(A2L2JSON_FMT fmt::fmt)
 else()
@@ -38,8 +64,33 @@ endif()
 # ---------------------------------------------------------------------------------------------
 # GoogleTest and Google Benchmark
 
+# GTest::gtest and GTest::gtest_main from the sources that the system that builds has.
+function(a2l2json_take_googletest)
+  find_path(A2L2JSON_GTEST_SOURCES src/gtest-all.cc PATHS /usr/src/googletest/googletest
+            NO_CMAKE_FIND_ROOT_PATH)
+  mark_as_advanced(A2L2JSON_GTEST_SOURCES)
+  if(NOT A2L2JSON_GTEST_SOURCES)
+    return()
+  endif()
+  set(CMAKE_COMPILE_WARNING_AS_ERROR OFF)
+  add_library(gtest STATIC "${A2L2JSON_GTEST_SOURCES}/src/gtest-all.cc")
+  target_include_directories(
+    gtest SYSTEM
+    PUBLIC "${A2L2JSON_GTEST_SOURCES}/include"
+    PRIVATE "${A2L2JSON_GTEST_SOURCES}")
+  target_compile_features(gtest PUBLIC cxx_std_14)
+  add_library(gtest_main STATIC "${A2L2JSON_GTEST_SOURCES}/src/gtest_main.cc")
+  target_link_libraries(gtest_main PUBLIC gtest)
+  add_library(GTest::gtest ALIAS gtest)
+  add_library(GTest::gtest_main ALIAS gtest_main)
+endfunction()
+
 if(A2L2JSON_BUILD_TESTS)
-  find_package(GTest CONFIG QUIET)
+  if(A2L2JSON_LIBRARIES_FROM_SOURCE)
+    a2l2json_take_googletest()
+  else()
+    find_package(GTest CONFIG QUIET)
+  endif()
   if(NOT TARGET GTest::gtest_main)
     message(FATAL_ERROR "GoogleTest was not found; run `make deps`, or install its development "
                         "package (libgtest-dev on Debian), or configure with "
@@ -170,7 +221,9 @@ function(a2l2json_take_json11)
   message(STATUS "json11: ${folder}")
 endfunction()
 
-a2l2json_find_installed_json11()
+if(NOT A2L2JSON_LIBRARIES_FROM_SOURCE)
+  a2l2json_find_installed_json11()
+endif()
 if(NOT TARGET json11::json11)
   if(A2L2JSON_JSON11
      OR A2L2JSON_BUILD_TESTS

@@ -27,6 +27,14 @@ using std::string_view_literals::operator""sv;
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
+// That of MinGW-w64 rounds some numbers wrongly and finds none in "0x".
+#ifdef __MINGW32__
+constexpr bool kCLibraryErrs = true;
+#else
+constexpr bool kCLibraryErrs = false;
+#endif
+constexpr const char* kNoJudge = "the C library of this system reads some numbers wrongly";
+
 TEST(ReadUnsigned, FollowsTheRulesOfBaseZero) {
   struct Row {
     std::string_view token;
@@ -343,6 +351,7 @@ std::vector<std::string> WholeNumberTokens() {
 // What the C library says is by definition the answer; where its types are wider than 32 bits,
 // its result is brought to the bounds of 32.
 TEST(WholeNumbers, AreThoseOfTheCLibrary) {
+  if (kCLibraryErrs) GTEST_SKIP() << kNoJudge;
   constexpr std::uint32_t kMost = std::numeric_limits<std::uint32_t>::max();
   for (const std::string& token : WholeNumberTokens()) {
     const std::string shown = testing::PrintToString(token);
@@ -407,6 +416,7 @@ TEST(ReadReal, ReadsDecimalsLikeTheCLibrary) {
 }
 
 TEST(Reals, AreThoseOfTheCLibrary) {
+  if (kCLibraryErrs) GTEST_SKIP() << kNoJudge;
   const std::string zeros(400, '0');
   const std::vector<std::string> tokens = Combine({{"", " \t\v", "x"},
                                                    {"", "+", "-", "+-"},
@@ -540,6 +550,7 @@ std::vector<double> ManyDoubles() {
 }
 
 TEST(Reals, OfAllMagnitudesAreThoseOfTheCLibrary) {
+  if (kCLibraryErrs) GTEST_SKIP() << kNoJudge;
   for (const double value : ManyDoubles()) {
     for (const char* format : {"%.17g", "%.6g", "%.25e", "%a", "%.3a"})
       ASSERT_NO_FATAL_FAILURE(ExpectRealOfTheCLibrary(Printed(format, value)));
@@ -619,6 +630,7 @@ std::size_t ShortestLength(double value) {
 }
 
 TEST(ShortestText, ReadsBackAndCannotBeShorter) {
+  if (kCLibraryErrs) GTEST_SKIP() << kNoJudge;
   for (const double value : ManyDoubles()) {
     const std::string text = ShortestText(value);
     ASSERT_EQ(std::bit_cast<std::uint64_t>(std::strtod(text.c_str(), nullptr)),

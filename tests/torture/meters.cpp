@@ -25,7 +25,8 @@
 #define A2L_OWN_OPERATOR_NEW 0
 #endif
 #endif
-#if !defined(A2L_OWN_OPERATOR_NEW) && defined(__GNUC__)
+// On Windows a weak function does not replace that of the library.
+#if !defined(A2L_OWN_OPERATOR_NEW) && defined(__GNUC__) && !defined(_WIN32)
 #define A2L_OWN_OPERATOR_NEW 1
 #endif
 
