@@ -317,13 +317,13 @@ class Generator {
   // -- Values
 
   static std::string Phrase(Random& random, std::size_t least, std::size_t most) {
-    std::string phrase;
+    std::string phrase(random.Of(kWords));
+    phrase[0] = static_cast<char>(phrase[0] - 'a' + 'A');
     const std::size_t count = least + random.Below(most - least + 1);
-    for (std::size_t i = 0; i < count; ++i) {
-      if (i > 0) phrase += ' ';
+    for (std::size_t i = 1; i < count; ++i) {
+      phrase += ' ';
       phrase += random.Of(kWords);
     }
-    phrase.front() = static_cast<char>(phrase.front() - 'a' + 'A');
     // The seldom things that cost a converter its short cuts.
     if (random.Percent(1)) phrase += R"( (""nominal""))";
     if (random.Percent(1)) phrase += R"( \"learned\")";

@@ -97,11 +97,13 @@ constexpr bool IsSortedWithoutDoubles(std::span<const Row> rows) {
 
 /// The keys of an array of rows.
 template <const auto& kRows>
-inline constexpr auto kKeysOf = [] {
+consteval auto MakeKeys() {
   std::array<KeyText, std::size(kRows)> keys;
   for (std::size_t i = 0; i < keys.size(); ++i) keys[i] = KeyText(kRows[i].key);
   return keys;
-}();
+}
+template <const auto& kRows>
+inline constexpr auto kKeysOf = MakeKeys<kRows>();
 
 /// The table with these rows, which must be sorted.
 template <const auto& kRows>

@@ -45,7 +45,7 @@ constexpr std::size_t FirstSlot(std::string_view text) {
 }
 static_assert(kSlotCount == std::size_t{1} << 10, "FirstSlot keeps the upper 10 of 32 bits");
 
-constexpr auto kSlots = [] {
+consteval auto MakeSlots() {
   std::array<std::uint16_t, kSlotCount> slots{};
   slots.fill(kFree);
   for (std::size_t i = 0; i < kKeywords.size(); ++i) {
@@ -54,7 +54,8 @@ constexpr auto kSlots = [] {
     slots[slot] = static_cast<std::uint16_t>(i);
   }
   return slots;
-}();
+}
+constexpr auto kSlots = MakeSlots();
 
 constexpr const Keyword* Find(std::string_view text) {
   if (text.empty()) return nullptr;

@@ -88,12 +88,13 @@ std::size_t UnquoteInto(std::string_view token, char* out) {
   if (token.empty() || token.front() != '"') return 0;
   char* const begin = out;
   for (std::size_t i = 1; i < token.size(); ++i) {
-    const char next = i + 1 < token.size() ? token[i + 1] : '\0';
+    const bool last = i + 1 == token.size();
+    const char next = last ? '\0' : token[i + 1];
     char c = token[i];
     if (c == '"') {
       if (next != '"') break;
       ++i;
-    } else if (c == '\\' && i + 1 < token.size()) {
+    } else if (c == '\\' && !last) {
       constexpr std::string_view kEscapes = "\"\\'nrt";
       constexpr std::string_view kBytes = "\"\\'\n\r\t";
       if (const std::size_t escape = kEscapes.find(next); escape != kNone) {
