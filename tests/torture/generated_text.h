@@ -8,7 +8,6 @@
 #include <cstring>
 #include <functional>
 #include <istream>
-#include <iterator>
 #include <streambuf>
 #include <string>
 #include <string_view>
@@ -93,12 +92,6 @@ class GeneratedBuffer : public std::streambuf {
   std::string_view text_;
   std::array<char, std::size_t{64} * 1024> room_{};
 };
-
-/// All parts as one text.
-inline std::string TextOf(Parts parts) {
-  GeneratedBuffer buffer(std::move(parts));
-  return {std::istreambuf_iterator<char>(&buffer), {}};
-}
 
 inline Reading ReadParts(Parts parts) {
   Reading reading{false, Tree(NewTree()), {}};

@@ -6,8 +6,6 @@
 // over two quadruplings, so the cost may grow by 25, which is five for each of them.
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
-#include <filesystem>
 #include <functional>
 #include <optional>
 #include <sstream>
@@ -16,7 +14,6 @@
 #include <gtest/gtest.h>
 
 #include "export/json_writer.h"
-#include "tests/support/files.h"
 #include "tests/support/trees.h"
 #include "tests/torture/generated_text.h"
 #include "tests/torture/meters.h"
@@ -112,18 +109,14 @@ std::vector<Shape> Shapes() {
   };
 }
 
-Parts PartsOf(const Shape& shape, std::size_t times) {
-  Parts parts = shape.before;
-  parts.push_back(shape.repeated);
-  parts.back().times = times;
-  parts.insert(parts.end(), shape.after.begin(), shape.after.end());
-  return parts;
-}
-
 // Everything that a user does with a text of the shape, `times` over.
 std::function<void()> Work(const Shape& shape, std::size_t times) {
   return [&shape, times] {
-    const Reading reading = ReadParts(PartsOf(shape, times));
+    Parts parts = shape.before;
+    parts.push_back(shape.repeated);
+    parts.back().times = times;
+    parts.insert(parts.end(), shape.after.begin(), shape.after.end());
+    const Reading reading = ReadParts(std::move(parts));
     EXPECT_FALSE(ToJson(*reading.root).empty());
     std::ostringstream out;
     EXPECT_TRUE(reading.root->Write(0, out));
@@ -154,30 +147,6 @@ TEST(Linear, MemoryGrowsWithTheInput) {
 TEST(Linear, WorkGrowsWithTheInput) {
   if (!ExpectProportion(ExecutedInstructions, 2000)) {
     GTEST_SKIP() << "instructions are not counted on this system";
-  }
-}
-
-// The same of the program as it is, with a constant cost of its start that does not count. A
-// minute long, hence only where it is asked for.
-TEST(Linear, WorkOfTheProgramGrowsWithTheInput) {
-  // NOLINTNEXTLINE(concurrency-mt-unsafe): nobody changes the environment
-  if (std::getenv("A2L2JSON_CALLGRIND") == nullptr) {
-    GTEST_SKIP() << "set A2L2JSON_CALLGRIND to count the instructions of the program";
-  }
-  const TemporaryFolder folder;
-  const auto cost = [&folder](const Shape* shape, std::size_t times) {
-    const std::filesystem::path file = folder / "file.a2l";
-    WriteFile(file, shape != nullptr ? TextOf(PartsOf(*shape, times)) : "");
-    return InstructionsOfTheProgram(file);
-  };
-  const std::optional<std::uint64_t> start = cost(nullptr, 0);
-  ASSERT_TRUE(start.has_value()) << "Callgrind counted nothing";
-  for (const Shape& shape : Shapes()) {
-    const std::uint64_t less = cost(&shape, 4000).value_or(0);
-    const std::uint64_t more = cost(&shape, 16000).value_or(0);
-    EXPECT_GT(less, *start) << shape.name;
-    EXPECT_GT(more, less) << shape.name;
-    EXPECT_LE(more - *start, 5 * (less - *start)) << shape.name;
   }
 }
 

@@ -2,13 +2,8 @@
 #include "tests/torture/meters.h"
 
 #include <cstdlib>
-#include <fstream>
 #include <memory>
 #include <new>
-#include <string>
-
-#include "tests/support/files.h"
-#include "tests/support/programs.h"
 
 #ifdef __linux__
 #include <linux/perf_event.h>
@@ -115,20 +110,5 @@ std::optional<std::uint64_t> ExecutedInstructions(const std::function<void()>& /
 }
 
 #endif
-
-std::optional<std::uint64_t> InstructionsOfTheProgram(const std::filesystem::path& a2l) {
-  const TemporaryFolder folder;
-  const std::filesystem::path counts = folder / "counts";
-  std::filesystem::path option = "--callgrind-out-file=";
-  option += counts;
-  // The exit code is that of the conversion, which may fail.
-  (void)RunProgram({a2l, folder / "json"}, {"valgrind", "--tool=callgrind", option});
-  std::ifstream in(counts);
-  for (std::string word; in >> word;) {
-    std::uint64_t count = 0;
-    if (word == "totals:" && in >> count) return count;
-  }
-  return std::nullopt;
-}
 
 }  // namespace a2l::test

@@ -5,7 +5,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <functional>
 #include <optional>
 
@@ -17,9 +16,5 @@ std::optional<std::uint64_t> AllocatedBytes(const std::function<void()>& work);
 
 /// Instructions that `work` executes; nothing where the system does not count them for us.
 std::optional<std::uint64_t> ExecutedInstructions(const std::function<void()>& work);
-
-/// Instructions of a run of the program that converts the file `a2l`, as Callgrind counts them;
-/// nothing where it cannot be run.
-std::optional<std::uint64_t> InstructionsOfTheProgram(const std::filesystem::path& a2l);
 
 }  // namespace a2l::test
