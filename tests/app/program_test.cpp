@@ -2,11 +2,16 @@
 //
 // The program as scripts use it: arguments in, texts, exit codes and files out.
 #include <filesystem>
+#include <fstream>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include <gtest/gtest.h>
+
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
 
 #include "tests/support/files.h"
 #include "tests/support/programs.h"
@@ -38,8 +43,10 @@ class Program : public testing::Test {
 
   void SetUp() override { WriteFile(a2l_, kInput); }
 
-  static RunResult Run(const std::vector<fs::path>& arguments) {
-    RunResult result = RunProgram(arguments);
+  /// `script`, of the shell, may run the program as `"$0" "$@"`.
+  static RunResult Run(const std::vector<fs::path>& arguments, const std::string& script = {}) {
+    const std::vector<fs::path> shell = {"sh", "-c", script};
+    RunResult result = RunProgram(arguments, script.empty() ? std::vector<fs::path>{} : shell);
     EXPECT_EQ(result.err, "") << "nothing is ever written to standard error";
     return result;
   }
@@ -97,6 +104,44 @@ TEST_F(Program, FailsWhereTheInputIsAFolder) {
   EXPECT_FALSE(fs::exists(json_));
 }
 
+TEST_F(Program, FailsWithoutAReasonWhereTheInputMayNotBeRead) {
+  fs::permissions(a2l_, fs::perms::none);
+  // Not even an administrator may read the second one.
+  for (const fs::path& input : {a2l_, fs::path("/proc/sys/vm/compact_memory")}) {
+    if (!fs::exists(input) || std::ifstream(input).is_open()) continue;
+    const RunResult run = Convert(input, json_);
+    EXPECT_EQ(run.exitCode, kNotRead) << input;
+    EXPECT_EQ(run.out, "Failed: \n") << input;
+    EXPECT_FALSE(fs::exists(json_)) << input;
+  }
+}
+
+TEST_F(Program, FailsWhereTheInputIsALinkToAFileThatIsGone) {
+#ifdef _WIN32
+  GTEST_SKIP() << "links are for administrators on this system";
+#else
+  fs::create_symlink(a2l_, folder_ / "link.a2l");
+  EXPECT_EQ(Convert(folder_ / "link.a2l", json_).exitCode, kSuccess);
+  fs::remove(a2l_);
+  fs::remove(json_);
+  const RunResult run = Convert(folder_ / "link.a2l", json_);
+  EXPECT_EQ(run.exitCode, kNotRead);
+  EXPECT_EQ(run.out, "Failed: \n");
+  EXPECT_FALSE(fs::exists(json_));
+#endif
+}
+
+// This file can be opened, but there is nothing at its beginning that could be read.
+TEST_F(Program, FailsWhereTheInputCannotBeReadOn) {
+  const fs::path memory = "/proc/self/mem";
+  if (!fs::exists(memory)) GTEST_SKIP() << "there is no such file on this system";
+  WriteFile(json_, "old");
+  const RunResult run = Convert(memory, json_);
+  EXPECT_EQ(run.exitCode, kNotRead);
+  EXPECT_EQ(run.out, "Failed: \n");
+  EXPECT_EQ(ReadFile(json_), "old");
+}
+
 TEST_F(Program, FailsWithAllMessagesWhereTheInputIsWrong) {
   WriteFile(a2l_, "WORD\n/end MODULE\n");
   WriteFile(json_, "old");
@@ -112,12 +157,25 @@ TEST_F(Program, FailsWithAllMessagesWhereTheInputIsWrong) {
 TEST_F(Program, FailsWhereTheOutputCannotBeOpened) {
   // The warning is not shown: what counts is the failure.
   WriteFile(a2l_, "WORD\n");
-  for (const fs::path& output : {folder_ / "missing/out.json", folder_.Path(), fs::path()}) {
+  for (const fs::path& output : {folder_ / "missing/out.json", folder_.Path(), fs::path(),
+                                 a2l_ / "out.json", folder_ / std::string(1000, 'n')}) {
     const RunResult run = Convert(a2l_, output);
     EXPECT_EQ(run.exitCode, kNotWritten) << output;
     EXPECT_EQ(run.out, "Failed: Can not write access json file " + output.string() + "\n");
   }
   EXPECT_FALSE(fs::exists(folder_ / "missing"));
+}
+
+TEST_F(Program, LeavesAnOutputAloneThatMayNotBeWritten) {
+  WriteFile(json_, "old");
+  fs::permissions(json_, fs::perms::owner_read);
+  if (std::ofstream(json_, std::ios::app).is_open()) {
+    GTEST_SKIP() << "an administrator may write to any file";
+  }
+  const RunResult run = Convert(a2l_, json_);
+  EXPECT_EQ(run.exitCode, kNotWritten);
+  EXPECT_EQ(run.out, "Failed: Can not write access json file " + json_.string() + "\n");
+  EXPECT_EQ(ReadFile(json_), "old");
 }
 
 TEST_F(Program, LooksAtTheInputBeforeTheOutput) {
@@ -171,6 +229,42 @@ TEST_F(Program, DoesNotNoticeAFullDisk) {
   const RunResult run = Convert(a2l_, "/dev/full");
   EXPECT_EQ(run.exitCode, kSuccess);
   EXPECT_EQ(run.out, "Success.\n\n");
+}
+
+// Nobody may be there to read the texts: the exit codes and the files are the same. Without a
+// standard output its number is free for the files, which must not get the texts.
+TEST_F(Program, DoesItsWorkWithoutAStandardOutput) {
+#ifdef _WIN32
+  GTEST_SKIP() << "the shell of this system cannot close it";
+#else
+  WriteFile(a2l_, "WORD\nASAP2_VERSION 1 71\n");
+  for (const std::string redirection : {">&-", "</dev/null >&-", "<&- >&- 2>&-", ">/dev/full"}) {
+    if (redirection == ">/dev/full" && !fs::exists("/dev/full")) continue;
+    const std::string script = R"(exec "$0" "$@" )" + redirection;
+    fs::remove(json_);
+    EXPECT_EQ(Run({a2l_, json_}, script).exitCode, kSuccess) << redirection;
+    EXPECT_EQ(ReadFile(json_), kDocument) << redirection;
+    EXPECT_EQ(ReadFile(a2l_), "WORD\nASAP2_VERSION 1 71\n") << redirection;
+
+    EXPECT_EQ(Run({}, script).exitCode, kUsage) << redirection;
+    EXPECT_EQ(Run({folder_.Path(), json_}, script).exitCode, kNotRead) << redirection;
+    EXPECT_EQ(ReadFile(json_), kDocument) << redirection;
+    EXPECT_EQ(Run({a2l_, folder_.Path()}, script).exitCode, kNotWritten) << redirection;
+  }
+#endif
+}
+
+TEST_F(Program, ReadsFromAPipe) {
+#ifdef _WIN32
+  GTEST_SKIP() << "pipes are no files on this system";
+#else
+  const fs::path pipe = folder_ / "pipe";
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  const RunResult run = Run({pipe, json_}, R"("$0" "$@" >/dev/null & cat ')" + a2l_.string() +
+                                               "' >'" + pipe.string() + "'; wait $! && echo Done.");
+  EXPECT_EQ(run.out, "Done.\n");
+  EXPECT_EQ(ReadFile(json_), kDocument);
+#endif
 }
 
 TEST_F(Program, WritesOneLineWithoutALineFeed) {

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <fstream>
 #include <istream>
 #include <ostream>
 #include <sstream>
@@ -242,6 +243,42 @@ TEST(A2LReader, FailsOnABrokenDeviceWithTheMessagesSoFar) {
   // The half line before the failure is not looked at, and the failure itself says nothing.
   EXPECT_EQ(reader.message.find("element WO\n"), std::string::npos);
   EXPECT_TRUE(reader.message.ends_with("unexpected element WORD\n"));
+}
+
+// What was opened can be read to its end, even if its name is gone by then.
+TEST(A2LReader, ReadsAFileThatIsRemovedMeanwhile) {
+#ifdef _WIN32
+  GTEST_SKIP() << "an open file cannot be removed on this system";
+#else
+  const TemporaryFolder folder;
+  const auto path = folder / "in.a2l";
+  std::string text(1000000, ' ');
+  WriteFile(path, text + kSmallFile.data());
+  std::ifstream in(path, std::ios::binary);
+  std::filesystem::remove(path);
+  const Tree root(NewTree());
+  A2LReader reader;
+  EXPECT_TRUE(reader.Parse(in, root.get()));
+  EXPECT_EQ(reader.message, "Warning: Line(3) unexpected element WORD\n");
+  EXPECT_EQ(root->ChildCount(), 2U);
+#endif
+}
+
+// A file that becomes shorter ends there, as if it had never been longer.
+TEST(A2LReader, ReadsAFileThatIsCutMeanwhile) {
+  const TemporaryFolder folder;
+  const auto path = folder / "in.a2l";
+  std::string text;
+  for (int i = 0; i < 500000; ++i) text += "WORD\n";
+  WriteFile(path, text);
+  std::ifstream in(path, std::ios::binary);
+  in.get();
+  in.unget();  // so that a part has been read
+  std::filesystem::resize_file(path, 1000000);
+  const Tree root(NewTree());
+  A2LReader reader;
+  EXPECT_TRUE(reader.Parse(in, root.get()));
+  EXPECT_EQ(reader.diagnostics.size(), 200000U);
 }
 
 TEST(A2LReader, FailsOnABrokenDeviceInsideAComment) {
