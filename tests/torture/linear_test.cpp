@@ -29,6 +29,8 @@ struct Shape {
   Parts before;
   Part repeated;
   Parts after;
+  /// Set where the number of repetitions stands between the parts before them and those.
+  bool isCounted = false;
 };
 
 // What stands around the content of a module.
@@ -37,6 +39,11 @@ Shape InModule(const char* name, const char* open, Part repeated, const char* cl
           {"/begin PROJECT p \"\"\n/begin MODULE m \"\"\n", open},
           std::move(repeated),
           {close, "\n/end MODULE\n/end PROJECT\n"}};
+}
+
+Shape Counted(Shape shape) {
+  shape.isCounted = true;
+  return shape;
 }
 
 Part Times(const char* text) { return {text, 1}; }
@@ -98,8 +105,12 @@ std::vector<Shape> Shapes() {
                Numbered("c", " v\n"), "/end VAR_FORBIDDEN_COMB\n/end VARIANT_CODING"),
       InModule("RowsOfNoTable", "/begin COMPU_TAB t \"\" TAB_INTP 1000000000\n", Times("1 2\n"),
                "/end COMPU_TAB"),
-      InModule("RowsOfATable", "/begin COMPU_VTAB t \"\" TAB_VERB 1000\n",
-               Times("1 \"one\" 2 \"two\"\n"), "/end COMPU_VTAB"),
+      Counted(InModule("RowsOfATable", "/begin COMPU_TAB t \"\" TAB_INTP ", Times("\n1 2"),
+                       "\n/end COMPU_TAB")),
+      Counted(InModule("RowsOnOneLine", "/begin COMPU_VTAB t \"\" TAB_VERB ", Times(" 1 \"one\""),
+                       "\n/end COMPU_VTAB")),
+      Counted(InModule("RowsOfTriples", "/begin COMPU_VTAB_RANGE t \"\" ",
+                       Times("\n1\n2\n\"a\nb\""), "\n/end COMPU_VTAB_RANGE")),
       InModule("InterfaceData", "/begin IF_DATA X\n", Times("/begin A\n a b\n/end A\n"),
                "/end IF_DATA"),
       InModule("InterfaceDataOnOneLine", "/begin IF_DATA X v ", Times("/begin A/end A"),
@@ -113,10 +124,12 @@ std::vector<Shape> Shapes() {
 std::function<void()> Work(const Shape& shape, std::size_t times) {
   return [&shape, times] {
     Parts parts = shape.before;
+    if (shape.isCounted) parts.emplace_back(std::to_string(times), 1);
     parts.push_back(shape.repeated);
     parts.back().times = times;
     parts.insert(parts.end(), shape.after.begin(), shape.after.end());
     const Reading reading = ReadParts(std::move(parts));
+    EXPECT_TRUE(!shape.isCounted || reading.reader.message.empty()) << shape.name;
     EXPECT_FALSE(ToJson(*reading.root).empty());
     std::ostringstream out;
     EXPECT_TRUE(reading.root->Write(0, out));

@@ -14,7 +14,8 @@ namespace a2l::test {
 /// cannot be counted.
 std::optional<std::uint64_t> AllocatedBytes(const std::function<void()>& work);
 
-/// Instructions that `work` executes; nothing where the system does not count them for us.
+/// Instructions that `work` executes, as the system counts them, or Callgrind when it runs this
+/// program (with A2L2JSON_CALLGRIND_OUT set to its output file); nothing where neither does.
 std::optional<std::uint64_t> ExecutedInstructions(const std::function<void()>& work);
 
 }  // namespace a2l::test
