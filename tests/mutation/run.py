@@ -1,0 +1,199 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Breaks the program on purpose, in one small way after the other, and reports which of them the
+tests do not notice.
+
+The ways stand in mutations.txt: a line "@ <file>: <what it does>", then lines that begin with "-"
+(the text to replace, which must occur exactly once) and with "+" (what takes its place). Each is
+applied to a copy of the repository in build/mutation, which is then built and tested, the fastest
+tests first, up to the first that fails.
+
+Exits with 1 when a mutation survives, with 2 when a text of mutations.txt does not occur exactly
+once or the tests fail without any mutation.
+"""
+
+import argparse
+import dataclasses
+import os
+import pathlib
+import re
+import resource
+import shutil
+import subprocess
+import sys
+import time
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+WORK = ROOT / "build" / "mutation"
+COPY = WORK / "source"
+BUILD = WORK / "build"
+
+# What runs once the mutated program is built, with the test program of the unchanged tree: only
+# tests that look at the program from outside.
+OUTSIDE = [("program", "Program.*"), ("golden cases", "Cases/Golden.ProgramGives*")]
+# What runs once the tests are built again as well.
+INSIDE = [
+    ("unit tests", "-Cases/*:Generator.*:Torture.*:Linear.*:Program.*"),
+    ("golden cases in the library", "Cases/*-*ProgramGives*"),
+    ("generated files", "Generator.*"),
+    ("torture", "Torture.*:Linear.*"),
+]
+SECONDS = 300  # a test that takes longer has been caught in a loop
+
+
+@dataclasses.dataclass
+class Mutation:
+    file: str
+    title: str
+    old: list[str] | str  # lines, then the text
+    new: list[str] | str
+
+
+def read_mutations(path):
+    mutations = []
+    for number, line in enumerate(path.read_text().splitlines(), 1):
+        if not line or line.startswith("#"):
+            continue
+        sign, text = line[0], line[1:]
+        if sign == "@":
+            file, _, title = text.strip().partition(": ")
+            mutations.append(Mutation(file, title, [], []))
+        elif sign == "-":
+            mutations[-1].old.append(text)
+        elif sign == "+":
+            mutations[-1].new.append(text)
+        else:
+            sys.exit(f"{path}:{number}: a line begins with @, -, + or #")
+    for mutation in mutations:
+        mutation.old, mutation.new = "\n".join(mutation.old), "\n".join(mutation.new)
+    # Mutations of one file next to each other: what depends on it is then built once for each.
+    return sorted(mutations, key=lambda mutation: mutation.file)
+
+
+def check(mutations):
+    """Every text must be there exactly once, before anything is built."""
+    complaints = []
+    for mutation in mutations:
+        path = ROOT / mutation.file
+        count = path.read_text().count(mutation.old) if mutation.old and path.is_file() else 0
+        if count != 1 or mutation.old == mutation.new or not mutation.title:
+            complaints.append(f"{mutation.file}: {mutation.title}: the text occurs {count} times")
+    if complaints:
+        print("\n".join(complaints), file=sys.stderr)
+        sys.exit(2)
+
+
+def copy_tree():
+    """Brings the copy up to date; files that are the same keep their time."""
+    listing = subprocess.run(
+        ["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"],
+        cwd=ROOT, check=True, stdout=subprocess.PIPE).stdout.decode()
+    names = [name for name in listing.split("\0") if name and (ROOT / name).is_file()]
+    for name in names:
+        source, target = ROOT / name, COPY / name
+        if target.is_file() and target.read_bytes() == source.read_bytes():
+            continue
+        target.parent.mkdir(parents=True, exist_ok=True)
+        shutil.copy(source, target)
+    for folder, _, files in os.walk(COPY):
+        for file in files:
+            name = (pathlib.Path(folder) / file).relative_to(COPY).as_posix()
+            if name not in names and not name.startswith(".deps"):
+                (COPY / name).unlink()
+    if (ROOT / ".deps").is_dir() and not (COPY / ".deps").exists():
+        (COPY / ".deps").symlink_to(ROOT / ".deps")
+
+
+def build(target, jobs):
+    return subprocess.run(["cmake", "--build", str(BUILD), "-j", str(jobs), "--target", target],
+                          stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+
+
+def limit_memory():
+    limit = 6 << 30
+    resource.setrlimit(resource.RLIMIT_AS, (limit, limit))
+
+
+def run_tests(program, stages):
+    """The stage and the first test that fails; None when none does."""
+    for stage, tests in stages:
+        try:
+            result = subprocess.run(
+                [str(program), f"--gtest_filter={tests}", "--gtest_fail_fast", "--gtest_brief=1"],
+                stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=SECONDS,
+                preexec_fn=limit_memory)
+        except subprocess.TimeoutExpired:
+            return f"{stage}: no end"
+        if result.returncode != 0:
+            output = result.stdout.decode(errors="replace")
+            failed = re.search(r"\[  FAILED  \] ([^\s,]+)", output)
+            return f"{stage}: {failed[1] if failed else 'crash'}"
+    return None
+
+
+def verdict(tests, jobs):
+    """Who notices the mutation that the copy holds; None when nobody does."""
+    if build("a2l2json", jobs).returncode != 0:
+        return "compiler"
+    caught = run_tests(tests, OUTSIDE)
+    if caught is None:
+        if build("a2l2json_tests", jobs).returncode != 0:
+            return "compiler"
+        caught = run_tests(BUILD / "a2l2json_tests", INSIDE)
+    return caught
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("--only", default="", help="mutations whose file or title match this")
+    parser.add_argument("--jobs", type=int, default=int(os.environ.get("JOBS", "2")))
+    parser.add_argument("--check", action="store_true", help="look for the texts, build nothing")
+    arguments = parser.parse_args()
+
+    mutations = read_mutations(ROOT / "tests" / "mutation" / "mutations.txt")
+    check(mutations)
+    print(f"{len(mutations)} mutations, every text is there once", flush=True)
+    if arguments.check:
+        return 0
+    chosen = [m for m in mutations if re.search(arguments.only, f"{m.file}: {m.title}")]
+
+    copy_tree()
+    subprocess.run(["cmake", "-S", str(COPY), "-B", str(BUILD), "-G", "Ninja",
+                    "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0 -g0",
+                    "-DA2L2JSON_BUILD_TESTS=ON"],
+                   check=True, stdout=subprocess.DEVNULL)
+    result = build("all", arguments.jobs)
+    if result.returncode != 0:
+        print(result.stdout.decode(errors="replace"), file=sys.stderr)
+        return 2
+    tests = WORK / "unchanged_tests"
+    shutil.copy2(BUILD / "a2l2json_tests", tests)
+    if (failed := run_tests(tests, OUTSIDE + INSIDE)) is not None:
+        print(f"without a mutation: {failed}", file=sys.stderr)
+        return 2
+    print("without a mutation all tests pass", flush=True)
+
+    survivors = []
+    for number, mutation in enumerate(chosen, 1):
+        path = COPY / mutation.file
+        text = path.read_text()
+        path.write_text(text.replace(mutation.old, mutation.new))
+        begun = time.monotonic()
+        try:
+            caught = verdict(tests, arguments.jobs)
+        finally:
+            path.write_text(text)
+        if caught is None:
+            survivors.append(mutation)
+        print(f"[{number}/{len(chosen)}] {mutation.file}: {mutation.title}\n"
+              f"    {'SURVIVES' if caught is None else 'caught by ' + caught}"
+              f" ({time.monotonic() - begun:.0f} s)", flush=True)
+
+    print(f"{len(chosen) - len(survivors)} of {len(chosen)} mutations are caught")
+    for mutation in survivors:
+        print(f"SURVIVES: {mutation.file}: {mutation.title}")
+    return 1 if survivors else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
