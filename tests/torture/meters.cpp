@@ -5,14 +5,11 @@
 #include <memory>
 #include <new>
 
-#if __has_include(<valgrind/callgrind.h>)
+#ifdef A2L2JSON_KNOWS_CALLGRIND
 #include <fstream>
 #include <string>
 
 #include <valgrind/callgrind.h>
-#define A2L_KNOWS_CALLGRIND 1
-#else
-#define A2L_KNOWS_CALLGRIND 0
 #endif
 
 #ifdef __linux__
@@ -129,7 +126,7 @@ std::optional<std::uint64_t> CountedBySystem(const std::function<void()>& /*work
 
 #endif
 
-#if A2L_KNOWS_CALLGRIND
+#ifdef A2L2JSON_KNOWS_CALLGRIND
 
 namespace {
 
