@@ -69,94 +69,65 @@ struct VoA2LElementFncValues final : Property<VoA2LElementFncValues, Kind::FNC_V
   static constexpr std::string_view line = "FNC_VALUES {0:d} {1} {2} {3}";
 };
 
-/// The distance of the points of a fixed axis.
-struct VoA2LElementDistOpX final
-    : AxisProperty<VoA2LElementDistOpX, Kind::DIST_OP_X, Kind::DIST_OP_Y, Kind::DIST_OP_Z,
-                   Kind::DIST_OP_4, Kind::DIST_OP_5> {
-  using AxisProperty::AxisProperty;
+/// What stands at a position of the record and has a data type, one per axis.
+template <class Class, ElementKind... kKinds>
+struct TypedPosition : AxisProperty<Class, kKinds...> {
+  using AxisProperty<Class, kKinds...>::AxisProperty;
 
   std::uint32_t POSITION = 0;
   std::uint32_t DATA_TYPE = 0;
-  static constexpr auto parameters =
-      Parameters(Unsigned(&Self::POSITION), Choice(&Self::DATA_TYPE, words::kDataType));
+  static constexpr auto parameters = Parameters(
+      Unsigned(&TypedPosition::POSITION), Choice(&TypedPosition::DATA_TYPE, words::kDataType));
   static constexpr std::string_view line = "{0} {1:d} {2}";
+};
+
+/// The distance of the points of a fixed axis.
+struct VoA2LElementDistOpX final
+    : TypedPosition<VoA2LElementDistOpX, Kind::DIST_OP_X, Kind::DIST_OP_Y, Kind::DIST_OP_Z,
+                    Kind::DIST_OP_4, Kind::DIST_OP_5> {
+  using TypedPosition::TypedPosition;
 };
 
 /// The number of points of an axis.
 struct VoA2LElementNoAxisPtsX final
-    : AxisProperty<VoA2LElementNoAxisPtsX, Kind::NO_AXIS_PTS_X, Kind::NO_AXIS_PTS_Y,
-                   Kind::NO_AXIS_PTS_Z, Kind::NO_AXIS_PTS_4, Kind::NO_AXIS_PTS_5> {
-  using AxisProperty::AxisProperty;
-
-  std::uint32_t POSITION = 0;
-  std::uint32_t DATA_TYPE = 0;
-  static constexpr auto parameters =
-      Parameters(Unsigned(&Self::POSITION), Choice(&Self::DATA_TYPE, words::kDataType));
-  static constexpr std::string_view line = "{0} {1:d} {2}";
+    : TypedPosition<VoA2LElementNoAxisPtsX, Kind::NO_AXIS_PTS_X, Kind::NO_AXIS_PTS_Y,
+                    Kind::NO_AXIS_PTS_Z, Kind::NO_AXIS_PTS_4, Kind::NO_AXIS_PTS_5> {
+  using TypedPosition::TypedPosition;
 };
 
 /// The number of rescale pairs of an axis.
 struct VoA2LElementNoRescaleX final
-    : AxisProperty<VoA2LElementNoRescaleX, Kind::NO_RESCALE_X, Kind::NO_RESCALE_Y,
-                   Kind::NO_RESCALE_Z, Kind::NO_RESCALE_4, Kind::NO_RESCALE_5> {
-  using AxisProperty::AxisProperty;
-
-  std::uint32_t POSITION = 0;
-  std::uint32_t DATA_TYPE = 0;
-  static constexpr auto parameters =
-      Parameters(Unsigned(&Self::POSITION), Choice(&Self::DATA_TYPE, words::kDataType));
-  static constexpr std::string_view line = "{0} {1:d} {2}";
+    : TypedPosition<VoA2LElementNoRescaleX, Kind::NO_RESCALE_X, Kind::NO_RESCALE_Y,
+                    Kind::NO_RESCALE_Z, Kind::NO_RESCALE_4, Kind::NO_RESCALE_5> {
+  using TypedPosition::TypedPosition;
 };
 
 /// The offset of the points of a fixed axis.
-struct VoA2LElementOffsetX final : AxisProperty<VoA2LElementOffsetX, Kind::OFFSET_X, Kind::OFFSET_Y,
-                                                Kind::OFFSET_Z, Kind::OFFSET_4, Kind::OFFSET_5> {
-  using AxisProperty::AxisProperty;
-
-  std::uint32_t POSITION = 0;
-  std::uint32_t DATA_TYPE = 0;
-  static constexpr auto parameters =
-      Parameters(Unsigned(&Self::POSITION), Choice(&Self::DATA_TYPE, words::kDataType));
-  static constexpr std::string_view line = "{0} {1:d} {2}";
+struct VoA2LElementOffsetX final
+    : TypedPosition<VoA2LElementOffsetX, Kind::OFFSET_X, Kind::OFFSET_Y, Kind::OFFSET_Z,
+                    Kind::OFFSET_4, Kind::OFFSET_5> {
+  using TypedPosition::TypedPosition;
 };
 
 /// Where the control unit keeps the result of an interpolation.
 struct VoA2LElementRipAddrX final
-    : AxisProperty<VoA2LElementRipAddrX, Kind::RIP_ADDR_X, Kind::RIP_ADDR_Y, Kind::RIP_ADDR_Z,
-                   Kind::RIP_ADDR_4, Kind::RIP_ADDR_5, Kind::RIP_ADDR_W> {
-  using AxisProperty::AxisProperty;
-
-  std::uint32_t POSITION = 0;
-  std::uint32_t DATA_TYPE = 0;
-  static constexpr auto parameters =
-      Parameters(Unsigned(&Self::POSITION), Choice(&Self::DATA_TYPE, words::kDataType));
-  static constexpr std::string_view line = "{0} {1:d} {2}";
+    : TypedPosition<VoA2LElementRipAddrX, Kind::RIP_ADDR_X, Kind::RIP_ADDR_Y, Kind::RIP_ADDR_Z,
+                    Kind::RIP_ADDR_4, Kind::RIP_ADDR_5, Kind::RIP_ADDR_W> {
+  using TypedPosition::TypedPosition;
 };
 
 /// The shift of the points of a fixed axis.
 struct VoA2LElementShiftOpX final
-    : AxisProperty<VoA2LElementShiftOpX, Kind::SHIFT_OP_X, Kind::SHIFT_OP_Y, Kind::SHIFT_OP_Z,
-                   Kind::SHIFT_OP_4, Kind::SHIFT_OP_5> {
-  using AxisProperty::AxisProperty;
-
-  std::uint32_t POSITION = 0;
-  std::uint32_t DATA_TYPE = 0;
-  static constexpr auto parameters =
-      Parameters(Unsigned(&Self::POSITION), Choice(&Self::DATA_TYPE, words::kDataType));
-  static constexpr std::string_view line = "{0} {1:d} {2}";
+    : TypedPosition<VoA2LElementShiftOpX, Kind::SHIFT_OP_X, Kind::SHIFT_OP_Y, Kind::SHIFT_OP_Z,
+                    Kind::SHIFT_OP_4, Kind::SHIFT_OP_5> {
+  using TypedPosition::TypedPosition;
 };
 
 /// The address of the input quantity of an axis.
 struct VoA2LElementSrcAddrX final
-    : AxisProperty<VoA2LElementSrcAddrX, Kind::SRC_ADDR_X, Kind::SRC_ADDR_Y, Kind::SRC_ADDR_Z,
-                   Kind::SRC_ADDR_4, Kind::SRC_ADDR_5> {
-  using AxisProperty::AxisProperty;
-
-  std::uint32_t POSITION = 0;
-  std::uint32_t DATA_TYPE = 0;
-  static constexpr auto parameters =
-      Parameters(Unsigned(&Self::POSITION), Choice(&Self::DATA_TYPE, words::kDataType));
-  static constexpr std::string_view line = "{0} {1:d} {2}";
+    : TypedPosition<VoA2LElementSrcAddrX, Kind::SRC_ADDR_X, Kind::SRC_ADDR_Y, Kind::SRC_ADDR_Z,
+                    Kind::SRC_ADDR_4, Kind::SRC_ADDR_5> {
+  using TypedPosition::TypedPosition;
 };
 
 /// An identifier of the record.
