@@ -37,7 +37,7 @@ test: build
 	cmake --build --preset release -j $(JOBS)
 	ctest --preset release
 
-# One table of speeds, memory and ratios; a few minutes, and 2 GB in memory-backed storage.
+# One table of speeds, memory and ratios; a minute or two, and 2 GB in memory-backed storage.
 bench: deps
 	cmake --preset bench
 	cmake --build --preset bench -j $(JOBS)

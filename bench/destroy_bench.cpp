@@ -11,9 +11,9 @@ void Destroy(benchmark::State& state) {
   for (auto _ : state) {
     state.PauseTiming();
     Tree root = ReadChecked(input, state);
-    if (root == nullptr) return;
+    if (root.get() == nullptr) return;
     state.ResumeTiming();
-    root.reset();
+    DestroyTree(root.release());
   }
   ReportInput(state, input);
 }

@@ -54,7 +54,7 @@ Tree ReadChecked(const Input& input, benchmark::State& state) {
   } else {
     return root;
   }
-  return nullptr;
+  return Tree(nullptr);
 }
 
 MemoryFile::MemoryFile(std::string_view name) {

@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <filesystem>
 #include <istream>
-#include <memory>
 #include <streambuf>
 #include <string>
 #include <string_view>
@@ -14,7 +13,7 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/generate.h"
-#include "model/element.h"
+#include "model/tree.h"
 
 namespace a2l::bench {
 
@@ -41,11 +40,6 @@ class ViewStream : public std::istream {
   };
   Buffer buffer_;
 };
-
-struct TreeDeleter {
-  void operator()(VoA2LElement* root) const { DestroyTree(root); }
-};
-using Tree = std::unique_ptr<VoA2LElement, TreeDeleter>;
 
 /// The tree of a text. Ends the benchmark with an error, and gives null, when the text cannot be
 /// read, gives a message, or does not give every object that the generator says it holds.

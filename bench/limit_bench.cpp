@@ -19,7 +19,7 @@ void Limit(benchmark::State& state) {
   std::uintmax_t size = 0;
   {
     const Tree root = ReadChecked(input, state);
-    if (root == nullptr) return;
+    if (root.get() == nullptr) return;
     JsonWriter().Export(json.Path(), root.get());
     size = std::filesystem::file_size(json.Path());
   }

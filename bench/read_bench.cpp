@@ -36,14 +36,14 @@ BENCHMARK(Lines)->Arg(1)->Arg(8)->Arg(64)->Unit(benchmark::kMillisecond);
 // The tree is released outside of the timed part; Destroy has that.
 void Read(benchmark::State& state) {
   const Input& input = InputOf(state.range(0));
-  if (ReadChecked(input, state) == nullptr) return;
+  if (ReadChecked(input, state).get() == nullptr) return;
   for (auto _ : state) {
     Tree root(NewTree());
     A2LReader reader;
     ViewStream in(input.text);
     benchmark::DoNotOptimize(reader.Parse(in, root.get()));
     state.PauseTiming();
-    root.reset();
+    root = Tree(nullptr);
     state.ResumeTiming();
   }
   ReportInput(state, input);

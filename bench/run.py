@@ -12,6 +12,7 @@ figure makes it fail: times depend on the machine.
 import argparse
 import json
 import os
+import re
 import resource
 import shutil
 import statistics
@@ -20,7 +21,7 @@ import tempfile
 import time
 
 MB = 1_000_000
-STAGES = ("Read", "Export", "Destroy")
+STAGES = ("Tokenize/NextToken", "Read", "Export", "Destroy")
 SMALL_RUNS = 21  # conversions of the smallest file per round
 
 
@@ -87,7 +88,7 @@ def measure_stages(bench, folder, sizes, samples):
         for result in json.load(file)["benchmarks"]:
             if result.get("error_occurred"):
                 sys.exit(f"{result['name']}: {result['error_message']}")
-            stage, size = result["name"].split("/")[:2]
+            stage, size = re.match(r"(.*?)/(\d+)", result["name"]).groups()
             to_seconds = {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1}[result["time_unit"]]
             samples.add(
                 stage,
@@ -106,8 +107,12 @@ def measure_processes(bench, program, folder, inputs, samples):
         for _ in range(SMALL_RUNS if size == "1k" else 1):
             samples.add("Whole", size, run([program, data["path"], output]))
             written = os.path.getsize(output)
+            if "output" not in data:
+                run([bench, "--check", data["path"], output])
+                data["output"] = written
+            elif written != data["output"]:
+                sys.exit(f"two runs for {data['path']} wrote documents of different length")
             os.remove(output)  # each run makes a new file; emptying an old one takes time
-        data["output"] = written
         if size != "1k":
             copy = [bench, "--plain-copy", data["path"], output, str(written)]
             samples.add("Limit", size, run(copy))
@@ -152,6 +157,7 @@ def report(sizes, inputs, samples):
 
     rows = [("objects", [number(inputs[size]["objects"], 0) for size in sizes])]
     for label, name in (
+        ("finding tokens", "Tokenize/NextToken"),
         ("reading (text to tree)", "Read"),
         ("export (tree to JSON text)", "Export"),
         ("destroying the tree", "Destroy"),

@@ -67,8 +67,13 @@ void Tokenize(benchmark::State& state, CountLine count) {
       benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 
-#define A2L_TOKENIZE(name, count) \
-  BENCHMARK_CAPTURE(Tokenize, name, count)->Arg(1)->Arg(8)->Arg(64)->Unit(benchmark::kMillisecond)
+#define A2L_TOKENIZE(name, count)          \
+  BENCHMARK_CAPTURE(Tokenize, name, count) \
+      ->Arg(1)                             \
+      ->Arg(8)                             \
+      ->Arg(64)                            \
+      ->Arg(256)                           \
+      ->Unit(benchmark::kMillisecond)
 A2L_TOKENIZE(NextToken, TakeTokens);
 A2L_TOKENIZE(CountTokens, Count);
 A2L_TOKENIZE(TokenCounter, CountGrowing);

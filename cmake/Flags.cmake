@@ -50,7 +50,8 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang" AND NOT CMAKE_CXX_SIMULATE_ID STREQ
 endif()
 
 if(A2L2JSON_COVERAGE)
-  target_compile_options(a2l2json_flags INTERFACE --coverage)
+  # Atomic: some tests have threads.
+  target_compile_options(a2l2json_flags INTERFACE --coverage -fprofile-update=atomic)
   target_link_options(a2l2json_flags INTERFACE --coverage)
 endif()
 

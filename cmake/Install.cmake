@@ -116,7 +116,8 @@ if(A2L2JSON_LIBRARY)
     COMPONENT library
     FILES_MATCHING
     PATTERN "*.h"
-    PATTERN "*.def")
+    PATTERN "*.def"
+    PATTERN "file_path.h" EXCLUDE)
   foreach(header reader/a2l_reader.h reader/diagnostics.h reader/tokenizer.h export/json_writer.h)
     cmake_path(GET header PARENT_PATH room)
     install(

@@ -22,7 +22,8 @@ class JsonWriter {
   std::ofstream out_;
 };
 
-/// The JSON document of the tree below `root`: one line without a line feed. Memory that runs out
+/// The JSON document of the tree below `root`, which is the root of a tree (the document of any
+/// other element has nothing in it): one line without a line feed. Memory that runs out
 /// gives std::bad_alloc; nothing else can go wrong.
 [[nodiscard]] std::string ToJson(const VoA2LElement& root);
 

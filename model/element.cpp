@@ -46,6 +46,7 @@ void VoA2LElement::MakeStore() {
 }
 
 bool VoA2LElement::Attach(VoA2LElement* child, const KindSet& accepted) {
+  if (child == nullptr) return false;
   if (child->parent == nullptr) child->parent = this;
   if (child->parent != this || !accepted.Contains(child->kind)) return false;
   children.PushBack(Store(), child);

@@ -32,6 +32,7 @@ inline constexpr std::uint32_t kOpenParameterList = 65535;
 /// Elements are used in one thread at a time; several may look at one that no thread changes.
 class VoA2LElement {
  public:
+  /// Its keyword, by which KindToKeyword (model/keywords.h) gives the text.
   ElementKind kind = KIND_ROOT;
   /// Revision of the standard that the keyword belongs to; nothing depends on it.
   std::uint32_t version = kRevision160;
@@ -64,7 +65,7 @@ class VoA2LElement {
   /// The same for the second run of values. The base succeeds where there is such a run.
   virtual bool ParseMoreParameters(std::string_view& text);
 
-  /// Attaches `child` as the last child. A child without a parent gets this one; a child of
+  /// Attaches `child` as the last child; null is refused. A child without a parent gets this one; a child of
   /// another parent, or of a kind that may not stand here, is refused with false (the parent
   /// link that it got stays).
   virtual bool AddChild(VoA2LElement* child);

@@ -6,8 +6,8 @@
 //     if (const auto* address = FirstChild<VoA2LElementECUAddress>(measurement)) ...
 //
 // VoA2LElement stands for every class. What is found in a const element is const. Nothing may be
-// added to the elements that a walk is passing through. Texts of elements are views, which end with
-// their tree.
+// added to the elements that a walk is passing through, or taken out of them. Texts of elements are
+// views, which end with their tree.
 #pragma once
 
 #include <algorithm>

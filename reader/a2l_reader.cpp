@@ -32,7 +32,7 @@ bool A2LReader::Parse(const std::string& path, VoA2LElement* root) {
 }
 
 bool A2LReader::Parse(std::istream& in, VoA2LElement* root) {
-  if (root == nullptr) return false;
+  if (root == nullptr || in.fail()) return false;
   LineSource lines(in);
   BlockParser parser(lines, *root, [this](const Diagnostic& diagnostic) { Report(diagnostic); });
   return parser.Run();

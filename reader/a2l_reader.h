@@ -30,7 +30,8 @@ class A2LReader {
   bool Parse(const std::string& path, VoA2LElement* root);
 
   /// The same for text from any stream, which should be open in binary mode and, as every new
-  /// stream, throw no exceptions.
+  /// stream, throw no exceptions. False for a stream that has failed already, such as one of a file
+  /// that was not opened.
   bool Parse(std::istream& in, VoA2LElement* root);
 
   /// The same for text in memory, which is not copied as a whole.

@@ -25,7 +25,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path kCorpus = A2L2JSON_SHARED_CORPUS;
+const fs::path kCorpus = A2L2JSON_CORPUS;
 
 struct Expectation {
   long exitCode = -1;

@@ -110,6 +110,12 @@ TEST_F(ElementTest, ChildOfAnotherParentIsRefusedUnchanged) {
   }
 }
 
+TEST_F(ElementTest, NoChildIsRefused) {
+  VoA2LElement root;
+  EXPECT_FALSE(root.AddChild(nullptr));
+  EXPECT_EQ(root.ChildCount(), 0U);
+}
+
 TEST_F(ElementTest, ChildAddedTwiceIsListedTwice) {
   VoA2LElement* version = Make(ElementKind::ASAP2_VERSION);
   EXPECT_TRUE(root_->AddChild(version));

@@ -47,6 +47,21 @@ Result ReadInto(VoA2LElement& root, std::string_view text) {
   return {ok, reader.message};
 }
 
+TEST(A2LReader, RefusesAStreamThatHasFailedAlready) {
+  const Tree root;
+  A2LReader reader;
+  std::ifstream closed("no such file.a2l");
+  EXPECT_FALSE(reader.Parse(closed, root.get()));
+  std::istringstream failed("WORD\n");
+  failed.setstate(std::ios::failbit);
+  EXPECT_FALSE(reader.Parse(failed, root.get()));
+  EXPECT_EQ(reader.message, "");
+  // One that is at its end has nothing in it, and that is no failure.
+  std::istringstream ended("");
+  ended.setstate(std::ios::eofbit);
+  EXPECT_TRUE(reader.Parse(ended, root.get()));
+}
+
 TEST(A2LReader, NeedsARoot) {
   const TemporaryFolder folder;
   WriteFile(folder / "in.a2l", kSmallFile);

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "model/element.h"
+
+namespace a2l::bench {
+
+/// What is wrong with the document of `root` in the file at `path`; empty when nothing is: its
+/// bytes are those of the document, and a reader of JSON that shares no code with the export
+/// accepts them.
+std::string Complaint(const std::string& path, const VoA2LElement& root);
+
+}  // namespace a2l::bench
