@@ -34,10 +34,30 @@ cd -- "$folder"
 
 # The files that the recipes speak of.
 cases=$root/tests/cases
-mkdir a2l docs
+mkdir a2l docs mixed
 cp "$root/examples/demo.a2l" a2l/engine.a2l
 cp "$root/examples/small.a2l" a2l/sensor.a2l
 cp "$cases/messages/warn_unexpected_element.a2l" a2l/typo.a2l
+cat >a2l/coolant.a2l <<'A2L'
+/begin PROJECT Coolant "Coolant, up to 130 °C"
+  /begin MODULE Engine ""
+    /begin COMPU_METHOD Celsius "" LINEAR "%6.1" "°C"
+      COEFFS_LINEAR 1 -40
+    /end COMPU_METHOD
+    /begin MEASUREMENT Coolant "" UBYTE Celsius 1 0 -40 130
+      ECU_ADDRESS 0xC0002000
+      BIT_MASK 0xFF
+    /end MEASUREMENT
+    /begin MEASUREMENT CoolantLevel "" UBYTE NO_COMPU_METHOD 1 0 0 255
+      ECU_ADDRESS 0xC0002001
+    /end MEASUREMENT
+  /end MODULE
+/end PROJECT
+A2L
+cp a2l/engine.a2l mixed/
+cp a2l/typo.a2l 'mixed/R&D|1.a2l'
+cp "$cases/messages/fail_encoding.a2l" mixed/encoding.a2l
+ln -s nowhere mixed/gone.a2l # is found, but cannot be opened
 cp "$cases/lines/ok_latin1_bytes_in_text.a2l" latin1.a2l
 cp "$cases/lines/warn_byte_order_mark_before_keyword.a2l" bom.a2l
 cp "$cases/lines/warn_tab_between_keyword_and_value.a2l" tabs.a2l
