@@ -16,7 +16,7 @@ set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "converter from A2L files to JSON")
 set(CPACK_PACKAGE_DESCRIPTION
     "a2l2json converts an A2L file (ASAM MCD-2 MC, the description of an engine
 control unit's measurements and calibration objects) into one JSON document,
-and names the line of every mistake in it.
+and reports mistakes with their lines.
 
 The same is there for C++ programs: a static library with its headers, a CMake
 package and a pkg-config file.")
