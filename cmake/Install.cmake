@@ -73,14 +73,27 @@ install(
   FILES "${PROJECT_SOURCE_DIR}/docs/json.schema.json"
   DESTINATION "${CMAKE_INSTALL_DATADIR}/a2l2json"
   COMPONENT shared)
+
+# The pages for users, with plain text in the place of links to what is not installed.
+set(not_installed "(\\.\\./)?(tests/|CONTRIBUTING|docs/(adding|design|performance))")
+foreach(page README.md docs/json.md docs/reading-a2l.md docs/recipes.md)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${page}")
+  file(READ "${PROJECT_SOURCE_DIR}/${page}" text)
+  string(REGEX REPLACE "\n\\[[^]\n]+\\]: ${not_installed}[^\n]*" "" text "${text}")
+  string(REGEX REPLACE "\\[([^]]+)\\]\\(${not_installed}[^)]*\\)" "\\1" text "${text}")
+  file(WRITE "${generated}/pages/${page}" "${text}")
+endforeach()
 install(
-  FILES "${PROJECT_SOURCE_DIR}/README.md"
+  DIRECTORY "${generated}/pages/"
   DESTINATION "${CMAKE_INSTALL_DOCDIR}"
   COMPONENT shared)
 install(
-  FILES "${PROJECT_SOURCE_DIR}/docs/json.md" "${PROJECT_SOURCE_DIR}/docs/reading-a2l.md"
-        "${PROJECT_SOURCE_DIR}/docs/recipes.md"
+  FILES "${PROJECT_SOURCE_DIR}/docs/json.schema.json"
   DESTINATION "${CMAKE_INSTALL_DOCDIR}/docs"
+  COMPONENT shared)
+install(
+  FILES "${PROJECT_SOURCE_DIR}/LICENSE" "${PROJECT_SOURCE_DIR}/CHANGELOG.md"
+  DESTINATION "${CMAKE_INSTALL_DOCDIR}"
   COMPONENT shared)
 install(
   DIRECTORY "${PROJECT_SOURCE_DIR}/examples"
@@ -95,10 +108,6 @@ install(
 install(
   FILES "${packaging}/completions/_a2l2json"
   DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/site-functions"
-  COMPONENT plain)
-install(
-  FILES "${PROJECT_SOURCE_DIR}/LICENSE" "${PROJECT_SOURCE_DIR}/CHANGELOG.md"
-  DESTINATION "${CMAKE_INSTALL_DOCDIR}"
   COMPONENT plain)
 
 # ---------------------------------------------------------------------------------------------

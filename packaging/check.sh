@@ -184,6 +184,22 @@ completed() (
 cmp "$(pkg-config --variable=schema a2l2json)" docs/json.schema.json
 say 'program, library, manual page, completions and schema are where they are looked for'
 
+# dead_links <folder>: what the pages there link to and is not there
+dead_links() {
+  local page target
+  for page in "$1"/**/*.md; do
+    { grep -oP '(\]\(|^\[[^]]+\]: )\K[^)#]+' "$page" || true; } | while read -r target; do
+      [[ $target == http* || -e ${page%/*}/$target ]] || printf '%s: %s\n' "$page" "$target"
+    done
+  done
+}
+for folder in "$root/usr" "$work/installed" "$work/static"; do
+  [[ -f $folder/share/doc/a2l2json/docs/json.md ]] || die "there are no pages in $folder"
+  dead=$(dead_links "$folder/share/doc/a2l2json")
+  [[ -z $dead ]] || die "links of installed pages lead nowhere: $dead"
+done
+say 'no link of an installed page leads nowhere'
+
 # Intermediate code would tie the library to one compiler.
 if readelf --section-headers --wide "${pc%/*/*}/liba2l2json.a" | grep -q '\.gnu\.lto_'; then
   die 'the library holds intermediate code of link time optimisation'
