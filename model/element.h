@@ -65,9 +65,9 @@ class VoA2LElement {
   /// The same for the second run of values. The base succeeds where there is such a run.
   virtual bool ParseMoreParameters(std::string_view& text);
 
-  /// Attaches `child` as the last child; null is refused. A child without a parent gets this one; a child of
-  /// another parent, or of a kind that may not stand here, is refused with false (the parent
-  /// link that it got stays).
+  /// Attaches `child` as the last child; null is refused. A child without a parent gets this one; a
+  /// child of another parent, or of a kind that may not stand here, is refused with false (the
+  /// parent link that it got stays).
   virtual bool AddChild(VoA2LElement* child);
 
   /// Writes this element and everything below it as A2L text, `level` times two blanks in front
