@@ -92,16 +92,16 @@ bool Survives(const Choice<Self>& field, const Class& self) {
   return !field.table.ToText(self.*field.member).empty();
 }
 template <class Self, class Class, class Item, Item (*kRead)(TreeStore&, std::string_view&),
-          bool kQuoted>
-bool Survives(const TokenList<Self, Item, kRead, kQuoted>& field, const Class& self) {
+          bool kQuoted, OldItems kOldItems>
+bool Survives(const TokenList<Self, Item, kRead, kQuoted, kOldItems>& field, const Class& self) {
   return std::ranges::all_of(self.*field.member, [](std::string_view item) {
     if (kQuoted) return SurvivesAsText(item);
     return kRead == ReadIdentifier && SurvivesAtLineStart(item);
   });
 }
 template <class Self, class Class, class Value, Converted<Value> (*kRead)(std::string_view),
-          BadItem kBadItem>
-bool Survives(const NumberList<Self, Value, kRead, kBadItem>& field, const Class& self) {
+          BadItem kBadItem, OldItems kOldItems>
+bool Survives(const NumberList<Self, Value, kRead, kBadItem, kOldItems>& field, const Class& self) {
   return self.kind != Kind::CALIBRATION_HANDLE ||
          std::ranges::all_of(self.*field.member, [](Value item) { return item >= 0; });
 }
