@@ -10,7 +10,7 @@
 namespace a2l::test {
 namespace {
 
-using std::string_view_literals::operator""sv;
+using namespace std::string_view_literals;
 
 TEST(JsonCheck, AcceptsTheFormOfTheDocument) {
   for (const std::string_view text :
