@@ -288,8 +288,11 @@ class FileWriter {
         const MadeValue made =
             wrong ? MakeWrongValue(parameter, random_) : MakeValue(parameter, random_);
         Put(made.token);
+        // The list ends where an item is wrong, which stays in some lists as 0.
+        const bool keepsWrong =
+            keyword.text == "FIX_AXIS_PAR_LIST" || keyword.text == "CALIBRATION_HANDLE";
+        if (!node.isBroken && (!wrong || keepsWrong)) node.items.push_back(made.value);
         node.isBroken = node.isBroken || wrong;
-        node.items.push_back(made.value);
       }
     }
     if (keyword.list.size() > 1 && Breaks(4)) {
@@ -502,6 +505,7 @@ class FileWriter {
     // What is still being collected at the end never reaches its element.
     if (collection_.has_value()) {
       Node& node = *collection_->node;
+      node.isRead = false;
       node.items.clear();
       node.values = Evaluate(Find(node.keyword), {}).values;
     }

@@ -24,6 +24,8 @@ struct Node {
   bool valid = true;
   /// Set where not all parameters are there, or one of them is wrong.
   bool isBroken = false;
+  /// False where the file ends before the parameters do, which are then never read.
+  bool isRead = true;
   /// Of the fixed parameters.
   std::vector<Value> values;
   /// Of the open list, or of the rows, one behind the other.

@@ -93,9 +93,12 @@ bool HasMemberOfItsOwn(const Node& node, std::string_view property) {
   // The record layout of an axis hides the other DEPOSIT; identifications go under another key;
   // the rest is put together from several values or properties.
   static const std::set<std::string_view> kOthers = {
-      "COEFFS",   "COEFFS_LINEAR",  "ADDR_EPK",          "SYSTEM_CONSTANT", "IDENTIFICATION",
-      "RESERVED", "ALIGNMENT_WORD", "FRAME_MEASUREMENT", "CONVERSION"};
-  return !kOthers.contains(property) && !(node.keyword == "AXIS_PTS" && property == "DEPOSIT");
+      "COEFFS",          "COEFFS_LINEAR",           "ADDR_EPK",
+      "SYSTEM_CONSTANT", "IDENTIFICATION",          "RESERVED",
+      "ALIGNMENT_WORD",  "CALIBRATION_HANDLE_TEXT", "FRAME_MEASUREMENT",
+      "CONVERSION"};
+  return !kOthers.contains(property) && property != "SIGN_EXTEND" &&
+         !(node.keyword == "AXIS_PTS" && property == "DEPOSIT");
 }
 
 void ExpectProperty(const Json& json, const Keyword& property, const Node* first,
@@ -108,7 +111,7 @@ void ExpectProperty(const Json& json, const Keyword& property, const Node* first
                : property.list.empty() ? Json()
                                        : Json(Json::array()),
                here);
-  } else if (first->isBroken) {
+  } else if (!first->isRead) {
     return;
   } else if (!property.list.empty()) {
     Json::array items;
@@ -121,6 +124,86 @@ void ExpectProperty(const Json& json, const Keyword& property, const Node* first
   } else {
     ExpectParameters(actual, *first, here);
   }
+}
+
+// Numbers without a sign as they stand in a list that is one text.
+std::string InDecimal(const Value& number) {
+  return std::to_string(static_cast<std::uint32_t>(std::get<std::int32_t>(number)));
+}
+
+// What stands in objects of several kinds under a key that is put together.
+void ExpectSpecialKeys(const Json& json, const Node& node, const std::string& here) {
+  const auto join = [](const auto& items, auto toText) {
+    std::string joined;
+    for (const auto& item : items) {
+      joined += toText(item);
+      joined += ',';
+    }
+    if (!joined.empty()) joined.pop_back();
+    return joined;
+  };
+  const auto name = [](const Value& item) { return std::get<std::string>(item); };
+  const auto handle = [](const Value& item) {
+    return std::to_string(std::get<std::int32_t>(item));
+  };
+  if (node.keyword == "MEMORY_LAYOUT" || node.keyword == "MEMORY_SEGMENT") {
+    const std::vector<Value> offsets(node.values.end() - 5, node.values.end());
+    ExpectJson(json["FOFFSET"], join(offsets, handle), here);
+  } else if (node.keyword == "CALIBRATION_HANDLE") {
+    ExpectJson(json["FHANDLE"], join(node.items, handle), here);
+    const auto texts = ChildrenOf(node, "CALIBRATION_HANDLE_TEXT");
+    ExpectJson(json["FHANDLE_TEXT"], texts.empty() ? Json() : ToJson11(texts.front()->values.at(0)),
+               here);
+  } else if (node.keyword == "BIT_OPERATION") {
+    const bool extends = !ChildrenOf(node, "SIGN_EXTEND").empty();
+    ExpectJson(json["FSIGN_EXTEND"], extends ? Json("SIGN_EXTEND") : Json(), here);
+  } else if (node.keyword == "VAR_CRITERION") {
+    ExpectJson(json["FVALUE"], join(node.items, name), here);
+  } else if (node.keyword == "VAR_CHARACTERISTIC") {
+    ExpectJson(json["FCRITERION_NAME"], join(node.items, name), here);
+    const bool isFirst = !node.children.empty() && node.children.front()->keyword == "VAR_ADDRESS";
+    ExpectJson(json["FVAR_ADDRESS"],
+               isFirst ? Json(join(node.children.front()->items, InDecimal)) : Json(), here);
+  } else if (node.keyword == "MOD_PAR") {
+    std::vector<Value> addresses;
+    for (const Node* child : ChildrenOf(node, "ADDR_EPK")) {
+      addresses.push_back(child->values.at(0));
+    }
+    ExpectJson(json["FADDR_EPK"], addresses.empty() ? Json() : Json(join(addresses, InDecimal)),
+               here);
+  } else if (node.keyword == "USER_RIGHTS") {
+    std::string groups;
+    for (const Node* child : ChildrenOf(node, "REF_GROUP")) groups += join(child->items, name);
+    ExpectJson(json["FREF_GROUP"], groups, here);
+  }
+}
+
+// The keys of an annotation are there only where its properties are.
+void ExpectAnnotation(const Json& json, const Node& node, const std::string& here) {
+  Json::object expected;
+  for (const char* property : {"ANNOTATION_LABEL", "ANNOTATION_ORIGIN", "ANNOTATION_TEXT"}) {
+    const std::vector<const Node*> there = ChildrenOf(node, property);
+    if (there.empty()) continue;
+    std::string text;
+    for (const Value& line : there.front()->items) text += std::get<std::string>(line);
+    expected["F" + std::string(property)] =
+        there.front()->values.empty() ? Json(text) : ToJson11(there.front()->values.at(0));
+  }
+  ExpectJson(json, expected, here);
+}
+
+// Of a criterion that is named twice the first value counts.
+void ExpectCombinations(const Json& json, const Node& node, const std::string& here) {
+  Json::array expected;
+  for (const Node* child : ChildrenOf(node, "VAR_FORBIDDEN_COMB")) {
+    Json::object combination;
+    for (std::size_t i = 0; i + 1 < child->items.size(); i += 2) {
+      combination.emplace("F" + std::get<std::string>(child->items[i]),
+                          ToJson11(child->items[i + 1]));
+    }
+    expected.emplace_back(combination);
+  }
+  ExpectJson(json["FVAR_FORBIDDEN_COMB"], expected, here);
 }
 
 // A list of names as one text.
@@ -150,12 +233,15 @@ void ExpectColumns(const Json& json, const Node& node, const std::string& here) 
 
 void ExpectObject(const Json& json, const Node& node, const std::string& here);
 
-// Blocks of one kind as an array of objects, in the order of the file.
+// Blocks or properties of one kind as an array of objects, in the order of the file.
 void ExpectObjects(const Json& json, const Node& node, std::string_view keyword,
                    const std::string& path) {
   const std::string here = path + "/" + std::string(keyword);
   const std::vector<const Node*> expected = ChildrenOf(node, keyword);
   const Json& actual = json["F" + std::string(keyword)];
+  const bool isNull =
+      expected.empty() && (keyword == "OVERWRITE" || keyword == "STRUCTURE_COMPONENT");
+  ASSERT_EQ(actual.is_array(), !isNull) << here;
   ASSERT_EQ(actual.array_items().size(), expected.size()) << here;
   for (std::size_t i = 0; i < expected.size(); ++i) {
     ExpectObject(actual[i], *expected[i], here + "[" + std::to_string(i) + "]");
@@ -170,7 +256,12 @@ void ExpectObject(const Json& json, const Node& node, const std::string& here) {
     ExpectJson(json["FIF_DATA"], node.content, here);
     return;
   }
+  if (node.keyword == "ANNOTATION") {
+    ExpectAnnotation(json, node, here);
+    return;
+  }
   ExpectParameters(json, node, here);
+  ExpectSpecialKeys(json, node, here);
   if (keyword.onWrongNumber == OnWrongNumber::MarkAndGoOn) {
     ExpectJson(json["FISVALID"], node.valid, here);
   }
@@ -182,9 +273,19 @@ void ExpectObject(const Json& json, const Node& node, const std::string& here) {
     const std::string path = here + "/" + std::string(text);
     const bool isNames = child.parameters.empty() && child.list.size() == 1 &&
                          child.list[0].type == ParameterType::Name;
-    if (text == "IF_DATA" || text == "AXIS_DESCR" || text == "OVERWRITE" ||
-        text == "STRUCTURE_COMPONENT") {
+    static const std::set<std::string_view> kArrays = {
+        "IF_DATA",        "AXIS_DESCR",         "OVERWRITE",          "STRUCTURE_COMPONENT",
+        "ANNOTATION",     "CALIBRATION_METHOD", "MEMORY_LAYOUT",      "MEMORY_SEGMENT",
+        "VAR_CRITERION",  "VAR_CHARACTERISTIC", "CALIBRATION_HANDLE", "RESERVED",
+        "SYSTEM_CONSTANT"};
+    if (kArrays.contains(text)) {
       ExpectObjects(json, node, text, here);
+    } else if (text == "VAR_FORBIDDEN_COMB") {
+      ExpectCombinations(json, node, here);
+    } else if (text == "BIT_OPERATION" || text == "FORMULA") {
+      const Json& object = json["F" + std::string(text)];
+      if (first != nullptr) ExpectObject(object, *first, path);
+      if (first == nullptr) ExpectJson(object, nullptr, path);
     } else if (child.isBlock && isNames && text != "MAP_LIST" && text != "REF_GROUP") {
       ExpectNames(json, child, first, path);
     } else if (!child.isBlock && HasMemberOfItsOwn(node, text)) {

@@ -221,7 +221,7 @@ bool CanBeWrong(const Parameter& parameter) {
 
 namespace {
 
-// What a parameter has when nothing could be read for it, or it was never looked at.
+// What a parameter has when nothing could be read for it.
 Value Missing(const Parameter& parameter) {
   switch (parameter.type) {
     case ParameterType::Name:
@@ -239,6 +239,14 @@ Value Missing(const Parameter& parameter) {
   }
 }
 
+// What a parameter has when it was never looked at: a word is then the first of its enumeration,
+// where that counts from 0.
+Value Untouched(const Parameter& parameter) {
+  const bool isAddressType =
+      parameter.type == ParameterType::Word && parameter.words->name == "AddrType";
+  return isAddressType ? Value(std::string("PBYTE")) : Missing(parameter);
+}
+
 }  // namespace
 
 MadeValue MakeWrongValue(const Parameter& parameter, Random& random) {
@@ -253,7 +261,9 @@ Evaluation Evaluate(const Keyword& keyword, const std::vector<MadeValue>& made) 
   for (std::size_t i = 0; i < keyword.parameters.size(); ++i) {
     const Parameter& parameter = keyword.parameters[i];
     const bool there = i < made.size() && !stopped;
-    evaluation.values.push_back(there ? made[i].value : Missing(parameter));
+    evaluation.values.push_back(there     ? made[i].value
+                                : stopped ? Untouched(parameter)
+                                          : Missing(parameter));
     const bool ok = there ? made[i].ok : !CanBeWrong(parameter);
     evaluation.ok = evaluation.ok && ok;
     stopped = stopped || (!ok && keyword.onWrongNumber == OnWrongNumber::Stop);
