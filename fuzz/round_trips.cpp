@@ -10,6 +10,7 @@
 #include <string_view>
 #include <tuple>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "elements/blocks/characteristic.h"
@@ -132,6 +133,8 @@ bool ElementSurvives(const VoA2LElement& element) {
   } else if constexpr (std::is_same_v<Class, VoA2LElementVarForbiddenComb>) {
     return std::ranges::all_of(self.CRITERION_NAME, SurvivesAtLineStart) &&
            std::ranges::all_of(self.VALUE, SurvivesAsName);
+  } else if constexpr (std::is_same_v<Class, VoA2LElementFormat>) {
+    return !self.FORMAT.empty() && SurvivesAsText(self.FORMAT);
   } else if constexpr (std::is_same_v<Class, VoA2LElementA2ML> ||
                        std::is_same_v<Class, VoA2LElementCalibrationHandleText>) {
     return false;
@@ -231,31 +234,40 @@ constexpr bool EveryClassIsThere() {
 }
 static_assert(EveryClassIsThere());
 
-// True when `accepts` holds for all elements that are written.
-template <class Accepts>
-bool AllWritten(const VoA2LElement& root, Accepts accepts) {
+const KindRow& RowOf(const VoA2LElement& element) { return kTable[KindIndex(element.kind)]; }
+
+}  // namespace
+
+bool RoundTrips(const VoA2LElement& root) {
+  if (std::ranges::count(root.children, Kind::ASAP2_VERSION, &VoA2LElement::kind) > 1) return false;
   std::vector<const VoA2LElement*> waiting(root.children.begin(), root.children.end());
   while (!waiting.empty()) {
     const VoA2LElement& element = *waiting.back();
     waiting.pop_back();
-    if (!accepts(element)) return false;
-    if (!kTable[KindIndex(element.kind)].writesChildren) continue;
+    if (!RowOf(element).survives(element)) return false;
+    if (!RowOf(element).writesChildren) continue;
     waiting.insert(waiting.end(), element.children.begin(), element.children.end());
   }
   return true;
 }
 
-}  // namespace
-
-bool RoundTrips(const VoA2LElement& root) {
-  const auto versions = std::ranges::count(root.children, Kind::ASAP2_VERSION, &VoA2LElement::kind);
-  return versions <= 1 && AllWritten(root, [](const VoA2LElement& element) {
-           return kTable[KindIndex(element.kind)].survives(element);
-         });
-}
-
-bool IsWrittenWhole(const VoA2LElement& root) {
-  return AllWritten(root, [](const VoA2LElement& element) { return element.kind != KIND_UNKNOWN; });
+void KeepWhatRoundTrips(VoA2LElement& root) {
+  bool hasVersion = false;
+  std::vector<VoA2LElement*> waiting = {&root};
+  while (!waiting.empty()) {
+    VoA2LElement& parent = *waiting.back();
+    waiting.pop_back();
+    parent.valid = 1;
+    const std::vector<VoA2LElement*> children(parent.children.begin(), parent.children.end());
+    parent.children = {};
+    if (&parent != &root && !RowOf(parent).writesChildren) continue;
+    for (VoA2LElement* child : children) {
+      if (child->kind == KIND_UNKNOWN || !RowOf(*child).survives(*child)) continue;
+      if (child->kind == Kind::ASAP2_VERSION && std::exchange(hasVersion, true)) continue;
+      parent.AddChild(child);
+      waiting.push_back(child);
+    }
+  }
 }
 
 }  // namespace a2l::fuzz

@@ -13,6 +13,7 @@ namespace a2l::fuzz {
 /// - a CALIBRATION_HANDLE_TEXT, which is written under another keyword;
 /// - an A2ML, which is written with an indentation that then counts as part of its text;
 /// - a CALIBRATION_HANDLE or an ECU_CALIBRATION_OFFSET below 0, written as "0x-1A";
+/// - a FORMAT without a text, which is wrong;
 /// - an enumeration without a word, or an empty name: nothing is written in its place;
 /// - a name with quotes that is not one quoted text as a whole, or cut so that white space is last;
 /// - a name or a line of kept text that holds the signs of a comment;
@@ -25,7 +26,9 @@ namespace a2l::fuzz {
 /// without them.
 bool RoundTrips(const VoA2LElement& root);
 
-/// True when nothing is lost either: the tree holds no unknown block.
-bool IsWrittenWhole(const VoA2LElement& root);
+/// Takes out of the tree whatever stands against that promise, and what is not written at all, and
+/// forgets which objects were not valid, which the text does not say. What is left comes back
+/// complete: the same text, the same document.
+void KeepWhatRoundTrips(VoA2LElement& root);
 
 }  // namespace a2l::fuzz
