@@ -328,10 +328,11 @@ class Generator {
     if (random.Percent(1)) phrase += R"( (""nominal""))";
     if (random.Percent(1)) phrase += R"( \"learned\")";
     if (random.Percent(1)) phrase += " // see /* above */";
-    if (random.Percent(2))
+    if (random.Percent(2)) {
       phrase +=
           " in \xC2\xB0"
           "C";
+    }
     return phrase;
   }
 
@@ -371,7 +372,7 @@ class Generator {
     Line("ANNOTATION_ORIGIN \"{}\"", random.Percent(50) ? "software" : "calibration");
     Begin("ANNOTATION_TEXT", "");
     for (std::size_t lines = 1 + random.Below(4); lines > 0; --lines) {
-      Line("\"{}\\r\\n\"", Phrase(random, 5, 14));
+      Line(R"("{}\r\n")", Phrase(random, 5, 14));
     }
     End("ANNOTATION_TEXT");
     End("ANNOTATION");
@@ -417,7 +418,7 @@ class Generator {
     Begin("MEMORY_SEGMENT",
           " Data \"Calibration data\" DATA FLASH INTERN 0x80000000 0x1000000 -1 -1 -1 -1 -1");
     End("MEMORY_SEGMENT");
-    Line("SYSTEM_CONSTANT \"CYLINDERS\" \"6\"");
+    Line(R"(SYSTEM_CONSTANT "CYLINDERS" "6")");
     End("MOD_PAR");
     Begin("MOD_COMMON", " \"Defaults\"");
     Line("BYTE_ORDER MSB_LAST");
@@ -447,7 +448,8 @@ class Generator {
     }
     Line("{} {} {} {} {} {}", type.name, conversion.name, random.Percent(75) ? 1 : 0,
          random.Percent(25) ? 100 : 0, lower, upper);
-    if (random.Percent(10)) Line("BIT_MASK 0x{:X}", 1U << random.Below(8 * type.bytes));
+    if (random.Percent(10))
+      Line("BIT_MASK 0x{:X}", 1U << random.Below(std::size_t{8} * type.bytes));
     if (random.Percent(6)) Line("MATRIX_DIM {} 1 1", 2 + random.Below(15));
     Line("ECU_ADDRESS 0x{:08X}", address);
     if (random.Percent(50)) Line("ECU_ADDRESS_EXTENSION 0x0");
@@ -542,7 +544,7 @@ class Generator {
   void Unit(std::size_t index) {
     Random random = BodyOf(kUnit, index);
     const UnitText& unit = kUnits.at(index);
-    Begin("UNIT", " {} \"{}\" \"{}\" EXTENDED_SI", unit.name, Phrase(random, 1, 4), unit.display);
+    Begin("UNIT", R"( {} "{}" "{}" EXTENDED_SI)", unit.name, Phrase(random, 1, 4), unit.display);
     Line("SI_EXPONENTS {}", unit.exponents);
     End("UNIT");
   }
@@ -555,7 +557,7 @@ class Generator {
                                                             "TAB_VERB", "TAB_VERB", "TAB_INTP"};
     Begin("COMPU_METHOD", " {}", conversion.name);
     Line("\"{}\"", Phrase(random, 2, 5));
-    Line("{} \"{}\" \"{}\"", kKindWords.at(static_cast<std::size_t>(conversion.kind)),
+    Line(R"({} "{}" "{}")", kKindWords.at(static_cast<std::size_t>(conversion.kind)),
          FormatText(random), unit.display);
     switch (conversion.kind) {
       case ConversionKind::Rational:

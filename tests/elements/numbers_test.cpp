@@ -2,6 +2,7 @@
 #include "elements/numbers.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cerrno>
 #include <charconv>
@@ -22,8 +23,8 @@
 namespace a2l::test {
 namespace {
 
-using std::string_literals::operator""s;
-using std::string_view_literals::operator""sv;
+using namespace std::string_literals;
+using namespace std::string_view_literals;
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
@@ -538,9 +539,10 @@ std::vector<double> ManyDoubles() {
     }
   }
   for (int exponent = -30; exponent <= 30; ++exponent) {
-    for (const int mantissa : {1, 12, 123, 123456789})
+    for (const int mantissa : {1, 12, 123, 123456789}) {
       values.push_back(std::strtod(Printed("%.0f", mantissa).c_str(), nullptr) *
                        std::pow(10, exponent));
+    }
   }
   for (int i = 0; i < 20000; ++i) {
     const auto value = std::bit_cast<double>(random());
@@ -608,12 +610,11 @@ bool ReadsBackWith(int digits, double value, int& exponent) {
   nearest.resize(e);
   std::erase(nearest, '.');
   const std::int64_t number = std::strtoll(nearest.c_str(), nullptr, 10);
-  for (const std::int64_t candidate : {number, number - 1, number + 1}) {
-    const std::string text =
-        std::to_string(candidate) + "e" + std::to_string(exponent - (digits - 1));
-    if (std::strtod(text.c_str(), nullptr) == value) return true;
-  }
-  return false;
+  const std::string power = "e" + std::to_string(exponent - (digits - 1));
+  const std::array candidates = {number, number - 1, number + 1};
+  return std::ranges::any_of(candidates, [&](std::int64_t candidate) {
+    return std::strtod((std::to_string(candidate) + power).c_str(), nullptr) == value;
+  });
 }
 
 // Length of the shortest text of a finite number, from the fewest digits that read back to it.
@@ -626,7 +627,8 @@ std::size_t ShortestLength(double value) {
   const int plain = exponent >= digits - 1 ? exponent + 1
                     : exponent >= 0        ? digits + 1
                                            : digits + 1 - exponent;
-  return static_cast<std::size_t>(std::min(plain, scientific) + (std::signbit(value) ? 1 : 0));
+  const int length = std::min(plain, scientific) + (std::signbit(value) ? 1 : 0);
+  return static_cast<std::size_t>(length);
 }
 
 TEST(ShortestText, ReadsBackAndCannotBeShorter) {

@@ -63,6 +63,7 @@ TEST(JsonText, EscapesWhatTheOtherWriterEscapes) {
       {"\xE2\x80\xA8", R"("\u2028")"},
       {"a\xE2\x80\xA9z", R"("a\u2029z")"},
       {"\xE2\x80\xA8\xE2\x80\xA9", R"("\u2028\u2029")"},
+      // NOLINTNEXTLINE(misc-misleading-bidirectional): the bytes next to those that are escaped
       {"\xE2\x80\xA7\xE2\x80\xAA", "\"\xE2\x80\xA7\xE2\x80\xAA\""},
       {"\xE2\x82\xAC", "\"\xE2\x82\xAC\""},
       {"\xE2\x80", "\"\xE2\x80\""},
@@ -123,7 +124,7 @@ TEST(JsonText, WritesRealsWith17Digits) {
       {1e-5, "1.0000000000000001e-05"},
       {1e16, "10000000000000000"},
       {1e17, "1e+17"},
-      {12345678901234568, "12345678901234568"},
+      {12345678901234568., "12345678901234568"},
       {1e22, "1e+22"},
       {1e100, "1e+100"},
       {1.7976931348623157e308, "1.7976931348623157e+308"},

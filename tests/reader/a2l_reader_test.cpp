@@ -26,6 +26,8 @@
 namespace a2l::test {
 namespace {
 
+using namespace std::string_view_literals;
+
 const std::filesystem::path kExamples =
     std::filesystem::path(A2L2JSON_CASES).parent_path().parent_path() / "examples";
 
@@ -121,7 +123,7 @@ TEST(A2LReader, ReadsATextInMemoryAsItReadsAFile) {
   EXPECT_FALSE(reader.ParseText("/end PROJECT", root.get()));
   EXPECT_FALSE(reader.ParseText(kSmallFile, nullptr));
   EXPECT_TRUE(reader.ParseText({}, Tree().get()));
-  EXPECT_TRUE(reader.ParseText(std::string_view("/begin PROJECT P \"\0\"", 21), Tree().get()));
+  EXPECT_TRUE(reader.ParseText("/begin PROJECT P \"\0\""sv, Tree().get()));
 }
 
 // A large text is not copied as a whole, only what the tree keeps of it.

@@ -15,7 +15,7 @@
 namespace a2l::test {
 namespace {
 
-using std::string_literals::operator""s;
+using namespace std::string_literals;
 
 struct Lines {
   std::vector<std::string> lines;

@@ -12,7 +12,7 @@
 namespace a2l::test {
 namespace {
 
-using std::string_view_literals::operator""sv;
+using namespace std::string_view_literals;
 
 // Everything that matters to tokens, and one letter for all that does not.
 constexpr std::string_view kAlphabet = " \t\r\n\"\\a";

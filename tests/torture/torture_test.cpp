@@ -25,8 +25,8 @@
 namespace a2l::test {
 namespace {
 
-using std::string_literals::operator""s;
-using std::string_view_literals::operator""sv;
+using namespace std::string_literals;
+using namespace std::string_view_literals;
 
 constexpr const char* kHead = "/begin PROJECT p \"\"\n/begin MODULE m \"\"\n";  // two lines
 constexpr const char* kTail = "/end MODULE\n/end PROJECT\n";

@@ -51,7 +51,7 @@ TEST(TextLists, TakeQuotedTexts) {
         {keyword, R"( a "b")", true, "",
          begin + quote + quote + " \n  " + quote + "b" + quote + " \n" + end},
         {keyword, R"("a""b" "")", true, "",
-         begin + (quote.empty() ? "a\"b" : "\"a\\\"b\"") + " \n  " + quote + quote + " \n" + end},
+         begin + (quote.empty() ? R"(a"b)" : R"("a\"b")") + " \n  " + quote + quote + " \n" + end},
         {keyword, '"' + longText + '"', true, "", begin + quote + longText + quote + " \n" + end},
         {keyword, "", true, "", "/begin " + keyword + "\n" + end},
     };

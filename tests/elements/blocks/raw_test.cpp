@@ -11,7 +11,7 @@
 namespace a2l::test {
 namespace {
 
-using std::string_view_literals::operator""sv;
+using namespace std::string_view_literals;
 
 TEST(IfData, SplitsOffItsName) {
   const std::string name(1024, 'n');
