@@ -74,9 +74,11 @@ void EndAtOnce(int code) {
 
 #else
 
+#include <csignal>
+
 namespace a2l {
 
-void BeginProcess(int& /*argc*/, char**& /*argv*/) {}
+void BeginProcess(int& /*argc*/, char**& /*argv*/) { std::signal(SIGPIPE, SIG_IGN); }
 
 void EndAtOnce(int code) { std::_Exit(code); }
 
