@@ -33,7 +33,7 @@ inline constexpr std::size_t kScaleDown = 1;
 #endif
 
 inline constexpr std::size_t kMillion = 1000000 / kScaleDown;
-inline constexpr std::size_t kMegabyte = 1024 * 1024 / kScaleDown;
+inline constexpr std::size_t kMegabyte = std::size_t{1024} * 1024 / kScaleDown;
 
 /// A text, `times` over.
 struct Part {

@@ -4,16 +4,19 @@
 // some part of the program could take too much work for, its cost is compared with the cost of an
 // input sixteen times as long. No clock is read. Steps of growth (buffers that double) even out
 // over two quadruplings, so the cost may grow by 25, which is five for each of them.
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <optional>
 #include <sstream>
 #include <string>
+#include <string_view>
 
 #include <gtest/gtest.h>
 
 #include "export/json_writer.h"
+#include "reader/line_source.h"
 #include "tests/support/trees.h"
 #include "tests/torture/generated_text.h"
 #include "tests/torture/meters.h"
@@ -34,9 +37,9 @@ struct Shape {
 };
 
 // What stands around the content of a module.
-Shape InModule(const char* name, const char* open, Part repeated, const char* close) {
+Shape InModule(const char* name, std::string_view open, Part repeated, const char* close) {
   return {name,
-          {"/begin PROJECT p \"\"\n/begin MODULE m \"\"\n", open},
+          {"/begin PROJECT p \"\"\n/begin MODULE m \"\"\n", Part(open, 1)},
           std::move(repeated),
           {close, "\n/end MODULE\n/end PROJECT\n"}};
 }
@@ -53,6 +56,7 @@ Part Numbered(const char* before, const char* behind) {
 
 std::vector<Shape> Shapes() {
   const char* const measurement = "/begin MEASUREMENT x \"\" UBYTE c 1 1 0 1\n";
+  const std::string dimensions = std::string(measurement) + "MATRIX_DIM ";
   const char* const text = "/begin MOD_COMMON \"";
   return {
       {"BlankLines", {}, Times("\n"), {}},
@@ -76,7 +80,7 @@ std::vector<Shape> Shapes() {
        {}},
       {"Modules", {"/begin PROJECT p \"\"\n"}, Times("/begin MODULE m \"\"\n/end MODULE\n"), {}},
       {"Versions", {}, Numbered("ASAP2_VERSION 1 ", "\n"), {}},
-      InModule("LongText", text, Times("ab\\\"cd\"\""), "\"\n/end MOD_COMMON"),
+      InModule("LongText", text, Times(R"(ab\"cd"")"), "\"\n/end MOD_COMMON"),
       InModule("LongTextOverLines", text, Times("a\n"), "\"\n/end MOD_COMMON"),
       InModule("TextOfSeparators", text, Times("\xE2\x80\xA8"), "\"\n/end MOD_COMMON"),
       InModule("UnclosedText", text, Times("a\n"), "/end MOD_COMMON"),
@@ -88,8 +92,7 @@ std::vector<Shape> Shapes() {
       InModule("Properties", measurement, Times("FORMAT \"%1\"\nDISCRETE\n"), "/end MEASUREMENT"),
       InModule("WrongProperties", measurement, Times("ECU_ADDRESS z\nBYTE_ORDER\nz\n"),
                "/end MEASUREMENT"),
-      InModule("Dimensions", (measurement + std::string("MATRIX_DIM ")).c_str(), Times("1 2\n"),
-               "/end MEASUREMENT"),
+      InModule("Dimensions", dimensions, Times("1 2\n"), "/end MEASUREMENT"),
       InModule("Names", "/begin GROUP g \"\"\n/begin SUB_GROUP\n", Numbered("n", "\n"),
                "/end SUB_GROUP\n/end GROUP"),
       InModule("NamesOnOneLine", "/begin GROUP g \"\"\n/begin SUB_GROUP ", Numbered("n", " "),
@@ -140,15 +143,15 @@ using Meter = std::optional<std::uint64_t> (*)(const std::function<void()>& work
 
 // True unless the meter does not work here.
 bool ExpectProportion(Meter meter, std::size_t times) {
-  for (const Shape& shape : Shapes()) {
+  return std::ranges::all_of(Shapes(), [&](const Shape& shape) {
     Work(shape, times)();  // what is made once and for all does not count
     const std::optional<std::uint64_t> less = meter(Work(shape, times));
     if (!less.has_value()) return false;
     const std::optional<std::uint64_t> more = meter(Work(shape, kFactor * times));
     EXPECT_TRUE(more.has_value() && *more <= kMostGrowth * *less)
         << shape.name << ": " << *less << ", then " << more.value_or(0);
-  }
-  return true;
+    return true;
+  });
 }
 
 TEST(Linear, MemoryGrowsWithTheInput) {
@@ -161,6 +164,24 @@ TEST(Linear, WorkGrowsWithTheInput) {
   if (!ExpectProportion(ExecutedInstructions, 2000)) {
     GTEST_SKIP() << "instructions are not counted on this system";
   }
+}
+
+// A line that does not fit into the buffer is searched once, however often the buffer grows for it.
+TEST(Linear, WorkGrowsWithALine) {
+  const auto search = [](std::size_t size, std::size_t pieceSize) {
+    return ExecutedInstructions([=] {
+      std::istringstream in(std::string(size, 'x'));
+      LineSource source(in, pieceSize);
+      std::string_view line;
+      EXPECT_TRUE(source.Next(line));
+      EXPECT_EQ(line.size(), size);
+    });
+  };
+  const std::size_t size = 8192;
+  const std::size_t pieceSize = 16;
+  const std::optional<std::uint64_t> less = search(size, pieceSize);
+  if (!less.has_value()) GTEST_SKIP() << "instructions are not counted on this system";
+  EXPECT_LE(search(kFactor * size, pieceSize), kMostGrowth * *less);
 }
 
 // The meters themselves: they see the work that is done, and four times as much of it.
