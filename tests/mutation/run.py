@@ -9,7 +9,8 @@ applied to a copy of the repository in build/mutation, which is then built and t
 tests first, up to the first that fails.
 
 Exits with 1 when a mutation survives, with 2 when a text of mutations.txt does not occur exactly
-once or the tests fail without any mutation.
+once, the tests fail without any mutation, or a mutated program does not compile: what the tests
+would say to it is then unknown, unless it is a static assertion that notices.
 """
 
 import argparse
@@ -38,6 +39,7 @@ INSIDE = [
     ("generated files", "Generator.*"),
     ("torture", "Torture.*:Linear.*"),
 ]
+UNKNOWN = "nobody, it does not compile"
 SECONDS = 300  # a test that takes longer has been caught in a loop
 
 
@@ -131,14 +133,22 @@ def run_tests(program, stages):
     return None
 
 
+def compile_verdict(target, jobs):
+    """None where the target compiles."""
+    result = build(target, jobs)
+    if result.returncode == 0:
+        return None
+    return "a static assertion" if b"static assertion failed" in result.stdout else UNKNOWN
+
+
 def verdict(tests, jobs):
     """Who notices the mutation that the copy holds; None when nobody does."""
-    if build("a2l2json", jobs).returncode != 0:
-        return "compiler"
+    if (noticed := compile_verdict("a2l2json", jobs)) is not None:
+        return noticed
     caught = run_tests(tests, OUTSIDE)
     if caught is None:
-        if build("a2l2json_tests", jobs).returncode != 0:
-            return "compiler"
+        if (noticed := compile_verdict("a2l2json_tests", jobs)) is not None:
+            return noticed
         caught = run_tests(BUILD / "a2l2json_tests", INSIDE)
     return caught
 
@@ -174,6 +184,7 @@ def main():
     print("without a mutation all tests pass", flush=True)
 
     survivors = []
+    unknown = []
     for number, mutation in enumerate(chosen, 1):
         path = COPY / mutation.file
         text = path.read_text()
@@ -185,14 +196,19 @@ def main():
             path.write_text(text)
         if caught is None:
             survivors.append(mutation)
+        elif caught == UNKNOWN:
+            unknown.append(mutation)
         print(f"[{number}/{len(chosen)}] {mutation.file}: {mutation.title}\n"
               f"    {'SURVIVES' if caught is None else 'caught by ' + caught}"
               f" ({time.monotonic() - begun:.0f} s)", flush=True)
 
-    print(f"{len(chosen) - len(survivors)} of {len(chosen)} mutations are caught")
+    caught = len(chosen) - len(survivors) - len(unknown)
+    print(f"{caught} of {len(chosen)} mutations are caught")
     for mutation in survivors:
         print(f"SURVIVES: {mutation.file}: {mutation.title}")
-    return 1 if survivors else 0
+    for mutation in unknown:
+        print(f"DOES NOT COMPILE: {mutation.file}: {mutation.title}")
+    return 2 if unknown else 1 if survivors else 0
 
 
 if __name__ == "__main__":
