@@ -37,11 +37,14 @@ bool VoA2LElement::AddChild(VoA2LElement* child) { return Attach(child, kBaseChi
 std::int32_t VoA2LElement::MoreParameterCount() const { return HasMoreParameters() ? 0 : -1; }
 
 void VoA2LElement::MakeStore() {
-  if (parent != nullptr) {
-    store = &parent->Store();
-  } else {
-    store = new TreeStore;  // released by DestroyTree
-    store->root = this;
+  VoA2LElement* top = this;
+  while (top->store == nullptr && top->parent != nullptr) top = top->parent;
+  if (top->store == nullptr) {
+    top->store = new TreeStore;  // released by DestroyTree
+    top->store->root = top;
+  }
+  for (VoA2LElement* element = this; element->store == nullptr; element = element->parent) {
+    element->store = top->store;
   }
 }
 
