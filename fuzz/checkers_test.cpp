@@ -92,6 +92,9 @@ TEST(RoundTrips, IsNotPromisedForWhatChanges) {
   EXPECT_FALSE(module("/begin COMPU_TAB t \"\" TAB_INTP 2 2 3\n/end COMPU_TAB"));
   EXPECT_TRUE(module("/begin IF_DATA X \"a // b\"\n c\n/end IF_DATA"));
   EXPECT_FALSE(module("\" /begin IF_DATA X // b\n c\n/end IF_DATA"));
+  EXPECT_TRUE(module("/begin IF_DATA\nX\nY b\n/end IF_DATA"));
+  EXPECT_FALSE(module("/begin IF_DATA\nX\r\nY b\n/end IF_DATA"));
+  EXPECT_FALSE(module("/begin IF_DATA\nX/begin b\n/end b\n/end IF_DATA"));
 
   EXPECT_TRUE(RoundTrips(*Read("ASAP2_VERSION 1 2").root));
   EXPECT_FALSE(RoundTrips(*Read("ASAP2_VERSION 1 2\nASAP2_VERSION 1 3").root));

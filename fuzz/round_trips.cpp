@@ -127,6 +127,8 @@ template <class Class>
 bool ElementSurvives(const VoA2LElement& element) {
   const auto& self = static_cast<const Class&>(element);
   if constexpr (std::is_same_v<Class, VoA2LElementIfData>) {
+    const std::string_view firstLine = self.NAME.substr(0, self.NAME.find('\n'));
+    if (HasMarker(self.NAME) || (!firstLine.empty() && IsTrimmed(firstLine.back()))) return false;
     return self.NAME.find('"') == std::string_view::npos &&
            self.NAME.size() < kMostIdentifierBytes && SurvivesAsRawText(self.NAME) &&
            SurvivesAsRawText(self.IF_DATA);

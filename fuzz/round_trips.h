@@ -17,6 +17,8 @@ namespace a2l::fuzz {
 /// - an enumeration without a word, or an empty name: nothing is written in its place;
 /// - a name with quotes that is not one quoted text as a whole, or cut so that white space is last;
 /// - a name or a line of kept text that holds the signs of a comment;
+/// - a name of interface data that holds a marker, or goes on over lines, the first of which ends
+///   with white space;
 /// - a name that is a keyword, where it begins a line of a list;
 /// - a text that ends with a backslash: the quote behind it does not close;
 /// - a table whose rows are not as many as declared;
