@@ -651,9 +651,9 @@ std::string GenerateLines(std::string_view keyword, std::uint64_t seed) {
 }
 
 std::int32_t NumberOf(std::string_view keyword) {
-  for (const NumberedKeyword& numbered : AllKeywords()) {
-    if (numbered.keyword == keyword) return numbered.number;
-  }
+  static const std::vector<NumberedKeyword> all = AllKeywords();
+  const auto found = std::ranges::find(all, keyword, &NumberedKeyword::keyword);
+  if (found != all.end()) return found->number;
   return keyword.empty() ? 0 : 25535;
 }
 
