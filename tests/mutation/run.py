@@ -111,9 +111,11 @@ def build(target, jobs):
                           stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
 
 
-def limit_memory():
+def limit_resources():
     limit = 6 << 30
     resource.setrlimit(resource.RLIMIT_AS, (limit, limit))
+    # Also for the program that a test runs, which nobody ends when the test itself is ended.
+    resource.setrlimit(resource.RLIMIT_CPU, (SECONDS, SECONDS))
 
 
 def run_tests(program, stages):
@@ -123,7 +125,7 @@ def run_tests(program, stages):
             result = subprocess.run(
                 [str(program), f"--gtest_filter={tests}", "--gtest_fail_fast", "--gtest_brief=1"],
                 stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=SECONDS,
-                preexec_fn=limit_memory)
+                preexec_fn=limit_resources)
         except subprocess.TimeoutExpired:
             return f"{stage}: no end"
         if result.returncode != 0:
