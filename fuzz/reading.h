@@ -1,26 +1,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <memory>
 #include <sstream>
 #include <string>
 #include <string_view>
 
 #include "fuzz/check.h"
-#include "model/element.h"
+#include "model/tree.h"
 #include "reader/a2l_reader.h"
 
 namespace a2l::fuzz {
 
-struct TreeDeleter {
-  void operator()(VoA2LElement* root) const { DestroyTree(root); }
-};
-using Tree = std::unique_ptr<VoA2LElement, TreeDeleter>;
-
 /// What the reader made of a text.
 struct Reading {
   bool ok = false;
-  Tree root{NewTree()};
+  Tree root;
   A2LReader reader;
 };
 
