@@ -105,6 +105,8 @@ bool HasMemberOfItsOwn(const Node& node, std::string_view property) {
          !(node.keyword == "AXIS_PTS" && property == "DEPOSIT");
 }
 
+std::string TextOf(const Value& value) { return std::get<std::string>(value); }
+
 std::string Join(const std::vector<Value>& items, std::string (*toText)(const Value&)) {
   std::string joined;
   for (const Value& item : items) joined += toText(item) + ',';
@@ -190,39 +192,36 @@ void ExpectIdentification(const Json& json, const Node& node, const std::string&
 
 // What stands in objects of several kinds under a key that is put together.
 void ExpectSpecialKeys(const Json& json, const Node& node, const std::string& here) {
-  const auto join = Join;
-  const auto name = [](const Value& item) { return std::get<std::string>(item); };
   const auto handle = [](const Value& item) {
     return std::to_string(std::get<std::int32_t>(item));
   };
   if (node.keyword == "MEMORY_LAYOUT" || node.keyword == "MEMORY_SEGMENT") {
     const std::vector<Value> offsets(node.values.end() - 5, node.values.end());
-    ExpectJson(json["FOFFSET"], join(offsets, handle), here);
+    ExpectJson(json["FOFFSET"], Join(offsets, handle), here);
   } else if (node.keyword == "CALIBRATION_HANDLE") {
-    ExpectJson(json["FHANDLE"], join(node.items, handle), here);
-    const auto texts = ChildrenOf(node, "CALIBRATION_HANDLE_TEXT");
-    ExpectJson(json["FHANDLE_TEXT"], texts.empty() ? Json() : ToJson11(texts.front()->values.at(0)),
-               here);
+    ExpectJson(json["FHANDLE"], Join(node.items, handle), here);
+    const Node* text = FirstOf(node, "CALIBRATION_HANDLE_TEXT");
+    ExpectJson(json["FHANDLE_TEXT"], text ? ToJson11(text->values.at(0)) : Json(), here);
   } else if (node.keyword == "BIT_OPERATION") {
     const bool extends = !ChildrenOf(node, "SIGN_EXTEND").empty();
     ExpectJson(json["FSIGN_EXTEND"], extends ? Json("SIGN_EXTEND") : Json(), here);
   } else if (node.keyword == "VAR_CRITERION") {
-    ExpectJson(json["FVALUE"], join(node.items, name), here);
+    ExpectJson(json["FVALUE"], Join(node.items, TextOf), here);
   } else if (node.keyword == "VAR_CHARACTERISTIC") {
-    ExpectJson(json["FCRITERION_NAME"], join(node.items, name), here);
+    ExpectJson(json["FCRITERION_NAME"], Join(node.items, TextOf), here);
     const bool isFirst = !node.children.empty() && node.children.front()->keyword == "VAR_ADDRESS";
     ExpectJson(json["FVAR_ADDRESS"],
-               isFirst ? Json(join(node.children.front()->items, InDecimal)) : Json(), here);
+               isFirst ? Json(Join(node.children.front()->items, InDecimal)) : Json(), here);
   } else if (node.keyword == "MOD_PAR") {
     std::vector<Value> addresses;
     for (const Node* child : ChildrenOf(node, "ADDR_EPK")) {
       addresses.push_back(child->values.at(0));
     }
-    ExpectJson(json["FADDR_EPK"], addresses.empty() ? Json() : Json(join(addresses, InDecimal)),
+    ExpectJson(json["FADDR_EPK"], addresses.empty() ? Json() : Json(Join(addresses, InDecimal)),
                here);
   } else if (node.keyword == "USER_RIGHTS") {
     std::string groups;
-    for (const Node* child : ChildrenOf(node, "REF_GROUP")) groups += join(child->items, name);
+    for (const Node* child : ChildrenOf(node, "REF_GROUP")) groups += Join(child->items, TextOf);
     ExpectJson(json["FREF_GROUP"], groups, here);
   } else if (node.keyword == "COMPU_METHOD") {
     for (const char* coefficients : {"COEFFS", "COEFFS_LINEAR"}) {
@@ -258,7 +257,7 @@ void ExpectSpecialKeys(const Json& json, const Node& node, const std::string& he
     } else {
       ExpectJson(json[key]["FFORMULA"], ToJson11(first->values.at(0)), here + "/" + list);
       ExpectJson(json[key]["FCHARACTERISTIC"],
-                 first->keyword == "VIRTUAL_CHARACTERISTIC" ? Json(join(first->items, name))
+                 first->keyword == "VIRTUAL_CHARACTERISTIC" ? Json(Join(first->items, TextOf))
                                                             : Json(ArrayOf(first->items)),
                  here + "/" + list);
     }
@@ -277,12 +276,12 @@ void ExpectSpecialKeys(const Json& json, const Node& node, const std::string& he
 void ExpectAnnotation(const Json& json, const Node& node, const std::string& here) {
   Json::object expected;
   for (const char* property : {"ANNOTATION_LABEL", "ANNOTATION_ORIGIN", "ANNOTATION_TEXT"}) {
-    const std::vector<const Node*> there = ChildrenOf(node, property);
-    if (there.empty()) continue;
+    const Node* first = FirstOf(node, property);
+    if (first == nullptr) continue;
     std::string text;
-    for (const Value& line : there.front()->items) text += std::get<std::string>(line);
+    for (const Value& line : first->items) text += TextOf(line);
     expected["F" + std::string(property)] =
-        there.front()->values.empty() ? Json(text) : ToJson11(there.front()->values.at(0));
+        first->values.empty() ? Json(text) : ToJson11(first->values.at(0));
   }
   ExpectJson(json, expected, here);
 }
@@ -306,10 +305,7 @@ void ExpectNames(const Json& json, const Keyword& list, const Node* first,
                  const std::string& here) {
   Json expected;
   if (first != nullptr) {
-    std::string joined;
-    for (const Value& item : first->items) joined += std::get<std::string>(item) + ",";
-    if (!joined.empty()) joined.pop_back();
-    expected = joined;
+    expected = Join(first->items, TextOf);
   }
   ExpectJson(json["F" + std::string(list.text)], expected, here);
 }
@@ -363,8 +359,7 @@ void ExpectObject(const Json& json, const Node& node, const std::string& here) {
   if (!keyword.columns.empty()) ExpectColumns(json, node, here);
   for (const std::string_view text : keyword.children) {
     const Keyword& child = Find(text);
-    const std::vector<const Node*> there = ChildrenOf(node, text);
-    const Node* first = there.empty() ? nullptr : there.front();
+    const Node* first = FirstOf(node, text);
     const std::string path = here + "/" + std::string(text);
     const bool isNames = child.parameters.empty() && child.list.size() == 1 &&
                          child.list[0].type == ParameterType::Name;
@@ -393,17 +388,17 @@ void ExpectModule(const Json& json, const Node& module) {
   ExpectParameters(json, module, "MODULE");
   for (const std::string_view text : Find("MODULE").children) {
     const std::string key = "F" + std::string(text);
-    const std::vector<const Node*> there = ChildrenOf(module, text);
+    const Node* first = FirstOf(module, text);
     const bool isSingle = text == "FRAME" || text == "MOD_COMMON" || text == "MOD_PAR" ||
                           text == "VARIANT_CODING" || text == "A2ML";
     if (!isSingle) {
       ExpectObjects(json, module, text, "MODULE");
-    } else if (there.empty()) {
+    } else if (first == nullptr) {
       ExpectJson(json[key], nullptr, key);
     } else if (text == "A2ML") {
-      ExpectJson(json[key], there.front()->content, key);
+      ExpectJson(json[key], first->content, key);
     } else {
-      ExpectObject(json[key], *there.front(), key);
+      ExpectObject(json[key], *first, key);
     }
   }
 }
