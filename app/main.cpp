@@ -3,10 +3,10 @@
 #include <iostream>
 #include <string>
 
+#include "a2l2json/export/json_writer.h"
+#include "a2l2json/model/element.h"
+#include "a2l2json/reader/a2l_reader.h"
 #include "app/system.h"
-#include "export/json_writer.h"
-#include "model/element.h"
-#include "reader/a2l_reader.h"
 
 namespace {
 

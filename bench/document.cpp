@@ -6,8 +6,8 @@
 #include <fstream>
 #include <string_view>
 
-#include "export/exporter.h"
-#include "export/json_text.h"
+#include "a2l2json/export/exporter.h"
+#include "a2l2json/export/json_text.h"
 #include "tests/support/json_check.h"
 
 namespace a2l::bench {

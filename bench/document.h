@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "model/element.h"
+#include "a2l2json/model/element.h"
 
 namespace a2l::bench {
 

@@ -6,11 +6,11 @@
 #include <string>
 #include <string_view>
 
+#include "a2l2json/export/exporter.h"
+#include "a2l2json/export/json11_document.h"
+#include "a2l2json/export/json_text.h"
+#include "a2l2json/export/json_writer.h"
 #include "bench/input.h"
-#include "export/exporter.h"
-#include "export/json11_document.h"
-#include "export/json_text.h"
-#include "export/json_writer.h"
 #include "tests/support/json_check.h"
 
 namespace a2l::bench {

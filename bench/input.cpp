@@ -8,8 +8,8 @@
 
 #include <unistd.h>
 
-#include "model/keywords.h"
-#include "reader/a2l_reader.h"
+#include "a2l2json/model/keywords.h"
+#include "a2l2json/reader/a2l_reader.h"
 
 namespace a2l::bench {
 namespace {

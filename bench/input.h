@@ -12,8 +12,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include "a2l2json/model/tree.h"
 #include "bench/generate.h"
-#include "model/tree.h"
 
 namespace a2l::bench {
 

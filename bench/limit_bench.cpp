@@ -4,9 +4,9 @@
 #include <filesystem>
 #include <fstream>
 
+#include "a2l2json/export/json_writer.h"
 #include "bench/input.h"
 #include "bench/plain_copy.h"
-#include "export/json_writer.h"
 
 namespace a2l::bench {
 namespace {

@@ -11,10 +11,10 @@
 
 #include <benchmark/benchmark.h>
 
+#include "a2l2json/model/tree.h"
+#include "a2l2json/reader/a2l_reader.h"
 #include "bench/document.h"
 #include "bench/plain_copy.h"
-#include "model/tree.h"
-#include "reader/a2l_reader.h"
 
 namespace {
 

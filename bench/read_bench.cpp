@@ -5,9 +5,9 @@
 #include <cstddef>
 #include <string_view>
 
+#include "a2l2json/reader/a2l_reader.h"
+#include "a2l2json/reader/line_source.h"
 #include "bench/input.h"
-#include "reader/a2l_reader.h"
-#include "reader/line_source.h"
 
 namespace a2l::bench {
 namespace {

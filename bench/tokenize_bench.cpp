@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "a2l2json/text/tokenizer.h"
 #include "bench/input.h"
-#include "reader/tokenizer.h"
 
 namespace a2l::bench {
 namespace {

@@ -6,10 +6,10 @@
 #include <string>
 #include <utility>
 
+#include "a2l2json/export/json_writer.h"
+#include "a2l2json/reader/a2l_reader.h"
 #include "bench/document.h"
 #include "bench/input.h"
-#include "export/json_writer.h"
-#include "reader/a2l_reader.h"
 
 namespace a2l::bench {
 namespace {

@@ -21,8 +21,8 @@ function(a2l2json_archive name output)
     target_sources(${name} PRIVATE $<TARGET_OBJECTS:${room}>)
   endforeach()
   target_include_directories(
-    ${name} PUBLIC "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>"
-                   "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/a2l2json>")
+    ${name} PUBLIC "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>"
+                   "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>")
   target_compile_features(${name} PUBLIC cxx_std_20)
   set_target_properties(${name} PROPERTIES OUTPUT_NAME ${output} LINKER_LANGUAGE CXX)
   if(NOT A2L2JSON_LIBRARY)
@@ -30,7 +30,7 @@ function(a2l2json_archive name output)
   endif()
 endfunction()
 
-a2l2json_archive(a2l2json_library a2l2json a2l2json_model a2l2json_tokenizer a2l2json_elements
+a2l2json_archive(a2l2json_library a2l2json a2l2json_text a2l2json_model a2l2json_elements
                  a2l2json_reader a2l2json_export)
 add_library(a2l2json::a2l2json ALIAS a2l2json_library)
 set_target_properties(a2l2json_library PROPERTIES EXPORT_NAME a2l2json)
@@ -119,18 +119,19 @@ if(A2L2JSON_LIBRARY)
   set(version_file "${generated}/a2l2json-config-version.cmake")
 
   # What a user includes, and what that includes.
+  set(sources "${PROJECT_SOURCE_DIR}/src/a2l2json")
   install(
-    DIRECTORY "${PROJECT_SOURCE_DIR}/model" "${PROJECT_SOURCE_DIR}/elements"
+    DIRECTORY "${sources}/text" "${sources}/model" "${sources}/elements"
     DESTINATION "${headers}"
     COMPONENT library
     FILES_MATCHING
     PATTERN "*.h"
     PATTERN "*.def"
     PATTERN "file_path.h" EXCLUDE)
-  foreach(header reader/a2l_reader.h reader/diagnostics.h reader/tokenizer.h export/json_writer.h)
+  foreach(header reader/a2l_reader.h reader/diagnostics.h export/json_writer.h)
     cmake_path(GET header PARENT_PATH room)
     install(
-      FILES "${PROJECT_SOURCE_DIR}/${header}"
+      FILES "${sources}/${header}"
       DESTINATION "${headers}/${room}"
       COMPONENT library)
   endforeach()
@@ -149,7 +150,7 @@ if(A2L2JSON_LIBRARY)
     COMPONENT library)
   if(TARGET a2l2json_json11)
     install(
-      FILES "${PROJECT_SOURCE_DIR}/export/json11_document.h"
+      FILES "${sources}/export/json11_document.h"
       DESTINATION "${headers}/export"
       COMPONENT library)
     install(TARGETS a2l2json_json11 EXPORT a2l2json-json11-targets COMPONENT library)

@@ -5,7 +5,7 @@ include_guard(GLOBAL)
 # a2l2json_room(<name> SOURCES <file>... [LINKS <target>...] [PRIVATE_LINKS <target>...])
 #
 # One static library per folder ("room") of the program. Headers are included by their path from
-# the top of the repository, as in #include "model/element.h". LINKS are visible to whoever links
+# the top of the repository, as in #include "a2l2json/model/element.h". LINKS are visible to whoever links
 # the room, PRIVATE_LINKS only to the room's own sources.
 #
 # Rooms that end up in the installed library are compiled without interprocedural optimisation,
@@ -18,7 +18,7 @@ function(a2l2json_room name)
                         "by LINKS and PRIVATE_LINKS; got: ${ARGN}")
   endif()
   add_library(${name} STATIC ${room_SOURCES})
-  target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}")
+  target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
   target_compile_features(${name} PUBLIC cxx_std_20)
   target_link_libraries(${name} PUBLIC ${room_LINKS} PRIVATE a2l2json_flags ${room_PRIVATE_LINKS})
   if(A2L2JSON_LIBRARY)

@@ -20,7 +20,7 @@
 #include <variant>
 #include <vector>
 
-#include "export/json_schema.h"
+#include "a2l2json/export/json_schema.h"
 
 namespace a2l {
 namespace {

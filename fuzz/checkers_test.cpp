@@ -10,12 +10,12 @@
 
 #include <gtest/gtest.h>
 
-#include "export/json_writer.h"
+#include "a2l2json/export/json_writer.h"
+#include "a2l2json/model/tree.h"
 #include "fuzz/a2l_mutator.h"
 #include "fuzz/naive_tokenizer.h"
 #include "fuzz/reading.h"
 #include "fuzz/round_trips.h"
-#include "model/tree.h"
 #include "tests/generator/generator.h"
 
 namespace a2l::fuzz {

@@ -10,10 +10,10 @@
 #include <string_view>
 #include <vector>
 
-#include "export/json_writer.h"
+#include "a2l2json/export/json_writer.h"
+#include "a2l2json/reader/diagnostics.h"
 #include "fuzz/check.h"
 #include "fuzz/reading.h"
-#include "reader/diagnostics.h"
 #include "tests/support/json_check.h"
 
 namespace a2l::fuzz {

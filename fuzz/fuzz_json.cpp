@@ -11,9 +11,9 @@
 
 #include <json11.hpp>
 
-#include "export/json11_document.h"
-#include "export/json_text.h"
-#include "export/json_writer.h"
+#include "a2l2json/export/json11_document.h"
+#include "a2l2json/export/json_text.h"
+#include "a2l2json/export/json_writer.h"
 #include "fuzz/check.h"
 #include "fuzz/reading.h"
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "export/json_writer.h"
+#include "a2l2json/export/json_writer.h"
 #include "fuzz/check.h"
 #include "fuzz/reading.h"
 #include "fuzz/round_trips.h"

@@ -11,12 +11,12 @@
 #include <string_view>
 #include <vector>
 
-#include "elements/fields.h"
+#include "a2l2json/elements/fields.h"
+#include "a2l2json/reader/comments.h"
+#include "a2l2json/reader/line_source.h"
+#include "a2l2json/text/tokenizer.h"
 #include "fuzz/check.h"
 #include "fuzz/naive_tokenizer.h"
-#include "reader/comments.h"
-#include "reader/line_source.h"
-#include "reader/tokenizer.h"
 
 namespace a2l::fuzz {
 namespace {

@@ -5,9 +5,9 @@
 #include <string>
 #include <string_view>
 
+#include "a2l2json/model/tree.h"
+#include "a2l2json/reader/a2l_reader.h"
 #include "fuzz/check.h"
-#include "model/tree.h"
-#include "reader/a2l_reader.h"
 
 namespace a2l::fuzz {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/element.h"
+#include "a2l2json/model/element.h"
 
 namespace a2l::fuzz {
 

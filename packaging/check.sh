@@ -149,7 +149,7 @@ say 'so does what the README shows'
 # Every header on its own.
 find "$root/usr/include/a2l2json" -name '*.h' ! -name 'json11*' -printf '%P\0' |
   xargs -0 -P "${JOBS:-2}" -I{} \
-    g++ -std=c++20 -Wall -Wextra -Werror -fsyntax-only "${flags[@]}" -include {} -x c++ /dev/null ||
+    g++ -std=c++20 -Wall -Wextra -Werror -fsyntax-only "${flags[@]}" -include a2l2json/{} -x c++ /dev/null ||
   die 'a header does not compile by itself'
 say 'each of the installed headers compiles by itself'
 

@@ -14,8 +14,8 @@
 
 #include <gtest/gtest.h>
 
-#include "export/json11_document.h"
-#include "export/json_writer.h"
+#include "a2l2json/export/json11_document.h"
+#include "a2l2json/export/json_writer.h"
 #include "tests/support/files.h"
 #include "tests/support/programs.h"
 #include "tests/support/trees.h"

@@ -14,7 +14,7 @@
 
 #include <gtest/gtest.h>
 
-#include "reader/diagnostics.h"
+#include "a2l2json/reader/diagnostics.h"
 #include "tests/support/files.h"
 #include "tests/support/kinds.h"
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <iostream>
 
-#include "elements/elements.h"
-#include "export/json_writer.h"
-#include "model/tree.h"
-#include "reader/a2l_reader.h"
+#include "a2l2json/elements/elements.h"
+#include "a2l2json/export/json_writer.h"
+#include "a2l2json/model/tree.h"
+#include "a2l2json/reader/a2l_reader.h"
 
 int main(int argc, char* argv[]) {
   if (argc != 2) return 2;

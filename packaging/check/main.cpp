@@ -10,12 +10,12 @@
 #include <sstream>
 #include <string>
 
-#include "elements/elements.h"
-#include "export/json11_document.h"
-#include "export/json_writer.h"
-#include "model/tree.h"
-#include "model/version.h"
-#include "reader/a2l_reader.h"
+#include "a2l2json/elements/elements.h"
+#include "a2l2json/export/json11_document.h"
+#include "a2l2json/export/json_writer.h"
+#include "a2l2json/model/tree.h"
+#include "a2l2json/model/version.h"
+#include "a2l2json/reader/a2l_reader.h"
 
 static std::string Bytes(const char* path) {
   std::ifstream in(path, std::ios::binary);

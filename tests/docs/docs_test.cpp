@@ -16,9 +16,9 @@
 
 #include <gtest/gtest.h>
 
-#include "export/json_schema.h"
-#include "reader/diagnostics.h"
-#include "reader/element_factory.h"
+#include "a2l2json/export/json_schema.h"
+#include "a2l2json/reader/diagnostics.h"
+#include "a2l2json/reader/element_factory.h"
 #include "tests/support/files.h"
 #include "tests/support/kinds.h"
 #include "tests/support/trees.h"

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "elements/fields.h"
+#include "a2l2json/elements/fields.h"
 
 #include <string>
 #include <string_view>
 
 #include <gtest/gtest.h>
 
-#include "reader/tokenizer.h"
+#include "a2l2json/text/tokenizer.h"
 #include "tests/support/enumerate.h"
 
 namespace a2l::test {

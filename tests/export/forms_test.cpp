@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "export/forms.h"
+#include "a2l2json/export/forms.h"
 
 #include <cstdint>
 #include <string>

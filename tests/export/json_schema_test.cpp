@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "export/json_schema.h"
+#include "a2l2json/export/json_schema.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -13,7 +13,7 @@
 #include <gtest/gtest.h>
 #include <json11.hpp>
 
-#include "export/json11_document.h"
+#include "a2l2json/export/json11_document.h"
 #include "tests/support/files.h"
 #include "tests/support/trees.h"
 

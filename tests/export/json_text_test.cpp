@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "export/json_text.h"
+#include "a2l2json/export/json_text.h"
 
 #include <bit>
 #include <cstddef>
@@ -13,7 +13,7 @@
 #include <gtest/gtest.h>
 #include <json11.hpp>
 
-#include "export/object_table.h"
+#include "a2l2json/export/object_table.h"
 
 namespace a2l::test {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "export/json_writer.h"
+#include "a2l2json/export/json_writer.h"
 
 #include <cstddef>
 #include <filesystem>
@@ -11,14 +11,14 @@
 #include <gtest/gtest.h>
 #include <json11.hpp>
 
-#include "elements/blocks/characteristic.h"
-#include "elements/blocks/instance.h"
-#include "elements/blocks/measurement.h"
-#include "elements/blocks/other.h"
-#include "elements/blocks/project.h"
-#include "elements/properties/choices.h"
-#include "export/json11_document.h"
-#include "reader/element_factory.h"
+#include "a2l2json/elements/blocks/characteristic.h"
+#include "a2l2json/elements/blocks/instance.h"
+#include "a2l2json/elements/blocks/measurement.h"
+#include "a2l2json/elements/blocks/other.h"
+#include "a2l2json/elements/blocks/project.h"
+#include "a2l2json/elements/properties/choices.h"
+#include "a2l2json/export/json11_document.h"
+#include "a2l2json/reader/element_factory.h"
 #include "tests/support/files.h"
 #include "tests/support/kinds.h"
 #include "tests/support/trees.h"

@@ -20,10 +20,10 @@
 #include <gtest/gtest.h>
 #include <json11.hpp>
 
-#include "elements/blocks/raw.h"
-#include "export/json11_document.h"
-#include "export/json_writer.h"
-#include "reader/line_source.h"
+#include "a2l2json/elements/blocks/raw.h"
+#include "a2l2json/export/json11_document.h"
+#include "a2l2json/export/json_writer.h"
+#include "a2l2json/reader/line_source.h"
 #include "tests/generator/random.h"
 #include "tests/support/kinds.h"
 #include "tests/support/trees.h"

@@ -13,8 +13,8 @@
 
 #include <gtest/gtest.h>
 
-#include "model/element.h"
-#include "reader/element_factory.h"
+#include "a2l2json/model/element.h"
+#include "a2l2json/reader/element_factory.h"
 #include "tests/support/kinds.h"
 #include "tests/support/trees.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "model/element.h"
+#include "a2l2json/model/element.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -13,12 +13,12 @@
 
 #include <gtest/gtest.h>
 
-#include "elements/blocks/functions.h"
-#include "elements/blocks/project.h"
-#include "elements/properties/numbers.h"
-#include "elements/properties/record_layout_entries.h"
-#include "reader/a2l_reader.h"
-#include "reader/element_factory.h"
+#include "a2l2json/elements/blocks/functions.h"
+#include "a2l2json/elements/blocks/project.h"
+#include "a2l2json/elements/properties/numbers.h"
+#include "a2l2json/elements/properties/record_layout_entries.h"
+#include "a2l2json/reader/a2l_reader.h"
+#include "a2l2json/reader/element_factory.h"
 #include "tests/support/files.h"
 #include "tests/support/kinds.h"
 #include "tests/support/trees.h"

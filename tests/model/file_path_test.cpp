@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "model/file_path.h"
+#include "a2l2json/model/file_path.h"
 
 #include <filesystem>
 #include <string_view>

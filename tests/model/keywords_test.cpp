@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "model/keywords.h"
+#include "a2l2json/model/keywords.h"
 
 #include <cstddef>
 #include <cstdint>

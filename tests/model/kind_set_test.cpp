@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "model/kind_set.h"
+#include "a2l2json/model/kind_set.h"
 
 #include <cstdint>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "model/tree_store.h"
+#include "a2l2json/model/tree_store.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -10,7 +10,7 @@
 
 #include <gtest/gtest.h>
 
-#include "model/element.h"
+#include "a2l2json/model/element.h"
 
 namespace a2l::test {
 namespace {

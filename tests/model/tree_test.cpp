@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "model/tree.h"
+#include "a2l2json/model/tree.h"
 
 #include <algorithm>
 #include <iterator>
@@ -12,7 +12,7 @@
 
 #include <gtest/gtest.h>
 
-#include "elements/elements.h"
+#include "a2l2json/elements/elements.h"
 #include "tests/support/trees.h"
 
 namespace a2l::test {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "model/value_sets.h"
+#include "a2l2json/model/value_sets.h"
 
 #include <cstdint>
 #include <string>

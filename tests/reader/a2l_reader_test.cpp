@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "reader/a2l_reader.h"
+#include "a2l2json/reader/a2l_reader.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -15,9 +15,9 @@
 
 #include <gtest/gtest.h>
 
-#include "elements/blocks/functions.h"
-#include "elements/blocks/raw.h"
-#include "export/json_writer.h"
+#include "a2l2json/elements/blocks/functions.h"
+#include "a2l2json/elements/blocks/raw.h"
+#include "a2l2json/export/json_writer.h"
 #include "tests/support/files.h"
 #include "tests/support/streams.h"
 #include "tests/support/trees.h"

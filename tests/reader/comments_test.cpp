@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "reader/comments.h"
+#include "a2l2json/reader/comments.h"
 
 #include <algorithm>
 #include <cstddef>

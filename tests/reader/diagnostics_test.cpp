@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "reader/diagnostics.h"
+#include "a2l2json/reader/diagnostics.h"
 
 #include <cstddef>
 #include <limits>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "reader/element_factory.h"
+#include "a2l2json/reader/element_factory.h"
 
 #include <cstdint>
 #include <limits>
@@ -10,23 +10,23 @@
 
 #include <gtest/gtest.h>
 
-#include "elements/blocks/characteristic.h"
-#include "elements/blocks/conversion.h"
-#include "elements/blocks/functions.h"
-#include "elements/blocks/instance.h"
-#include "elements/blocks/measurement.h"
-#include "elements/blocks/other.h"
-#include "elements/blocks/project.h"
-#include "elements/blocks/raw.h"
-#include "elements/blocks/record_layout.h"
-#include "elements/blocks/variant_coding.h"
-#include "elements/properties/choices.h"
-#include "elements/properties/flags.h"
-#include "elements/properties/identifiers.h"
-#include "elements/properties/lists.h"
-#include "elements/properties/numbers.h"
-#include "elements/properties/record_layout_entries.h"
-#include "elements/properties/texts.h"
+#include "a2l2json/elements/blocks/characteristic.h"
+#include "a2l2json/elements/blocks/conversion.h"
+#include "a2l2json/elements/blocks/functions.h"
+#include "a2l2json/elements/blocks/instance.h"
+#include "a2l2json/elements/blocks/measurement.h"
+#include "a2l2json/elements/blocks/other.h"
+#include "a2l2json/elements/blocks/project.h"
+#include "a2l2json/elements/blocks/raw.h"
+#include "a2l2json/elements/blocks/record_layout.h"
+#include "a2l2json/elements/blocks/variant_coding.h"
+#include "a2l2json/elements/properties/choices.h"
+#include "a2l2json/elements/properties/flags.h"
+#include "a2l2json/elements/properties/identifiers.h"
+#include "a2l2json/elements/properties/lists.h"
+#include "a2l2json/elements/properties/numbers.h"
+#include "a2l2json/elements/properties/record_layout_entries.h"
+#include "a2l2json/elements/properties/texts.h"
 #include "tests/support/kinds.h"
 #include "tests/support/trees.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "reader/line_source.h"
+#include "a2l2json/reader/line_source.h"
 
 #include <cstddef>
 #include <ios>

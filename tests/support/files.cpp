@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "model/file_path.h"
+#include "a2l2json/model/file_path.h"
 
 namespace a2l::test {
 

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "model/keywords.h"
+#include "a2l2json/model/keywords.h"
 
 namespace a2l::test {
 

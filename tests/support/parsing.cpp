@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "reader/element_factory.h"
+#include "a2l2json/reader/element_factory.h"
 
 namespace a2l::test {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "model/element.h"
+#include "a2l2json/model/element.h"
 #include "tests/support/trees.h"
 
 namespace a2l::test {

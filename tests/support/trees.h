@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "model/tree.h"
-#include "reader/a2l_reader.h"
+#include "a2l2json/model/tree.h"
+#include "a2l2json/reader/a2l_reader.h"
 
 namespace a2l::test {
 

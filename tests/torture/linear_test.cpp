@@ -15,8 +15,8 @@
 
 #include <gtest/gtest.h>
 
-#include "export/json_writer.h"
-#include "reader/line_source.h"
+#include "a2l2json/export/json_writer.h"
+#include "a2l2json/reader/line_source.h"
 #include "tests/support/trees.h"
 #include "tests/torture/generated_text.h"
 #include "tests/torture/meters.h"

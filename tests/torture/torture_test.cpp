@@ -13,11 +13,11 @@
 
 #include <gtest/gtest.h>
 
-#include "elements/blocks/conversion.h"
-#include "elements/blocks/functions.h"
-#include "elements/blocks/project.h"
-#include "elements/blocks/raw.h"
-#include "export/json_writer.h"
+#include "a2l2json/elements/blocks/conversion.h"
+#include "a2l2json/elements/blocks/functions.h"
+#include "a2l2json/elements/blocks/project.h"
+#include "a2l2json/elements/blocks/raw.h"
+#include "a2l2json/export/json_writer.h"
 #include "tests/support/json_check.h"
 #include "tests/support/trees.h"
 #include "tests/torture/generated_text.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "elements/blocks/characteristic.h"
+#include "a2l2json/elements/blocks/characteristic.h"
 
 #include <cstdint>
 #include <string>

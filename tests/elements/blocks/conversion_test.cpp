@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "elements/blocks/conversion.h"
+#include "a2l2json/elements/blocks/conversion.h"
 
 #include <cstdint>
 #include <string>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "elements/blocks/instance.h"
+#include "a2l2json/elements/blocks/instance.h"
 
 #include <string>
 

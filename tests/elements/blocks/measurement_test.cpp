@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "elements/blocks/measurement.h"
+#include "a2l2json/elements/blocks/measurement.h"
 
 #include <string>
 
 #include <gtest/gtest.h>
 
-#include "elements/properties/flags.h"
-#include "elements/properties/numbers.h"
+#include "a2l2json/elements/properties/flags.h"
+#include "a2l2json/elements/properties/numbers.h"
 #include "tests/support/parsing.h"
 
 namespace a2l::test {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "elements/blocks/other.h"
+#include "a2l2json/elements/blocks/other.h"
 
 #include <cstdint>
 #include <string>
@@ -7,10 +7,10 @@
 
 #include <gtest/gtest.h>
 
-#include "elements/properties/flags.h"
-#include "elements/properties/identifiers.h"
-#include "elements/properties/numbers.h"
-#include "elements/properties/texts.h"
+#include "a2l2json/elements/properties/flags.h"
+#include "a2l2json/elements/properties/identifiers.h"
+#include "a2l2json/elements/properties/numbers.h"
+#include "a2l2json/elements/properties/texts.h"
 #include "tests/support/parsing.h"
 
 namespace a2l::test {

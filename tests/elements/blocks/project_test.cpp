@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "elements/blocks/project.h"
+#include "a2l2json/elements/blocks/project.h"
 
 #include <string>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "elements/blocks/raw.h"
+#include "a2l2json/elements/blocks/raw.h"
 
 #include <string>
 #include <string_view>

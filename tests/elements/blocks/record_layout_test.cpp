@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "elements/blocks/record_layout.h"
+#include "a2l2json/elements/blocks/record_layout.h"
 
 #include <string>
 
 #include <gtest/gtest.h>
 
-#include "reader/element_factory.h"
+#include "a2l2json/reader/element_factory.h"
 #include "tests/support/parsing.h"
 
 namespace a2l::test {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "elements/blocks/variant_coding.h"
+#include "a2l2json/elements/blocks/variant_coding.h"
 
 #include <string>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "elements/properties/choices.h"
+#include "a2l2json/elements/properties/choices.h"
 
 #include <cstdint>
 #include <string>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "elements/properties/flags.h"
+#include "a2l2json/elements/properties/flags.h"
 
 #include <string>
 

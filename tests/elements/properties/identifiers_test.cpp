@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "elements/properties/identifiers.h"
+#include "a2l2json/elements/properties/identifiers.h"
 
 #include <string>
 

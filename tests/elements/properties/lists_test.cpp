@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "elements/properties/lists.h"
+#include "a2l2json/elements/properties/lists.h"
 
 #include <cstdint>
 #include <string>

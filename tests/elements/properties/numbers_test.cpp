@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "elements/properties/numbers.h"
+#include "a2l2json/elements/properties/numbers.h"
 
 #include <string>
 
 #include <gtest/gtest.h>
 
-#include "reader/element_factory.h"
+#include "a2l2json/reader/element_factory.h"
 #include "tests/support/kinds.h"
 #include "tests/support/parsing.h"
 #include "tests/support/trees.h"

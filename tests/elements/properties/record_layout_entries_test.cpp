@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "elements/properties/record_layout_entries.h"
+#include "a2l2json/elements/properties/record_layout_entries.h"
 
 #include <string>
 

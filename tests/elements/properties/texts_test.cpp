@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "elements/properties/texts.h"
+#include "a2l2json/elements/properties/texts.h"
 
 #include <string>
 

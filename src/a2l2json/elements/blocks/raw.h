@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+//
+// Blocks whose content is kept as text: the interface descriptions, their grammar, and blocks of
+// keywords that the format does not define.
+#pragma once
+
+#include "a2l2json/elements/element_class.h"
+
+namespace a2l {
+
+/// The grammar of the interface descriptions.
+struct VoA2LElementA2ML final : Block<VoA2LElementA2ML, Kind::A2ML> {
+  /// What stands between the keyword and /end, line by line as in the file (comments removed).
+  std::string_view A2ML;
+  static constexpr Lines lines{" A2ML"};
+  static constexpr bool openParameterList = true;
+  static constexpr bool keepsChildrenSilent = true;
+
+  bool ParseParameters(std::string_view& text) override;
+
+ protected:
+  void WriteOpening(int level, std::ostream& out) const override;
+};
+
+/// A description of an interface.
+struct VoA2LElementIfData final : Block<VoA2LElementIfData, Kind::IF_DATA> {
+  std::string_view NAME;
+  /// What follows the name, line by line as in the file (comments removed).
+  std::string_view IF_DATA;
+  static constexpr Lines lines{" IF_DATA"};
+  static constexpr bool openParameterList = true;
+  static constexpr bool keepsChildrenSilent = true;
+
+  bool ParseParameters(std::string_view& text) override;
+
+ protected:
+  void WriteOpening(int level, std::ostream& out) const override;
+};
+
+/// A block of an unknown keyword. It is kept in the tree, and leaves no trace in A2L text.
+struct VoA2LElementUnknown final : Block<VoA2LElementUnknown, Kind::KIND_UNKNOWN> {
+  std::string_view TEXT;
+  static constexpr Lines lines{""};
+  static constexpr bool openParameterList = true;
+  static constexpr bool keepsChildrenSilent = true;
+
+  bool ParseParameters(std::string_view& text) override;
+
+ protected:
+  void WriteOpening(int /*level*/, std::ostream& /*out*/) const override {}
+  void WriteClosing(int /*level*/, std::ostream& /*out*/) const override {}
+};
+
+}  // namespace a2l

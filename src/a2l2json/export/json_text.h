@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <functional>
+#include <memory>
+#include <string_view>
+#include <utility>
+
+#include "a2l2json/export/object_table.h"
+
+namespace a2l {
+
+/// Writes JSON text as it comes: one line, ", " between items and ": " behind keys, control
+/// characters, the line separator U+2028 and the paragraph separator U+2029 escaped, every other
+/// byte as it is, reals with 17 significant digits, infinities and NaN as null.
+///
+/// The text passes through a buffer of fixed size, so that the document is never held whole.
+class JsonText {
+ public:
+  /// Receives the text, piece by piece.
+  using Output = std::function<void(std::string_view text)>;
+
+  explicit JsonText(Output output) : output_(std::move(output)) {}
+
+  void BeginObject() { Open('{'); }
+  void EndObject() { Close('}'); }
+  void BeginArray() { Open('['); }
+  void EndArray() { Close(']'); }
+
+  void Key(const KeyText& key) { PutKey(key, key.Size()); }
+  void Key(std::string_view key);
+  void NullMember(const KeyText& key) { PutKey(key, key.SizeWithNull()); }
+  void Item();
+
+  void Null() { Put("null"); }
+  void Bool(bool value) { Put(value ? std::string_view("true") : std::string_view("false")); }
+  void Integer(std::int32_t value);
+  void Real(double value);
+  void String(std::string_view text);
+
+  /// Hands on what is still in the buffer.
+  void Flush();
+
+ private:
+#ifdef A2L2JSON_SMALL_BUFFERS
+  static constexpr std::size_t kBufferSize = 1024;
+#else
+  static constexpr std::size_t kBufferSize = std::size_t{64} * 1024;
+#endif
+  // Texts are escaped in pieces that surely fit the buffer.
+  static constexpr std::size_t kPieceSize = kBufferSize / 64;
+  static constexpr std::string_view kSeparator = ", ";
+
+  void Open(char bracket) {
+    PutByte(bracket);
+    first_ = true;
+  }
+  void Close(char bracket) {
+    PutByte(bracket);
+    first_ = false;
+  }
+  // The first member of an object goes without the separator that its text begins with.
+  void PutKey(const KeyText& key, std::size_t size) {
+    Reserve(KeyText::kBytes);
+    const std::size_t skipped = first_ ? kSeparator.size() : 0;
+    std::memcpy(buffer_.get() + used_, key.Bytes() + skipped, KeyText::kBytes - kSeparator.size());
+    used_ += size - skipped;
+    first_ = false;
+  }
+  void PutByte(char c) {
+    Reserve(1);
+    buffer_[used_++] = c;
+  }
+  void Put(std::string_view text);
+  void PutEscaped(std::string_view text);
+  void Reserve(std::size_t size) {
+    if (kBufferSize - used_ < size) Flush();
+  }
+
+  Output output_;
+  std::unique_ptr<char[]> buffer_ = std::make_unique_for_overwrite<char[]>(kBufferSize);
+  std::size_t used_ = 0;
+  bool first_ = true;  // of the items of the innermost bracket
+};
+
+}  // namespace a2l

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "a2l2json/export/json_writer.h"
+
+#include <ostream>
+
+#include "a2l2json/export/exporter.h"
+#include "a2l2json/export/json_text.h"
+#include "a2l2json/model/file_path.h"
+
+namespace a2l {
+namespace {
+
+void Write(const VoA2LElement& root, JsonText::Output output) {
+  JsonText text(std::move(output));
+  Exporter(text).Document(root);
+  text.Flush();
+}
+
+}  // namespace
+
+bool JsonWriter::Export(const std::string& path, const VoA2LElement* root) {
+  if (root == nullptr || root->kind != KIND_ROOT) return false;
+  out_.open(FilePath(path), std::ios::binary | std::ios::trunc);
+  if (!out_.is_open()) return false;
+  WriteJson(*root, out_);
+  out_.close();
+  return true;
+}
+
+std::string ToJson(const VoA2LElement& root) {
+  std::string json;
+  Write(root, [&json](std::string_view text) { json += text; });
+  return json;
+}
+
+void WriteJson(const VoA2LElement& root, std::ostream& out) {
+  Write(root, [&out](std::string_view text) {
+    out.write(text.data(), static_cast<std::streamsize>(text.size()));
+  });
+}
+
+}  // namespace a2l

@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: MIT
+//
+// Owning a tree of elements, and finding in it what one looks for, by its class:
+//
+//   for (const auto& measurement : Descendants<VoA2LElementMeasurement>(*tree))
+//     if (const auto* address = FirstChild<VoA2LElementECUAddress>(measurement)) ...
+//
+// VoA2LElement stands for every class. What is found in a const element is const. Nothing may be
+// added to the elements that a walk is passing through, or taken out of them. Texts of elements are
+// views, which end with their tree.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <memory>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+#include "a2l2json/model/element.h"
+
+namespace a2l {
+
+/// Owns a tree, a new and empty one at first, and destroys it with everything in it. It is used
+/// like a std::unique_ptr to the root.
+class Tree {
+ public:
+  Tree() : Tree(NewTree()) {}
+  /// Takes over the tree with that root.
+  explicit Tree(VoA2LElement* root) : root_(root) {}
+
+  /// The root; null where the tree was moved or given away.
+  [[nodiscard]] VoA2LElement* get() const { return root_.get(); }
+  [[nodiscard]] VoA2LElement& operator*() const { return *root_; }
+  [[nodiscard]] VoA2LElement* operator->() const { return root_.get(); }
+  /// Gives the tree to the caller, who ends it with DestroyTree.
+  [[nodiscard]] VoA2LElement* release() { return root_.release(); }
+
+ private:
+  struct Destroy {
+    void operator()(VoA2LElement* root) const { DestroyTree(root); }
+  };
+  std::unique_ptr<VoA2LElement, Destroy> root_;
+};
+
+/// Whether the element is of `Class`: its kind tells.
+template <class Class>
+[[nodiscard]] bool HasClass(const VoA2LElement& element) {
+  if constexpr (std::is_same_v<Class, VoA2LElement>) {
+    return true;
+  } else {
+    return std::ranges::find(Class::kinds, element.kind) != Class::kinds.end();
+  }
+}
+
+/// The element as one of `Class`; null where it is of another one.
+template <class Class>
+[[nodiscard]] const Class* As(const VoA2LElement& element) {
+  return HasClass<Class>(element) ? static_cast<const Class*>(&element) : nullptr;
+}
+template <class Class>
+[[nodiscard]] Class* As(VoA2LElement& element) {
+  return HasClass<Class>(element) ? static_cast<Class*>(&element) : nullptr;
+}
+
+/// A range of elements of `Class`: of all elements that Steps::Next gives one after the other, null
+/// behind the last.
+template <class Class, class Steps>
+class Walk {
+ public:
+  class Iterator {
+   public:
+    using value_type = std::remove_const_t<Class>;
+    using difference_type = std::ptrdiff_t;
+
+    explicit Iterator(Steps steps) : steps_(std::move(steps)) { ++*this; }
+
+    Class& operator*() const { return *element_; }
+    Class* operator->() const { return element_; }
+    Iterator& operator++() {
+      element_ = nullptr;
+      while (VoA2LElement* next = steps_.Next()) {
+        element_ = As<value_type>(*next);
+        if (element_ != nullptr) break;
+      }
+      return *this;
+    }
+    void operator++(int) { ++*this; }
+    friend bool operator==(const Iterator& iterator, std::default_sentinel_t /*end*/) {
+      return iterator.element_ == nullptr;
+    }
+    // Follows from ==, which static analysis does not see everywhere.
+    friend bool operator!=(const Iterator& iterator, std::default_sentinel_t /*end*/) {
+      return iterator.element_ != nullptr;
+    }
+
+   private:
+    Steps steps_;
+    Class* element_ = nullptr;
+  };
+
+  explicit Walk(const VoA2LElement& from) : from_(&from) {}
+
+  [[nodiscard]] Iterator begin() const { return Iterator(Steps(*from_)); }
+  [[nodiscard]] std::default_sentinel_t end() const { return {}; }
+  /// Null where there is none.
+  [[nodiscard]] Class* First() const {
+    const Iterator first = begin();
+    return first == end() ? nullptr : &*first;
+  }
+
+ private:
+  const VoA2LElement* from_;
+};
+
+/// From child to child.
+class ChildSteps {
+ public:
+  explicit ChildSteps(const VoA2LElement& parent) : parent_(&parent) {}
+  VoA2LElement* Next() { return parent_->Child(next_++); }
+
+ private:
+  const VoA2LElement* parent_;
+  std::size_t next_ = 0;
+};
+
+/// From an element to its first child or, where it has none, to what follows it in the file.
+class DescendantSteps {
+ public:
+  explicit DescendantSteps(const VoA2LElement& ancestor) : path_{ChildSteps(ancestor)} {}
+  VoA2LElement* Next() {
+    // A file may nest its blocks as deep as it is long: the way back is not on the call stack.
+    while (!path_.empty()) {
+      if (VoA2LElement* element = path_.back().Next()) {
+        path_.emplace_back(*element);
+        return element;
+      }
+      path_.pop_back();
+    }
+    return nullptr;
+  }
+
+ private:
+  std::vector<ChildSteps> path_;
+};
+
+/// The children of `parent` that are of `Class`, in the order of the file.
+template <class Class>
+[[nodiscard]] Walk<const Class, ChildSteps> ChildrenOf(const VoA2LElement& parent) {
+  return Walk<const Class, ChildSteps>(parent);
+}
+template <class Class>
+[[nodiscard]] Walk<Class, ChildSteps> ChildrenOf(VoA2LElement& parent) {
+  return Walk<Class, ChildSteps>(parent);
+}
+
+/// The elements of `Class` below `ancestor`, on whatever level, in the order of the file.
+template <class Class>
+[[nodiscard]] Walk<const Class, DescendantSteps> Descendants(const VoA2LElement& ancestor) {
+  return Walk<const Class, DescendantSteps>(ancestor);
+}
+template <class Class>
+[[nodiscard]] Walk<Class, DescendantSteps> Descendants(VoA2LElement& ancestor) {
+  return Walk<Class, DescendantSteps>(ancestor);
+}
+
+/// The first child of `parent` that is of `Class`; null where there is none.
+template <class Class>
+[[nodiscard]] const Class* FirstChild(const VoA2LElement& parent) {
+  return ChildrenOf<Class>(parent).First();
+}
+template <class Class>
+[[nodiscard]] Class* FirstChild(VoA2LElement& parent) {
+  return ChildrenOf<Class>(parent).First();
+}
+
+}  // namespace a2l

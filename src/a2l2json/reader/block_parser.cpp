@@ -1,0 +1,289 @@
+// SPDX-License-Identifier: MIT
+#include "a2l2json/reader/block_parser.h"
+
+#include <utility>
+
+#include "a2l2json/model/keywords.h"
+#include "a2l2json/reader/element_factory.h"
+
+namespace a2l {
+namespace {
+
+constexpr std::size_t kNone = std::string_view::npos;
+
+constexpr std::string_view kBegin = "/begin";
+constexpr std::string_view kEnd = "/end";
+
+bool KeepsRawContent(ElementKind kind) {
+  return kind == ElementKind::IF_DATA || kind == ElementKind::A2ML || kind == KIND_UNKNOWN;
+}
+
+}  // namespace
+
+bool BlockParser::Run() {
+  while (true) {
+    std::string_view line = std::exchange(remainder_, {});
+    std::size_t slash = 0;  // there is none before it
+    if (line.empty()) {
+      if (!ReadPhysicalLine(line)) return !lines_.Failed();
+      slash = line.find('/');
+      if (slash != kNone && !comments_.Remove(line, nextPhysicalLine_)) {
+        return !lines_.Failed() && Fail(DiagnosticKind::UnterminatedComment);
+      }
+    }
+    if (!HandleLine(line, slash)) return false;
+  }
+}
+
+bool BlockParser::ReadPhysicalLine(std::string_view& line) {
+  if (!lines_.Next(line)) return false;
+  ++lineNo_;
+  return true;
+}
+
+BlockParser::MarkerPlace BlockParser::FindMarker(std::string_view line, std::size_t from) {
+  for (std::size_t i = line.find('/', from); i != kNone; i = line.find('/', i + 1)) {
+    const std::string_view rest = line.substr(i);
+    if (rest.starts_with(kBegin)) return {Marker::Begin, i, i + kBegin.size()};
+    if (rest.starts_with(kEnd)) return {Marker::End, i, i + kEnd.size()};
+  }
+  return {};
+}
+
+bool BlockParser::HandleLine(std::string_view line, std::size_t slash) {
+  // A marker left over from the line before stands in front of this one.
+  MarkerPlace place;
+  if (state_ == State::PendingBegin || state_ == State::PendingEnd) {
+    place.marker = state_ == State::PendingBegin ? Marker::Begin : Marker::End;
+    state_ = State::Idle;
+  } else {
+    place = FindMarker(line, slash);
+    if (place.marker == Marker::None) return HandlePlain(line);
+  }
+  if (const MarkerPlace next = FindMarker(line, place.end); next.marker != Marker::None) {
+    remainder_ = line.substr(next.position);
+    line = line.substr(0, next.position);
+  }
+  const std::string_view text = line.substr(place.end);
+  return place.marker == Marker::Begin ? HandleBegin(line, text) : HandleEnd(line, text);
+}
+
+bool BlockParser::HandleBegin(std::string_view line, std::string_view text) {
+  if (state_ == State::RawContent) {
+    Append('\n', line);
+    ++rawDepth_;
+    return true;
+  }
+  if (!CloseCollection(DiagnosticKind::NoParent)) return false;
+  const std::string_view keyword = NextToken(text);
+  const ElementKind kind = KeywordToKind(keyword);
+  if (keyword.empty() && remainder_.empty()) {
+    state_ = State::PendingBegin;
+    return true;
+  }
+  // With another marker behind it, a marker without a keyword would never get one.
+  if (keyword.empty() || IsProperty(kind)) {
+    return Fail(DiagnosticKind::UnexpectedBegin,
+                std::to_string(static_cast<std::int32_t>(current_->kind)));
+  }
+  VoA2LElement* element = CreateElement(kind, *current_);
+  if (!Attach(element, keyword)) return false;
+  current_ = element;
+  if (!HasTokens(text, element->paramCount)) {
+    const bool open = element->paramCount == kOpenParameterList;
+    rawDepth_ = 0;
+    StartCollecting(!open                   ? State::CollectParams
+                    : KeepsRawContent(kind) ? State::RawContent
+                                            : State::CollectOpen,
+                    text, element->paramCount);
+  } else {
+    CompleteParameters(text);
+  }
+  return true;
+}
+
+bool BlockParser::HandleEnd(std::string_view line, std::string_view text) {
+  if (state_ == State::RawContent && rawDepth_ > 0) {
+    Append('\n', line);
+    --rawDepth_;
+    return true;
+  }
+  if (!CloseCollection(DiagnosticKind::NoParentAtEnd)) return false;
+  const std::string_view keyword = NextToken(text);
+  if (keyword.empty() && remainder_.empty()) {
+    state_ = State::PendingEnd;
+    return true;
+  }
+  while (IsProperty(current_->kind)) {
+    if (!ReturnToParent(DiagnosticKind::NoParentAtEnd)) return false;
+  }
+  if (keyword.empty() || KeywordToKind(keyword) != current_->kind) {
+    return Fail(DiagnosticKind::EndDoesNotMatch, std::string(KindToKeyword(current_->kind)));
+  }
+  return ReturnToParent(DiagnosticKind::NoParentAtEnd);
+}
+
+bool BlockParser::HandlePlain(std::string_view line) {
+  switch (state_) {
+    case State::RawContent:
+      Append('\n', line);
+      return true;
+    case State::CollectParams:
+    case State::CollectPropertyParams:
+    case State::CollectMoreParams:
+      Append(' ', line);
+      counter_.Continue(collected_);
+      return static_cast<std::int64_t>(counter_.Count()) < needed_ || CompleteCollection();
+    case State::CollectOpen:
+    case State::Idle:
+    case State::PendingBegin:
+    case State::PendingEnd:
+      break;
+  }
+  std::string_view text = line;
+  const std::string_view keyword = NextToken(text);
+  const ElementKind kind = KeywordToKind(keyword);
+  if (state_ == State::CollectOpen) {
+    if (kind == KIND_UNKNOWN) {
+      Append(' ', line);
+      return true;
+    }
+    if (!CloseCollection(DiagnosticKind::NoParent)) return false;
+  }
+  if (keyword.empty()) return true;
+  if (kind == KIND_UNKNOWN) {
+    Warn(DiagnosticKind::UnexpectedElement, std::string(keyword));
+    return true;
+  }
+  return HandleProperty(kind, keyword, text);
+}
+
+bool BlockParser::HandleProperty(ElementKind kind, std::string_view keyword,
+                                 std::string_view text) {
+  VoA2LElement* property = IsProperty(kind) ? CreateElement(kind, *current_) : nullptr;
+  if (property == nullptr) return Fail(DiagnosticKind::BeginMissing, std::string(keyword));
+  if (!Attach(property, keyword)) return false;
+  if (!HasTokens(text, property->paramCount)) {
+    current_ = property;
+    StartCollecting(property->paramCount == kOpenParameterList ? State::CollectOpen
+                                                               : State::CollectPropertyParams,
+                    text, property->paramCount);
+  } else if (!property->ParseParameters(text)) {
+    // The property never became the current element: the warning names its block, and it is
+    // the block's parent whose validity is at stake.
+    WrongParameters();
+  }
+  return true;
+}
+
+bool BlockParser::Attach(VoA2LElement* element, std::string_view keyword) {
+  return current_->AddChild(element) || Fail(DiagnosticKind::RefusedElement, std::string(keyword));
+}
+
+bool BlockParser::HasTokens(std::string_view text, std::int64_t needed) {
+  counter_.Reset();
+  counter_.Continue(text);
+  return static_cast<std::int64_t>(counter_.Count()) >= needed;
+}
+
+void BlockParser::CompleteParameters(std::string_view text) {
+  VoA2LElement& element = *current_;
+  state_ = State::Idle;
+  if (!element.ParseParameters(text)) WrongParameters();
+  if (!element.HasMoreParameters()) return;
+  if (!HasTokens(text, element.MoreParameterCount())) {
+    StartCollecting(State::CollectMoreParams, text, element.MoreParameterCount());
+  } else if (!element.ParseMoreParameters(text)) {
+    WrongParameters();
+  }
+}
+
+void BlockParser::StartCollecting(State state, std::string_view text, std::int64_t needed) {
+  state_ = state;
+  collected_ = text;
+  needed_ = needed;
+}
+
+void BlockParser::Append(char separator, std::string_view line) {
+  collected_ += separator;
+  collected_ += line;
+}
+
+bool BlockParser::CompleteCollection() {
+  std::string_view text = collected_;
+  switch (std::exchange(state_, State::Idle)) {
+    case State::CollectParams:
+      CompleteParameters(text);
+      return true;
+    case State::CollectMoreParams:
+      if (!current_->ParseMoreParameters(text)) WrongParameters();
+      return true;
+    case State::CollectPropertyParams:
+      if (!current_->ParseParameters(text)) WrongParameters();
+      return ReturnToParent(DiagnosticKind::NoParent);
+    case State::Idle:
+    case State::CollectOpen:
+    case State::RawContent:
+    case State::PendingBegin:
+    case State::PendingEnd:
+      break;
+  }
+  return true;
+}
+
+bool BlockParser::CloseCollection(DiagnosticKind ifNoParent) {
+  std::string_view text = collected_;
+  switch (std::exchange(state_, State::Idle)) {
+    case State::Idle:
+    case State::PendingBegin:
+    case State::PendingEnd:
+      return true;
+    case State::CollectParams:
+      Warn(DiagnosticKind::NeedMoreParameters, std::to_string(current_->paramCount));
+      if (!current_->ParseParameters(text)) ClearValidOfParent();
+      return true;
+    case State::CollectMoreParams:
+      Warn(DiagnosticKind::NeedMoreParameters, std::to_string(current_->MoreParameterCount()));
+      return true;
+    case State::CollectPropertyParams:
+      Warn(DiagnosticKind::NeedMoreParameters, std::to_string(current_->paramCount));
+      current_->ParseParameters(text);
+      return ReturnToParent(ifNoParent);
+    case State::CollectOpen:
+      if (!current_->ParseParameters(text)) WrongParameters();
+      return !IsProperty(current_->kind) || ReturnToParent(ifNoParent);
+    case State::RawContent:
+      if (!current_->ParseParameters(text)) {
+        Warn(DiagnosticKind::WrongRawContent, std::string(KindToKeyword(current_->kind)));
+      }
+      return true;
+  }
+  return true;
+}
+
+bool BlockParser::ReturnToParent(DiagnosticKind ifNone) {
+  if (current_->parent == nullptr) return Fail(ifNone);
+  current_ = current_->parent;
+  return true;
+}
+
+void BlockParser::WrongParameters() {
+  Warn(DiagnosticKind::WrongParameters, std::string(KindToKeyword(current_->kind)));
+  ClearValidOfParent();
+}
+
+void BlockParser::ClearValidOfParent() {
+  VoA2LElement* parent = current_->parent;
+  if (parent != nullptr && IsCalibrationObject(*parent)) parent->valid = 0;
+}
+
+void BlockParser::Warn(DiagnosticKind kind, std::string subject) {
+  report_({kind, lineNo_, std::move(subject)});
+}
+
+bool BlockParser::Fail(DiagnosticKind kind, std::string subject) {
+  report_({kind, lineNo_, std::move(subject)});
+  return false;
+}
+
+}  // namespace a2l
