@@ -12,7 +12,7 @@ struct Keyword {
 };
 
 constexpr std::array kKeywords = {
-#define A2L_KEYWORD(number, keyword) Keyword{ElementKind::keyword, #keyword},
+#define A2L_KEYWORD(number, keyword, Class) Keyword{ElementKind::keyword, #keyword},
 #include "a2l2json/model/keywords.def"
 };
 

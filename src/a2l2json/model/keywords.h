@@ -15,7 +15,7 @@ namespace a2l {
 /// says how the keyword is written in a file; see IsBlock and IsProperty.
 enum class ElementKind : std::int32_t {
   KIND_ROOT = 0,  ///< the root of a tree; it has no keyword
-#define A2L_KEYWORD(number, keyword) keyword = (number),
+#define A2L_KEYWORD(number, keyword, Class) keyword = (number),
 #include "a2l2json/model/keywords.def"
   KIND_UNKNOWN = 25535,  ///< any keyword that the format does not define
 };
