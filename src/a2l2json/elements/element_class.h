@@ -70,6 +70,7 @@ class ElementClass : public VoA2LElement {
   static constexpr auto parameters = Parameters();
   static constexpr auto onBadNumber = OnBadNumber::Stop;
   static constexpr bool openParameterList = false;
+  static constexpr ElementKind childInList = KIND_ROOT;
   static constexpr auto rows = nullptr;
   static constexpr std::uint32_t revision = kRevision160;
 
@@ -139,9 +140,7 @@ class ElementClass : public VoA2LElement {
                       Self::parameters);
   }
 
- private:
-  static constexpr bool kHasRows = !std::is_same_v<decltype(Class::rows), const std::nullptr_t>;
-
+ public:
   // A list makes the count open, whatever stands before it.
   static constexpr std::uint32_t ParameterCount() {
     if (Self::openParameterList) return kOpenParameterList;
@@ -151,6 +150,9 @@ class ElementClass : public VoA2LElement {
         },
         Self::parameters);
   }
+
+ private:
+  static constexpr bool kHasRows = !std::is_same_v<decltype(Class::rows), const std::nullptr_t>;
 };
 
 /// A keyword between /begin and /end.

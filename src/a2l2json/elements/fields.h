@@ -23,6 +23,7 @@
 #include <string_view>
 #include <tuple>
 
+#include "a2l2json/elements/declarations.h"
 #include "a2l2json/model/element.h"
 #include "a2l2json/model/tree_store.h"
 #include "a2l2json/model/value_sets.h"
@@ -60,6 +61,9 @@ struct Identifier {
 
   static constexpr std::uint32_t kTokens = 1;
   static constexpr std::size_t kPlaces = 1;
+  constexpr detail::Parameter Describe() const {
+    return {.type = detail::ParameterType::Identifier};
+  }
   bool Read(Self& self, std::string_view& text) const {
     self.*member = ReadIdentifier(self.Store(), text);
     return true;
@@ -77,6 +81,7 @@ struct Text {
 
   static constexpr std::uint32_t kTokens = 1;
   static constexpr std::size_t kPlaces = 1;
+  constexpr detail::Parameter Describe() const { return {.type = detail::ParameterType::Text}; }
   bool Read(Self& self, std::string_view& text) const {
     self.*member = ReadText(self.Store(), text);
     return true;
@@ -90,12 +95,24 @@ struct Text {
 template <class Self>
 struct UnquotedText : Text<Self> {
   using Text<Self>::Text;
+  constexpr detail::Parameter Describe() const {
+    return {.type = detail::ParameterType::UnquotedText};
+  }
   void Append(const Self& self, Arguments& arguments) const {
     arguments.emplace_back(std::string(self.*(this->member)));
   }
 };
 template <class Self>
 UnquotedText(std::string_view Self::*) -> UnquotedText<Self>;
+
+namespace detail {
+template <class Value>
+inline constexpr ParameterType kTypeOf =
+    std::is_same_v<Value, std::uint32_t>  ? ParameterType::Unsigned
+    : std::is_same_v<Value, std::int32_t> ? ParameterType::Signed
+    : std::is_same_v<Value, double>       ? ParameterType::Real
+                                          : ParameterType::Unsigned64;
+}  // namespace detail
 
 /// A number, read by `kRead`.
 template <class Self, class Value, Converted<Value> (*kRead)(std::string_view)>
@@ -104,6 +121,7 @@ struct NumberField {
 
   static constexpr std::uint32_t kTokens = 1;
   static constexpr std::size_t kPlaces = 1;
+  constexpr detail::Parameter Describe() const { return {.type = detail::kTypeOf<Value>}; }
   bool Read(Self& self, std::string_view& text) const {
     const auto [value, ok] = kRead(NextToken(text));
     self.*member = value;
@@ -143,6 +161,9 @@ struct SignedNumbers {
 
   static constexpr std::uint32_t kTokens = kCount;
   static constexpr std::size_t kPlaces = kCount;
+  constexpr detail::Parameter Describe() const {
+    return {.type = detail::ParameterType::Signed, .count = kCount};
+  }
   bool Read(Self& self, std::string_view& text) const {
     for (std::int32_t& number : self.*member) {
       const auto [value, ok] = ReadSigned(NextToken(text));
@@ -168,6 +189,9 @@ struct Choice {
 
   static constexpr std::uint32_t kTokens = 1;
   static constexpr std::size_t kPlaces = 1;
+  constexpr detail::Parameter Describe() const {
+    return {.type = detail::ParameterType::Word, .isRequired = required, .words = &table};
+  }
   bool Read(Self& self, std::string_view& text) const {
     const Word* word = table.Find(NextToken(text));
     self.*member = word != nullptr ? word->code : table.fallback;
@@ -175,6 +199,25 @@ struct Choice {
   }
   void Append(const Self& self, Arguments& arguments) const {
     arguments.emplace_back(std::string(table.ToText(self.*member)));
+  }
+};
+
+/// A parameter that is read and checked, but not kept: the field keeps its value.
+template <class Field>
+struct Dropped : Field {
+  constexpr explicit Dropped(Field field) : Field(field) {}
+
+  constexpr detail::Parameter Describe() const {
+    detail::Parameter parameter = Field::Describe();
+    parameter.isDropped = true;
+    return parameter;
+  }
+  template <class Self>
+  bool Read(Self& self, std::string_view& text) const {
+    const auto kept = self.*(this->member);
+    const bool ok = Field::Read(self, text);
+    self.*(this->member) = kept;
+    return ok;
   }
 };
 
@@ -190,6 +233,12 @@ struct TokenList {
 
   static constexpr std::uint32_t kTokens = kOpenParameterList;
   static constexpr std::size_t kPlaces = 0;
+  constexpr detail::Parameter Describe() const {
+    return {.type = kRead == &ReadIdentifier ? detail::ParameterType::Identifier
+                    : kQuoted                ? detail::ParameterType::Text
+                                             : detail::ParameterType::UnquotedText,
+            .isList = true};
+  }
   bool Read(Self& self, std::string_view& text) const {
     if constexpr (kOldItems == OldItems::Drop) (self.*member).Clear();
     for (text = Trim(text); !text.empty(); text = Trim(text)) {
@@ -238,6 +287,9 @@ struct NumberList {
 
   static constexpr std::uint32_t kTokens = kOpenParameterList;
   static constexpr std::size_t kPlaces = 0;
+  constexpr detail::Parameter Describe() const {
+    return {.type = detail::kTypeOf<Value>, .isList = true};
+  }
   bool Read(Self& self, std::string_view& text) const {
     if constexpr (kOldItems == OldItems::Drop) (self.*member).Clear();
     for (text = Trim(text); !text.empty(); text = Trim(text)) {
@@ -270,6 +322,39 @@ constexpr auto RealList(List<double> Self::*member) {
   return NumberList<Self, double, ReadReal, BadItem::KeepAsZero, OldItems::Drop>{member};
 }
 
+/// All remaining tokens, each two of them a name and its value, to which every read adds. A name at
+/// the end without a value is wrong; it stays in its list all the same.
+template <class Self>
+struct PairList {
+  List<std::string_view> Self::*names;
+  List<std::string_view> Self::*values;
+  constexpr PairList(List<std::string_view> Self::*nameField,
+                     List<std::string_view> Self::*valueField)
+      : names(nameField), values(valueField) {}
+
+  static constexpr std::uint32_t kTokens = kOpenParameterList;
+  static constexpr std::size_t kPlaces = 0;
+  constexpr detail::Parameter Describe() const {
+    return {.type = detail::ParameterType::NamedValue, .isList = true};
+  }
+  bool Read(Self& self, std::string_view& text) const {
+    for (text = Trim(text); !text.empty(); text = Trim(text)) {
+      (self.*names).PushBack(self.Store(), ReadIdentifier(self.Store(), text));
+      const std::string_view value = ReadIdentifier(self.Store(), text);
+      if (value.empty()) return false;
+      (self.*values).PushBack(self.Store(), value);
+    }
+    return true;
+  }
+  void Append(const Self& /*self*/, Arguments& /*arguments*/) const {}
+  template <class Function>
+  void ForEachItem(const Self& self, Function function) const {
+    for (std::size_t i = 0; i < std::min((self.*names).size(), (self.*values).size()); ++i) {
+      function(Argument(std::string((self.*names)[i]) + ' ' + std::string((self.*values)[i])));
+    }
+  }
+};
+
 /// The parameters of a keyword in file order.
 template <class... Field>
 constexpr auto Parameters(Field... fields) {
@@ -283,6 +368,7 @@ struct RealColumn {
   List<double> Self::*member;
   constexpr explicit RealColumn(List<double> Self::*field) : member(field) {}
 
+  constexpr detail::Parameter Describe() const { return {.type = detail::ParameterType::Real}; }
   bool Read(Self& self, std::string_view& text) const {
     const auto [value, ok] = ReadReal(NextToken(text));
     (self.*member).PushBack(self.Store(), value);
@@ -299,6 +385,7 @@ struct TextColumn {
   List<std::string_view> Self::*member;
   constexpr explicit TextColumn(List<std::string_view> Self::*field) : member(field) {}
 
+  constexpr detail::Parameter Describe() const { return {.type = detail::ParameterType::Text}; }
   bool Read(Self& self, std::string_view& text) const {
     (self.*member).PushBack(self.Store(), ReadText(self.Store(), text));
     return true;

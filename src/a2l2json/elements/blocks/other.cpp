@@ -21,15 +21,4 @@ bool VoA2LElementCalibrationHandle::ParseParameters(std::string_view& text) {
   return true;
 }
 
-bool VoA2LElementTransformer::ParseParameters(std::string_view& text) {
-  NAME = ReadIdentifier(Store(), text);
-  VERSION = ReadText(Store(), text);
-  EXECUTABLE32 = ReadText(Store(), text);
-  EXECUTABLE64 = ReadText(Store(), text);
-  if (!ReadUnsigned(NextToken(text)).ok) return false;
-  NextToken(text);  // the trigger
-  NextToken(text);  // the inverse transformer
-  return true;
-}
-
 }  // namespace a2l

@@ -69,6 +69,7 @@ struct VoA2LElementCalibrationHandle final
   static constexpr auto parameters =
       Parameters(NumberList<Self, std::int32_t, ReadSigned, BadItem::KeepAsZero, OldItems::Drop>{
           &Self::HANDLE});
+  static constexpr ElementKind childInList = Kind::CALIBRATION_HANDLE_TEXT;
   static constexpr KindSet accepts = {Kind::CALIBRATION_HANDLE_TEXT};
   static constexpr Lines lines{" CALIBRATION_HANDLE"};
   static constexpr std::string_view item = "0x{0:X}";
@@ -89,13 +90,12 @@ struct VoA2LElementTransformer final : Block<VoA2LElementTransformer, Kind::TRAN
   std::string_view INVERSE_TRANSFORMER;
   static constexpr auto parameters = Parameters(
       Identifier(&Self::NAME), UnquotedText(&Self::VERSION), UnquotedText(&Self::EXECUTABLE32),
-      UnquotedText(&Self::EXECUTABLE64), Unsigned(&Self::TIMEOUT),
-      Choice(&Self::TRIGGER, words::kTransformerTrigger), Identifier(&Self::INVERSE_TRANSFORMER));
+      UnquotedText(&Self::EXECUTABLE64), Dropped(Unsigned(&Self::TIMEOUT)),
+      Dropped(Choice(&Self::TRIGGER, words::kTransformerTrigger)),
+      Dropped(Identifier(&Self::INVERSE_TRANSFORMER)));
   static constexpr auto revision = kRevision171;
   static constexpr KindSet accepts = {Kind::TRANSFORMER_IN_OBJECTS, Kind::TRANSFORMER_OUT_OBJECTS};
   static constexpr Lines lines{" TRANSFORMER {0}", "{0} {1} {2} {3:d} {4} {5}"};
-
-  bool ParseParameters(std::string_view& text) override;
 };
 
 struct VoA2LElementUnit final : Block<VoA2LElementUnit, Kind::UNIT> {

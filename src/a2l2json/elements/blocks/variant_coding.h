@@ -55,14 +55,10 @@ struct VoA2LElementVarForbiddenComb final
     : Block<VoA2LElementVarForbiddenComb, Kind::VAR_FORBIDDEN_COMB> {
   List<std::string_view> CRITERION_NAME;
   List<std::string_view> VALUE;
-  static constexpr bool openParameterList = true;
+  static constexpr auto parameters = Parameters(PairList(&Self::CRITERION_NAME, &Self::VALUE));
   static constexpr Lines lines{" VAR_FORBIDDEN_COMB"};
+  static constexpr std::string_view item = "{0}";
   static constexpr bool keepsChildrenSilent = true;
-
-  bool ParseParameters(std::string_view& text) override;
-
- protected:
-  void WriteOpening(int level, std::ostream& out) const override;
 };
 
 }  // namespace a2l
