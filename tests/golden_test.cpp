@@ -2,9 +2,11 @@
 //
 // The golden cases: tests/cases/<topic>/<name>.a2l with what must come of it beside it.
 //
-//   <name>.out      the console text; the name begins with ok_ (exit code 0, no message), warn_
-//                   (0, with warnings) or fail_ (-2)
-//   <name>.json     the document, for ok_ and warn_
+// The name begins with ok_ (exit code 0, no message), warn_ (0, with warnings) or fail_ (-2).
+//
+//   <name>.out      the console text, for warn_ and fail_; that of ok_ is always the same
+//   <name>.json     the document, for ok_ and warn_, with a line feed before every key: see
+//                   tests/support/golden_document.h
 //   <name>.written  optional: the tree, written back as A2L text
 //
 // A new case needs no code. With A2L2JSON_UPDATE_CASES=1 in the environment, what the program
@@ -15,6 +17,7 @@
 #include <filesystem>
 #include <ostream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -22,6 +25,7 @@
 #include "a2l2json/export/json11_document.h"
 #include "a2l2json/export/json_writer.h"
 #include "tests/support/files.h"
+#include "tests/support/golden_document.h"
 #include "tests/support/programs.h"
 #include "tests/support/trees.h"
 
@@ -29,6 +33,9 @@ namespace a2l::test {
 namespace {
 
 namespace fs = std::filesystem;
+
+// The console text where nothing is to be told.
+constexpr std::string_view kSuccess = "Success.\n\n";
 
 struct Case {
   fs::path path;  // of the .a2l file
@@ -66,6 +73,17 @@ void ExpectFile(const fs::path& path, const std::string& actual) {
   }
 }
 
+// Both in their golden form, so that a failure shows the lines that differ. Only line feeds are
+// dropped from the file, and the document has none, so nothing else can differ unseen.
+void ExpectDocument(const fs::path& path, const std::string& document) {
+  EXPECT_EQ(document.find('\n'), std::string::npos) << "a document is one line";
+  if (Updates()) {
+    WriteFile(path, GoldenForm(document));
+  } else {
+    EXPECT_EQ(GoldenForm(ReadGoldenDocument(path)), GoldenForm(document)) << path;
+  }
+}
+
 class Golden : public testing::TestWithParam<Case> {};
 
 TEST_P(Golden, ProgramGivesConsoleTextExitCodeAndDocument) {
@@ -75,7 +93,7 @@ TEST_P(Golden, ProgramGivesConsoleTextExitCodeAndDocument) {
   const RunResult run = RunProgram({golden.path, json});
 
   EXPECT_EQ(run.err, "");
-  ExpectFile(golden.With(".out"), run.out);
+  if (!golden.Is("ok_")) ExpectFile(golden.With(".out"), run.out);
   if (golden.Is("fail_")) {
     EXPECT_EQ(run.exitCode, 254);
     EXPECT_FALSE(fs::exists(json));
@@ -84,8 +102,8 @@ TEST_P(Golden, ProgramGivesConsoleTextExitCodeAndDocument) {
   }
   EXPECT_TRUE(golden.Is("ok_") || golden.Is("warn_")) << "unknown prefix";
   EXPECT_EQ(run.exitCode, 0);
-  EXPECT_EQ(run.out == "Success.\n\n", golden.Is("ok_")) << "warnings and the name disagree";
-  ExpectFile(golden.With(".json"), ReadFile(json));
+  EXPECT_EQ(run.out == kSuccess, golden.Is("ok_")) << "the name disagrees with " << run.out;
+  ExpectDocument(golden.With(".json"), ReadFile(json));
 }
 
 TEST_P(Golden, LibraryGivesTheSameDocumentThroughJson11) {
@@ -120,6 +138,17 @@ TEST(GoldenFolders, HoldNothingButCases) {
                 extension == ".written")
         << entry.path();
     EXPECT_TRUE(fs::exists(fs::path(entry.path()).replace_extension(".a2l"))) << entry.path();
+    EXPECT_FALSE(extension == ".out" && Case{entry.path()}.Is("ok_"))
+        << entry.path() << " says no more than its name";
+  }
+}
+
+TEST(GoldenFolders, HaveDocumentsWithALineFeedBeforeEveryKey) {
+  for (const Case& golden : AllCases()) {
+    if (golden.Is("fail_")) continue;
+    const std::string file = ReadFile(golden.With(".json"));
+    EXPECT_EQ(file, GoldenForm(FromGoldenForm(file)))
+        << golden.With(".json") << ": write a line feed before every key and at the end only";
   }
 }
 

@@ -20,6 +20,7 @@
 #include "a2l2json/reader/diagnostics.h"
 #include "a2l2json/reader/element_factory.h"
 #include "tests/support/files.h"
+#include "tests/support/golden_document.h"
 #include "tests/support/kinds.h"
 #include "tests/support/trees.h"
 
@@ -241,7 +242,8 @@ TEST(JsonPage, ExamplesAreThoseOfTheirCases) {
     std::string a2l;
     for (std::size_t i = 0; i + 1 < block.lines.size(); ++i) a2l += block.lines[i] + " ";
     EXPECT_TRUE(IsExcerpt(a2l, OneLine(ReadFile(kCases / (names.front() + ".a2l"))))) << a2l;
-    EXPECT_TRUE(IsExcerpt(block.lines.back(), ReadFile(kCases / (names.front() + ".json"))))
+    EXPECT_TRUE(
+        IsExcerpt(block.lines.back(), ReadGoldenDocument(kCases / (names.front() + ".json"))))
         << block.lines.back() << "\n"
         << names.front();
     ++count;
