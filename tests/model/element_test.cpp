@@ -9,6 +9,7 @@
 #include <sstream>
 #include <string>
 #include <string_view>
+#include <typeinfo>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -192,14 +193,53 @@ TEST_F(ElementTest, WriteIndentsByTwoBlanksPerLevel) {
             "  /end PROJECT\n");
 }
 
+// An unknown block has nothing to write, so it cannot fail; the root fails whatever is in it.
 TEST_F(ElementTest, WriteFailsOnAFileThatIsNotOpen) {
-  for (const ElementKind kind : KindsWithAClass()) {
-    SCOPED_TRACE(Shown(kind));
-    std::ofstream closed;
-    EXPECT_FALSE(Make(kind)->Write(0, closed));
-  }
   std::ofstream closed;
-  EXPECT_FALSE(root_->Write(0, closed));
+  std::fstream closedBothWays;
+  std::filebuf closedFile;
+  std::ostream onAClosedFile(&closedFile);
+  std::iostream bothWaysOnAClosedFile(&closedFile);
+  for (std::ostream* out :
+       {static_cast<std::ostream*>(&closed), static_cast<std::ostream*>(&closedBothWays),
+        &onAClosedFile, static_cast<std::ostream*>(&bothWaysOnAClosedFile)}) {
+    SCOPED_TRACE(typeid(*out).name());
+    ASSERT_TRUE(out->good()) << "only the file can tell";
+    for (const ElementKind kind : KindsWithAClass()) {
+      EXPECT_EQ(Make(kind)->Write(0, *out), kind == KIND_UNKNOWN) << Shown(kind);
+    }
+    Tree root;
+    EXPECT_FALSE(root->Write(0, *out));
+    ASSERT_TRUE(root->AddChild(CreateElement(KIND_UNKNOWN, *root)));
+    EXPECT_FALSE(root->Write(0, *out));
+  }
+}
+
+TEST_F(ElementTest, WriteFailsOnAStreamThatTakesNothing) {
+  std::ostringstream failed;
+  failed.setstate(std::ios::failbit);
+  EXPECT_FALSE(root_->Write(0, failed));
+  std::ostream nowhere(nullptr);
+  EXPECT_FALSE(root_->Write(0, nowhere));
+  EXPECT_FALSE(Make(ElementKind::PROJECT)->Write(0, nowhere));
+  EXPECT_TRUE(Make(KIND_UNKNOWN)->Write(0, nowhere));
+}
+
+// Whatever opened the file, and whatever stream writes to it.
+TEST_F(ElementTest, WriteReachesAFileThroughAnyStream) {
+  ASSERT_TRUE(root_->AddChild(MakeVersion(*root_, 71)));
+  const TemporaryFolder folder;
+  const auto mode = std::ios::in | std::ios::out | std::ios::trunc | std::ios::binary;
+  {
+    std::fstream file(folder / "one.a2l", mode);
+    EXPECT_TRUE(root_->Write(0, file));
+    std::filebuf buffer;
+    ASSERT_NE(buffer.open(folder / "two.a2l", mode), nullptr);
+    std::ostream out(&buffer);
+    EXPECT_TRUE(root_->Write(0, out));
+  }
+  EXPECT_EQ(ReadFile(folder / "one.a2l"), "ASAP2_VERSION 1 71\n");
+  EXPECT_EQ(ReadFile(folder / "two.a2l"), "ASAP2_VERSION 1 71\n");
 }
 
 TEST_F(ElementTest, WriteSucceedsOnAnOpenStream) {

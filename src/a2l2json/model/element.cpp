@@ -11,8 +11,9 @@
 namespace a2l {
 namespace {
 
+// The buffer knows whether a file is open; any kind of stream may write to one.
 bool TakesText(const std::ostream& out) {
-  if (const auto* file = dynamic_cast<const std::ofstream*>(&out)) return file->is_open();
+  if (const auto* file = dynamic_cast<const std::filebuf*>(out.rdbuf())) return file->is_open();
   return out.good();
 }
 

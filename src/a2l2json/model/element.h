@@ -72,8 +72,9 @@ class VoA2LElement {
 
   /// Writes this element and everything below it as A2L text, `level` times two blanks in front
   /// of each line. False, and nothing written, when `out` cannot take text (a file that is not
-  /// open); true otherwise. The version line of a tree comes first: a root moves its
-  /// ASAP2_VERSION to the front of its children, which is a change of the tree.
+  /// open, whatever the type of the stream); true otherwise. The version line of a tree comes
+  /// first: a root moves its ASAP2_VERSION to the front of its children, which is a change of the
+  /// tree.
   virtual bool Write(int level, std::ostream& out);
 
   /// Number of tokens that ParseMoreParameters needs; in the base 0 where there is a second run

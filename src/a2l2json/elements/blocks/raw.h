@@ -37,7 +37,8 @@ struct VoA2LElementIfData final : Block<VoA2LElementIfData, Kind::IF_DATA> {
   void WriteOpening(int level, std::ostream& out) const override;
 };
 
-/// A block of an unknown keyword. It is kept in the tree, and leaves no trace in A2L text.
+/// A block of an unknown keyword. It is kept in the tree, and leaves no trace in A2L text: writing
+/// it succeeds on every stream, even one of a file that is not open.
 struct VoA2LElementUnknown final : Block<VoA2LElementUnknown, Kind::KIND_UNKNOWN> {
   std::string_view TEXT;
   static constexpr Lines lines{""};
@@ -45,6 +46,7 @@ struct VoA2LElementUnknown final : Block<VoA2LElementUnknown, Kind::KIND_UNKNOWN
   static constexpr bool keepsChildrenSilent = true;
 
   bool ParseParameters(std::string_view& text) override;
+  bool Write(int /*level*/, std::ostream& /*out*/) override { return true; }
 
  protected:
   void WriteOpening(int /*level*/, std::ostream& /*out*/) const override {}
