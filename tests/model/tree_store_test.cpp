@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "a2l2json/model/tree_store.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <set>
 #include <string>
 #include <string_view>
@@ -11,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "a2l2json/model/element.h"
+#include "tests/torture/meters.h"
 
 namespace a2l::test {
 namespace {
@@ -110,7 +113,7 @@ TEST(TreeStore, GivesArraysOfTheirOwn) {
   std::set<void*> arrays;
   for (int i = 0; i < 10; ++i) {
     void* array = store.AllocateArray(6);
-    EXPECT_EQ(reinterpret_cast<std::uintptr_t>(array) % alignof(std::max_align_t), 0U);
+    EXPECT_EQ(reinterpret_cast<std::uintptr_t>(array) % alignof(std::uint64_t), 0U);
     EXPECT_TRUE(arrays.insert(array).second);
   }
 }
@@ -144,6 +147,66 @@ TEST(TreeStore, CopiesTexts) {
   large.resize(10000000, 'x');
   EXPECT_TRUE(store.Copy(large) == large);
   EXPECT_EQ(copy, kept);
+}
+
+// Pieces of all sizes, small and larger than any block, next to each other: none overlaps another,
+// and objects are aligned.
+TEST(TreeStore, GivesEveryPieceItsOwnBytes) {
+  TreeStore store;
+  struct Piece {
+    unsigned char* bytes;
+    std::size_t size;
+    unsigned char filling;
+  };
+  std::vector<Piece> pieces;
+  const auto add = [&](void* bytes, std::size_t size) {
+    const auto filling = static_cast<unsigned char>(pieces.size() % 251);
+    pieces.push_back({static_cast<unsigned char*>(bytes), size, filling});
+    std::memset(bytes, filling, size);
+  };
+  for (std::size_t i = 0; i < 3000; ++i) {
+    add(store.AllocateBytes(1 + i % 37), 1 + i % 37);
+    const auto sizeClass = static_cast<unsigned>(5 + i % 4);
+    void* const array = store.AllocateArray(sizeClass);
+    EXPECT_EQ(reinterpret_cast<std::uintptr_t>(array) % alignof(std::uint64_t), 0U);
+    add(array, std::size_t{1} << sizeClass);
+    const std::size_t large = i * 7 + 1;
+    if (i % 10 == 0) add(store.AllocateBytes(large), large);
+    if (i % 300 == 0) add(store.AllocateArray(23), std::size_t{1} << 23U);
+  }
+  for (const Piece& piece : pieces) {
+    unsigned char* const end = piece.bytes + piece.size;
+    ASSERT_EQ(std::count(piece.bytes, end, piece.filling), end - piece.bytes) << piece.size;
+  }
+}
+
+TEST(TreeStore, TakesLittleMemoryForASmallTree) {
+  const auto bytes = AllocatedBytes([] {
+    TreeStore store;
+    for (int i = 0; i < 20; ++i) {
+      store.Create<VoA2LElement>();
+      static_cast<void>(store.Copy("a text"));
+    }
+  });
+  if (!bytes.has_value()) GTEST_SKIP() << "allocations cannot be counted here";
+  EXPECT_LT(*bytes, 8192U);
+}
+
+// Nearly all of every block is used, but for the one that is open.
+TEST(TreeStore, LosesLittleMemory) {
+  constexpr std::size_t kPieces = 200000;
+  constexpr std::size_t kSize = 100;
+  TreeStore store;
+  std::uint64_t given = 0;
+  const auto bytes = AllocatedBytes([&] {
+    for (std::size_t i = 0; i < kPieces; ++i) {
+      const std::size_t size = i % 20000 == 0 ? 35000 * kSize : kSize;
+      static_cast<void>(store.AllocateBytes(size));
+      given += size;
+    }
+  });
+  if (!bytes.has_value()) GTEST_SKIP() << "allocations cannot be counted here";
+  EXPECT_LT(*bytes, given + given / 50 + std::uint64_t{4} * 1024 * 1024);
 }
 
 TEST(TreeStore, CreatesElementsThatKnowIt) {

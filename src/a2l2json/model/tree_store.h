@@ -7,14 +7,70 @@
 #include <cstdint>
 #include <cstring>
 #include <limits>
-#include <memory_resource>
 #include <new>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 
 namespace a2l {
 
 class VoA2LElement;
+
+namespace detail {
+
+/// Memory that is given out piece by piece and released all at once. It is taken from the system in
+/// blocks, small ones first, so that a small file costs little, and twice as large each time.
+/// Objects fill a block from its front and bytes from its end, so that no text makes a gap before
+/// an object.
+class Blocks {
+ public:
+  Blocks() = default;
+  Blocks(const Blocks&) = delete;
+  Blocks& operator=(const Blocks&) = delete;
+  ~Blocks() {
+    while (last_ != nullptr) ::operator delete(std::exchange(last_, last_->before));
+  }
+
+  /// What objects are aligned to, and may at most ask for.
+  static constexpr std::size_t kAlignment =
+      std::max({alignof(void*), alignof(std::uint64_t), alignof(double)});
+
+  /// `size` bytes (at least one) for an object or an array.
+  [[nodiscard]] void* AllocateObject(std::size_t size) {
+    const std::size_t rounded = (size + kAlignment - 1) & ~(kAlignment - 1);
+    if (rounded > Left()) {
+      if (char* const own = MakeRoom(rounded)) return own;
+    }
+    return std::exchange(front_, front_ + rounded);
+  }
+
+  /// `size` bytes (at least one) at any address.
+  [[nodiscard]] char* AllocateBytes(std::size_t size) {
+    if (size > Left()) {
+      if (char* const own = MakeRoom(size)) return own;
+    }
+    return back_ -= size;
+  }
+
+ private:
+  struct alignas(kAlignment) Block {
+    Block* before;
+  };
+
+  [[nodiscard]] std::size_t Left() const { return static_cast<std::size_t>(back_ - front_); }
+
+  // Null where a new block with room for `size` bytes has been opened; otherwise a block of that
+  // size alone, while the open one goes on being filled.
+  char* MakeRoom(std::size_t size);
+  char* AddBlock(std::size_t size);
+
+  Block* last_ = nullptr;
+  char* front_ = nullptr;  // of what is left in the open block
+  char* back_ = nullptr;
+  std::size_t nextSize_ = std::size_t{4} * 1024;
+};
+
+}  // namespace detail
 
 /// The memory of one tree: its elements, their lists and their texts. Everything in it lives
 /// until the store is destroyed and goes at once, without a walk, however deep the tree is: a
@@ -37,7 +93,9 @@ class TreeStore {
   Element* Create(VoA2LElement* parent = nullptr, Argument... arguments) {
     static_assert(std::is_trivially_destructible_v<Element>,
                   "elements are released with their store, their destructors never run");
-    auto* element = new (memory_.allocate(sizeof(Element), alignof(Element))) Element(arguments...);
+    static_assert(alignof(Element) <= detail::Blocks::kAlignment,
+                  "the store's memory is not aligned for this element");
+    auto* element = new (memory_.AllocateObject(sizeof(Element))) Element(arguments...);
     element->parent = parent;
     element->store = this;
     return element;
@@ -51,9 +109,7 @@ class TreeStore {
   }
 
   /// `size` bytes for a text (at least one).
-  [[nodiscard]] char* AllocateBytes(std::size_t size) {
-    return static_cast<char*>(memory_.allocate(size, 1));
-  }
+  [[nodiscard]] char* AllocateBytes(std::size_t size) { return memory_.AllocateBytes(size); }
 
   /// An array of 2^`sizeClass` bytes, aligned for any element of a list.
   [[nodiscard]] void* AllocateArray(unsigned sizeClass) {
@@ -61,7 +117,7 @@ class TreeStore {
       freeArrays_[sizeClass] = array->next;
       return array;
     }
-    return memory_.allocate(std::size_t{1} << sizeClass, alignof(std::max_align_t));
+    return memory_.AllocateObject(std::size_t{1} << sizeClass);
   }
 
   /// Takes back an array that a list has outgrown; the next list that grows to it uses it again.
@@ -74,14 +130,17 @@ class TreeStore {
     FreeArray* next;
   };
 
-  std::pmr::monotonic_buffer_resource memory_{std::size_t{64} * 1024};
-  std::array<FreeArray*, 64> freeArrays_{};
+  detail::Blocks memory_;
+  std::array<FreeArray*, std::numeric_limits<std::size_t>::digits> freeArrays_{};
 };
 
 /// A list whose items lie in a TreeStore. It owns nothing itself: the store does.
 template <class Item>
 class List {
-  static_assert(std::is_trivially_copyable_v<Item> && std::is_trivially_destructible_v<Item>);
+  static_assert(std::is_trivially_copyable_v<Item> && std::is_trivially_destructible_v<Item>,
+                "items are moved as bytes and end with their store, their destructors never run");
+  static_assert(alignof(Item) <= detail::Blocks::kAlignment,
+                "the store's memory is not aligned for these items");
 
  public:
   /// Appends `item`; the memory comes from `store`, the same one for every call on one list.
@@ -108,17 +167,19 @@ class List {
 
  private:
   static constexpr unsigned kFirstSizeClass = 5;
-  static constexpr unsigned kMostSizeClass = 62;
+  static constexpr unsigned kMostSizeClass = std::numeric_limits<std::size_t>::digits - 2;
 
   [[nodiscard]] std::size_t Capacity() const {
     return items_ == nullptr ? 0 : (std::size_t{1} << sizeClass_) / sizeof(Item);
   }
 
   void Grow(TreeStore& store) {
-    unsigned sizeClass = items_ == nullptr ? kFirstSizeClass : sizeClass_ + 1U;
-    // More items than can be counted are more than any memory holds: the allocation fails.
+    const unsigned sizeClass = items_ == nullptr ? kFirstSizeClass : sizeClass_ + 1U;
+    // More items than can be counted are more than any memory holds.
     constexpr std::size_t kMostItems = std::numeric_limits<std::uint32_t>::max();
-    if ((std::size_t{1} << sizeClass) / sizeof(Item) > kMostItems) sizeClass = kMostSizeClass;
+    if (sizeClass > kMostSizeClass || (std::size_t{1} << sizeClass) / sizeof(Item) > kMostItems) {
+      throw std::bad_alloc();
+    }
     auto* items = static_cast<Item*>(store.AllocateArray(sizeClass));
     if (items_ != nullptr) {
       std::memcpy(items, items_, size_ * sizeof(Item));
