@@ -7,11 +7,13 @@
 #include <cmath>
 #include <cstring>
 
+#include "a2l2json/text/bytes.h"
+#include "a2l2json/text/digits.h"
+
 namespace a2l {
 namespace {
 
-// Room for any number and for any escape.
-constexpr std::size_t kMostNumberBytes = 32;
+// Room for any escape.
 constexpr std::size_t kMostEscapeBytes = 6;
 
 // The escapes of one byte; a letter stands for a backslash and that letter.
@@ -36,22 +38,69 @@ constexpr auto kEscapes = [] {
 
 char EscapeOf(char c) { return kEscapes[static_cast<unsigned char>(c)]; }
 
-// True when no byte of a block can need an escape. All bytes are tested at once, each in the top
-// bit of its place in a 64-bit word: it is set in a byte that is not ASCII, and a subtraction sets
-// it in one that is too small (a control character; or, after the exclusive or, the quote or the
-// backslash itself). Escaping byte by byte takes three times the instructions.
-constexpr std::size_t kBlockSize = 8;
-bool IsPlainBlock(const char* bytes) {
-  constexpr std::uint64_t kEach = 0x0101010101010101;
-  std::uint64_t block = 0;
-  std::memcpy(&block, bytes, kBlockSize);
-  const std::uint64_t special = block | (block - kEach * ' ') | ((block ^ (kEach * '"')) - kEach) |
-                                ((block ^ (kEach * '\\')) - kEach);
-  return (special & (kEach * 0x80)) == 0;
+// The bytes of a block that can need an escape.
+std::uint32_t SpecialBytes(const bytes::Block& block) {
+  return bytes::Bits(block.Below(' ') | block.Equal('"') | block.Equal('\\') | block.Equal('\xE2'));
 }
 
 bool IsLineSeparator(std::string_view text) {
   return text.starts_with("\xE2\x80\xA8") || text.starts_with("\xE2\x80\xA9");
+}
+
+// Writes the first byte of `text`, with its escape where it needs one, and takes it off; a line
+// separator, three bytes, as a whole.
+char* EscapeOne(std::string_view& text, char* out) {
+  const char escape = EscapeOf(text.front());
+  if (escape == kPlain || (escape == kLineSeparator && !IsLineSeparator(text))) {
+    *out++ = text.front();
+  } else if (escape == kCode || escape == kLineSeparator) {
+    unsigned code = static_cast<unsigned char>(text.front());
+    if (escape == kLineSeparator) {
+      code = text[2] == '\xA8' ? 0x2028 : 0x2029;
+      text.remove_prefix(2);
+    }
+    constexpr std::string_view kDigits = "0123456789abcdef";
+    *out++ = '\\';
+    *out++ = 'u';
+    for (int shift = 12; shift >= 0; shift -= 4) *out++ = kDigits[(code >> shift) & 0xFU];
+  } else {
+    *out++ = '\\';
+    *out++ = escape;
+  }
+  text.remove_prefix(1);
+  return out;
+}
+
+// Copies `text` up to the first byte that can need an escape; gives the number of bytes. What is
+// behind them is written over: there must be room for a whole block.
+std::size_t CopyPlain(std::string_view text, char* out) {
+  using bytes::Block;
+  using bytes::kBlock;
+  if (text.size() < kBlock) {
+    const Block part = Block::LoadPart(text.data(), text.size());
+    part.Store(out);
+    return bytes::FirstBit(SpecialBytes(part) | 1U << text.size());
+  }
+  const std::size_t last = text.size() - kBlock;
+  for (std::size_t i = 0; i < last; i += kBlock) {
+    const Block block = Block::Load(text.data() + i);
+    block.Store(out + i);
+    if (const std::uint32_t special = SpecialBytes(block)) return i + bytes::FirstBit(special);
+  }
+  const Block block = Block::Load(text.data() + last);  // overlaps the one before
+  block.Store(out + last);
+  return last + bytes::FirstBit(SpecialBytes(block) | 1U << kBlock);
+}
+
+// Writes `text` with its escapes; gives the end of what was written.
+char* Escape(std::string_view text, char* out) {
+  while (true) {
+    const std::size_t plain = CopyPlain(text, out);
+    text.remove_prefix(plain);
+    out += plain;
+    if (text.empty()) return out;
+    out = EscapeOne(text, out);
+  }
 }
 
 }  // namespace
@@ -85,70 +134,45 @@ void JsonText::Key(std::string_view key) {
 }
 
 void JsonText::Integer(std::int32_t value) {
-  Reserve(kMostNumberBytes);
-  char* const begin = buffer_.get() + used_;
-  used_ +=
-      static_cast<std::size_t>(std::to_chars(begin, begin + kMostNumberBytes, value).ptr - begin);
+  Reserve(kMostDigits);
+  SetEnd(std::to_chars(End(), End() + kMostDigits, value).ptr);
 }
 
 void JsonText::Real(double value) {
   if (!std::isfinite(value)) return Null();
-  Reserve(kMostNumberBytes);
-  char* const begin = buffer_.get() + used_;
-  char* const end = begin + kMostNumberBytes;
-  // Most reals in a file are whole numbers, whose 17 significant digits are their decimal ones. A
-  // number too large for that is compared with 0, which it is not.
-  constexpr double kMostWhole = 1e15;
-  const auto whole = static_cast<std::int64_t>(std::abs(value) < kMostWhole ? value : 0);
-  const auto result = static_cast<double>(whole) == value && !(whole == 0 && std::signbit(value))
-                          ? std::to_chars(begin, end, whole)
-                          : std::to_chars(begin, end, value, std::chars_format::general, 17);
-  used_ += static_cast<std::size_t>(result.ptr - begin);
+  Reserve(kMostDigits);
+  SetEnd(Write17Digits(value, End()));
 }
 
 void JsonText::String(std::string_view text) {
+  if (text.size() > kPieceSize) return LongString(text);
+  char* out = ReserveEscaped(text.size());
+  *out++ = '"';
+  out = Escape(text, out);
+  *out++ = '"';
+  SetEnd(out);
+}
+
+void JsonText::LongString(std::string_view text) {
   PutByte('"');
-  while (text.size() > kPieceSize) {
+  while (!text.empty()) {
+    std::size_t size = std::min(text.size(), kPieceSize);
     // A line separator, three bytes, must not fall between two pieces.
-    std::size_t size = kPieceSize;
-    if (IsLineSeparator(text.substr(kPieceSize - 1))) size -= 1;
-    if (IsLineSeparator(text.substr(kPieceSize - 2))) size -= 2;
-    PutEscaped(text.substr(0, size));
+    if (size < text.size()) {
+      if (IsLineSeparator(text.substr(size - 1))) size -= 1;
+      if (IsLineSeparator(text.substr(size - 2))) size -= 2;
+    }
+    SetEnd(Escape(text.substr(0, size), ReserveEscaped(size)));
     text.remove_prefix(size);
   }
-  PutEscaped(text);
   PutByte('"');
 }
 
-void JsonText::PutEscaped(std::string_view text) {
-  static_assert(kPieceSize * kMostEscapeBytes <= kBufferSize);
-  Reserve(text.size() * kMostEscapeBytes);
-  char* out = buffer_.get() + used_;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    for (; i + kBlockSize <= text.size() && IsPlainBlock(text.data() + i); i += kBlockSize) {
-      std::memcpy(out, text.data() + i, kBlockSize);
-      out += kBlockSize;
-    }
-    if (i == text.size()) break;
-    const char escape = EscapeOf(text[i]);
-    if (escape == kPlain || (escape == kLineSeparator && !IsLineSeparator(text.substr(i)))) {
-      *out++ = text[i];
-    } else if (escape == kCode || escape == kLineSeparator) {
-      unsigned code = static_cast<unsigned char>(text[i]);
-      if (escape == kLineSeparator) {
-        code = text[i + 2] == '\xA8' ? 0x2028 : 0x2029;
-        i += 2;
-      }
-      constexpr std::string_view kDigits = "0123456789abcdef";
-      *out++ = '\\';
-      *out++ = 'u';
-      for (int shift = 12; shift >= 0; shift -= 4) *out++ = kDigits[(code >> shift) & 0xFU];
-    } else {
-      *out++ = '\\';
-      *out++ = escape;
-    }
-  }
-  used_ = static_cast<std::size_t>(out - buffer_.get());
+char* JsonText::ReserveEscaped(std::size_t size) {
+  constexpr std::size_t kMore = bytes::kBlock + std::string_view("\"\"").size();
+  static_assert(kPieceSize * kMostEscapeBytes + kMore <= kBufferSize);
+  Reserve(size * kMostEscapeBytes + kMore);
+  return End();
 }
 
 }  // namespace a2l

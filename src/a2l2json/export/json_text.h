@@ -75,10 +75,14 @@ class JsonText {
     buffer_[used_++] = c;
   }
   void Put(std::string_view text);
-  void PutEscaped(std::string_view text);
+  void LongString(std::string_view text);
+  // Room for a text of that many bytes, whatever its escapes, and for its quotes.
+  char* ReserveEscaped(std::size_t size);
   void Reserve(std::size_t size) {
     if (kBufferSize - used_ < size) Flush();
   }
+  [[nodiscard]] char* End() { return buffer_.get() + used_; }
+  void SetEnd(const char* end) { used_ = static_cast<std::size_t>(end - buffer_.get()); }
 
   Output output_;
   std::unique_ptr<char[]> buffer_ = std::make_unique_for_overwrite<char[]>(kBufferSize);

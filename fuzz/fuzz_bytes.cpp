@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+//
+// The searches and copies of bytes, and the escapes that are built on them, against plain loops.
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "a2l2json/export/json_text.h"
+#include "a2l2json/text/bytes.h"
+#include "fuzz/check.h"
+
+namespace a2l::fuzz {
+namespace {
+
+// Everything is looked at in memory of its own, so that a read behind its end is found.
+using Bytes = std::vector<char>;
+
+template <char... kBytes>
+void CheckFind(const Bytes& text) {
+  const char* const end = text.data() + text.size();
+  const auto* const first =
+      std::find_if(text.data(), end, [](char c) { return ((c == kBytes) || ...); });
+  CheckSame(static_cast<std::size_t>(bytes::Find<kBytes...>(text.data(), end) - text.data()),
+            static_cast<std::size_t>(first - text.data()), "Find");
+}
+
+void CheckFindAll(const Bytes& text) {
+  if (text.size() < bytes::kMany) return;
+  const auto places = bytes::FindAll<'\n', '/'>(text.data());
+  for (std::size_t i = 0; i < bytes::kMany; ++i) {
+    Check((places[0] >> i & 1U) == (text[i] == '\n' ? 1U : 0U), "a line feed of FindAll");
+    Check((places[1] >> i & 1U) == (text[i] == '/' ? 1U : 0U), "a slash of FindAll");
+  }
+}
+
+void CheckCopy(const Bytes& text) {
+  Bytes copy(text.size());
+  bytes::Copy(copy.data(), text.data(), text.size());
+  CheckSame(std::string_view(copy.data(), copy.size()), std::string_view(text.data(), text.size()),
+            "Copy");
+}
+
+std::string Escaped(std::string_view text) {
+  std::string json = "\"";
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    constexpr std::string_view kLetters = "\"\"\\\\\bb\ff\nn\rr\tt";
+    const std::string_view three = text.substr(i, 3);
+    std::size_t letter = 0;
+    while (letter < kLetters.size() && kLetters[letter] != text[i]) letter += 2;
+    if (three == "\xE2\x80\xA8" || three == "\xE2\x80\xA9") {
+      json += three.back() == '\xA8' ? "\\u2028" : "\\u2029";
+      i += 2;
+    } else if (letter < kLetters.size()) {
+      json += {'\\', kLetters[letter + 1]};
+    } else if (static_cast<unsigned char>(text[i]) < 0x20) {
+      constexpr std::string_view kDigits = "0123456789abcdef";
+      const auto byte = static_cast<unsigned char>(text[i]);
+      json += {'\\', 'u', '0', '0', kDigits[byte / 16U], kDigits[byte % 16U]};
+    } else {
+      json += text[i];
+    }
+  }
+  return json + '"';
+}
+
+void CheckEscapes(const Bytes& text) {
+  std::string json;
+  JsonText writer([&json](std::string_view piece) { json += piece; });
+  writer.String({text.data(), text.size()});
+  writer.Flush();
+  CheckSame(json, Escaped({text.data(), text.size()}), "String");
+}
+
+void CheckBytes(std::string_view input) {
+  // The first byte says where the text begins, so that the same bytes are met at every place.
+  const std::size_t skipped =
+      input.empty() ? 0 : std::min<std::size_t>(static_cast<unsigned char>(input[0]), input.size());
+  const Bytes text(input.begin() + static_cast<std::ptrdiff_t>(skipped), input.end());
+  CheckFind<' '>(text);
+  CheckFind<' ', '"'>(text);
+  CheckFind<'"', '\\', '\xFF'>(text);
+  CheckFindAll(text);
+  CheckCopy(text);
+  CheckEscapes(text);
+}
+
+}  // namespace
+}  // namespace a2l::fuzz
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  a2l::fuzz::CheckBytes(a2l::fuzz::Input(data, size, 1024));
+  return 0;
+}
