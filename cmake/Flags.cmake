@@ -56,7 +56,10 @@ if(A2L2JSON_COVERAGE)
 endif()
 
 # ---------------------------------------------------------------------------------------------
-# Release is -O3, as CMake has it for these compilers, plus interprocedural optimisation
+# Release is -O3, as CMake has it for these compilers. The program is also optimised as a whole when
+# it is linked (CMake's "interprocedural optimisation"). That takes a minute for a program as large
+# as the tests and is of no use there, so tests and generators do without, and with -O1 for their
+# own code; what they test of the library is compiled like that of the program.
 
 if(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT DEFINED CMAKE_INTERPROCEDURAL_OPTIMIZATION_RELEASE)
   include(CheckIPOSupported)
@@ -67,3 +70,24 @@ if(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT DEFINED CMAKE_INTERPROCEDURAL_OPT
     message(STATUS "No interprocedural optimisation with this compiler")
   endif()
 endif()
+
+# GCC can write objects that serve both kinds of linking; those of Clang 14 serve only one.
+set(A2L2JSON_TWO_KINDS_OF_OBJECTS OFF)
+if(CMAKE_BUILD_TYPE STREQUAL "Release"
+   AND CMAKE_INTERPROCEDURAL_OPTIMIZATION_RELEASE
+   AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  set(A2L2JSON_TWO_KINDS_OF_OBJECTS ON)
+  add_compile_options(-ffat-lto-objects)
+endif()
+
+# a2l2json_build_quickly(<target>...): for what is built to be run a few times
+function(a2l2json_build_quickly)
+  if(NOT A2L2JSON_TWO_KINDS_OF_OBJECTS)
+    return()
+  endif()
+  set_target_properties(${ARGV} PROPERTIES INTERPROCEDURAL_OPTIMIZATION_RELEASE OFF)
+  foreach(target ${ARGV})
+    target_compile_options(${target} PRIVATE -O1)
+    target_link_options(${target} PRIVATE -fno-lto)
+  endforeach()
+endfunction()
