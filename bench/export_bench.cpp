@@ -44,7 +44,7 @@ bool IsRight(benchmark::State& state, const VoA2LElement& root) {
 
 void Export(benchmark::State& state) {
   const Input& input = InputOf(state.range(0));
-  const Tree root = ReadChecked(input, state);
+  Tree root = ReadChecked(input, state);
   if (root.get() == nullptr || !IsRight(state, *root)) return;
   std::size_t bytes = 0;
   for (auto _ : state) {
@@ -58,7 +58,7 @@ BENCHMARK(Export)->Arg(1)->Arg(8)->Arg(64)->Arg(256)->Unit(benchmark::kMilliseco
 
 void ExportJson11(benchmark::State& state) {
   const Input& input = InputOf(state.range(0));
-  const Tree root = ReadChecked(input, state);
+  Tree root = ReadChecked(input, state);
   if (root.get() == nullptr || !IsRight(state, *root)) return;
   for (auto _ : state) {
     const std::string json = ToJson11(*root).dump();

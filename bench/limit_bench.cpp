@@ -18,7 +18,7 @@ void Limit(benchmark::State& state) {
   std::ofstream(a2l.Path(), std::ios::binary) << input.text;
   std::uintmax_t size = 0;
   {
-    const Tree root = ReadChecked(input, state);
+    Tree root = ReadChecked(input, state);
     if (root.get() == nullptr) return;
     JsonWriter().Export(json.Path(), root.get());
     size = std::filesystem::file_size(json.Path());

@@ -19,7 +19,7 @@
 namespace {
 
 int Check(const std::string& a2l, const std::string& json) {
-  const a2l::Tree root;
+  a2l::Tree root;
   a2l::A2LReader reader;
   const std::string complaint = reader.Parse(a2l, root.get()) ? a2l::bench::Complaint(json, *root)
                                                               : "the input cannot be read";

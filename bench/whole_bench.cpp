@@ -15,7 +15,7 @@ namespace a2l::bench {
 namespace {
 
 bool Convert(const std::string& a2lPath, const std::string& jsonPath) {
-  const Tree root(NewTree());
+  Tree root(NewTree());
   A2LReader reader;
   JsonWriter writer;
   return reader.Parse(a2lPath, root.get()) && writer.Export(jsonPath, root.get());
@@ -27,7 +27,7 @@ void Whole(benchmark::State& state) {
   const MemoryFile json("whole.json");
   std::ofstream(a2l.Path(), std::ios::binary) << input.text;
   {
-    const Tree root = ReadChecked(input, state);
+    Tree root = ReadChecked(input, state);
     if (root.get() == nullptr) return;
     if (!Convert(a2l.Path(), json.Path()) || !Complaint(json.Path(), *root).empty()) {
       state.SkipWithError("the file was not converted");

@@ -40,7 +40,7 @@ TEST(NaiveTokenizer, TellsTheRules) {
 // One reason after the other why a text may change; everything but the reason round-trips.
 TEST(RoundTrips, IsNotPromisedForWhatChanges) {
   const auto module = [](const std::string& content) {
-    const Reading reading = Read("/begin PROJECT p \"\"\n/begin MODULE m \"\"\n" + content +
+    Reading reading = Read("/begin PROJECT p \"\"\n/begin MODULE m \"\"\n" + content +
                                  "\n/end MODULE\n/end PROJECT\n");
     EXPECT_TRUE(reading.ok) << content;
     return RoundTrips(*reading.root);
@@ -102,7 +102,7 @@ TEST(RoundTrips, IsNotPromisedForWhatChanges) {
 
 // What stands against the round trip goes, with all that is in it; everything else stays.
 TEST(RoundTrips, KeepsTheRest) {
-  const Reading reading = Read(R"(ASAP2_VERSION 1 2
+  Reading reading = Read(R"(ASAP2_VERSION 1 2
 ASAP2_VERSION 1 3
 /begin PROJECT p ""
 /begin MODULE m ""
@@ -163,12 +163,12 @@ TEST(RoundTrips, KeepMostOfGeneratedFiles) {
   std::size_t all = 0;
   std::size_t kept = 0;
   for (std::uint64_t seed = 0; seed < 100; ++seed) {
-    const Reading first = Read(test::Generate(seed).text);
+    Reading first = Read(test::Generate(seed).text);
     all += CountElements(*first.root);
     KeepWhatRoundTrips(*first.root);
     kept += CountElements(*first.root);
     const std::string written = Written(*first.root);
-    const Reading second = Read(written);
+    Reading second = Read(written);
     EXPECT_EQ(second.reader.message, "") << seed;
     EXPECT_EQ(Written(*second.root), written) << seed;
     EXPECT_EQ(ToJson(*second.root), ToJson(*first.root)) << seed;

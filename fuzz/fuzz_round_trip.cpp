@@ -16,14 +16,14 @@ namespace a2l::fuzz {
 namespace {
 
 void CheckRoundTrip(std::string_view bytes) {
-  const Reading first = Read(bytes);
+  Reading first = Read(bytes);
   const bool roundTrips = RoundTrips(*first.root);
   const std::string whole = Written(*first.root);
   KeepWhatRoundTrips(*first.root);
   Check(RoundTrips(*first.root), "what is left round-trips");
   const std::string written = Written(*first.root);
   if (roundTrips) CheckSame(written, whole, "the text without what is not written");
-  const Reading second = Read(written);
+  Reading second = Read(written);
   Check(second.ok, "what was written can be read");
   CheckSame(second.reader.message, "", "the messages of the second round");
   CheckSame(Written(*second.root), written, "the text of the second round");

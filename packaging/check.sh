@@ -165,7 +165,7 @@ cmake --install build/package --prefix "$work/installed" >"$work/installed.log"
 for prefix in "$root/usr" "$work/installed"; do
   for file in bin/a2l2json share/a2l2json/json.schema.json 'share/man/man1/a2l2json.1*' \
     share/bash-completion/completions/a2l2json 'share/zsh/*/_a2l2json' \
-    share/fish/vendor_completions.d/a2l2json.fish include/a2l2json/reader/a2l_reader.h \
+    share/fish/vendor_completions.d/a2l2json.fish include/a2l2json/a2l2json.h \
     'lib*/**/liba2l2json.a' 'lib*/**/cmake/a2l2json/a2l2json-config.cmake' \
     'lib*/**/pkgconfig/a2l2json.pc'; do
     compgen -G "$prefix/$file" >/dev/null || die "there is no $prefix/$file"

@@ -108,7 +108,7 @@ TEST_P(Golden, ProgramGivesConsoleTextExitCodeAndDocument) {
 
 TEST_P(Golden, LibraryGivesTheSameDocumentThroughJson11) {
   const Case& golden = GetParam();
-  const Reading reading = Read(ReadFile(golden.path));
+  Reading reading = Read(ReadFile(golden.path));
   EXPECT_EQ(reading.ok, !golden.Is("fail_"));
   if (reading.ok) {
     EXPECT_EQ(ToJson(*reading.root), ToJson11(*reading.root).dump());
@@ -118,7 +118,7 @@ TEST_P(Golden, LibraryGivesTheSameDocumentThroughJson11) {
 TEST_P(Golden, TreeIsWrittenBack) {
   const Case& golden = GetParam();
   if (!fs::exists(golden.With(".written"))) return;
-  const Reading reading = Read(ReadFile(golden.path));
+  Reading reading = Read(ReadFile(golden.path));
   ASSERT_TRUE(reading.ok);
   ExpectFile(golden.With(".written"), Written(*reading.root));
 }

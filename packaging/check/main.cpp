@@ -10,12 +10,8 @@
 #include <sstream>
 #include <string>
 
-#include "a2l2json/elements/elements.h"
-#include "a2l2json/export/json11_document.h"
-#include "a2l2json/export/json_writer.h"
-#include "a2l2json/model/tree.h"
-#include "a2l2json/model/version.h"
-#include "a2l2json/reader/a2l_reader.h"
+#include <a2l2json/a2l2json.h>
+#include <a2l2json/export/json11_document.h>
 
 static std::string Bytes(const char* path) {
   std::ifstream in(path, std::ios::binary);
@@ -24,17 +20,16 @@ static std::string Bytes(const char* path) {
 
 int main(int argc, char* argv[]) {
   if (argc != 3) return 2;
-  a2l::Tree tree;
-  a2l::Tree again;
-  a2l::A2LReader reader;
+  a2l::ReadResult file = a2l::ReadFile(argv[1]);
+  const a2l::ReadResult bytes = a2l::Read(Bytes(argv[1]));
   std::ostringstream text;
   std::ostringstream json;
-  const bool ok = reader.ParseText(Bytes(argv[1]), tree.get()) && tree->Write(0, text) &&
-                  reader.ParseText(text.str(), again.get()) && reader.diagnostics.empty();
-  a2l::WriteJson(*tree, json);
+  if (!file || !bytes || !file.tree->Write(0, text)) return 1;
+  const a2l::ReadResult again = a2l::Read(text.str());
+  a2l::WriteJson(*bytes.tree, json);
   const std::string expected = Bytes(argv[2]);
-  if (!ok || json.str() != expected || a2l::ToJson(*again) != expected ||
-      a2l::ToJson11(*tree).dump() != expected) {
+  if (!again || !again.diagnostics.empty() || json.str() != expected ||
+      a2l::ToJson(*again.tree) != expected || a2l::ToJson11(*file.tree).dump() != expected) {
     return 1;
   }
   std::cout << a2l::Version();

@@ -277,7 +277,7 @@ TEST(JsonPage, NamesWhatIsReadButNotShown) {
   for (const DocumentObject& object : DocumentObjects()) {
     for (const ElementKind kind : object.kinds) {
       for (const ElementKind childKind : KindsWithAClass()) {
-        const Tree tree;
+        Tree tree;
         VoA2LElement* element = CreateElement(kind, *tree);
         VoA2LElement* child = CreateElement(childKind, *element);
         const bool isShown = object.table->rowOfKind[KindIndex(childKind)] != 0 ||

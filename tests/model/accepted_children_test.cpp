@@ -172,7 +172,7 @@ void PrintTo(const Block& block, std::ostream* out) { *out << block.keyword; }
 class AcceptedChildren : public testing::TestWithParam<Block> {};
 
 TEST_P(AcceptedChildren, AreThoseOfTheFormat) {
-  const Tree root(NewTree());
+  Tree root(NewTree());
   VoA2LElement* block = CreateElement(KeywordToKind(GetParam().keyword), *root);
   ASSERT_NE(block, nullptr);
   ExpectAccepts(*block, GetParam().children);
@@ -188,13 +188,13 @@ TEST(AcceptedChildrenTable, HasEveryBlockOnce) {
 }
 
 TEST(AcceptedChildrenOf, ARootAndAnUnknownBlock) {
-  const Tree root(NewTree());
+  Tree root(NewTree());
   ExpectAccepts(*root, kBase);
   ExpectAccepts(*CreateElement(KIND_UNKNOWN, *root), kBase);
 }
 
 TEST(AcceptedChildrenOf, EveryProperty) {
-  const Tree root(NewTree());
+  Tree root(NewTree());
   for (const ElementKind kind : KindsWithAClass()) {
     if (!IsProperty(kind)) continue;
     SCOPED_TRACE(Shown(kind));

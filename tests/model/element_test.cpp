@@ -9,6 +9,7 @@
 #include <sstream>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <typeinfo>
 #include <vector>
 
@@ -62,6 +63,15 @@ TEST_F(ElementTest, BaseHasDefaults) {
   EXPECT_EQ(root_->Child(0), nullptr);
   EXPECT_EQ(root_->ParamCount(), 0U);
   EXPECT_FALSE(root_->HasMoreParameters());
+}
+
+// Its children and its parent point to it, so a copy would be an element that no tree knows.
+TEST_F(ElementTest, IsNotCopied) {
+  static_assert(
+      !std::is_copy_constructible_v<VoA2LElement> && !std::is_move_constructible_v<VoA2LElement> &&
+      !std::is_copy_assignable_v<VoA2LElement> && !std::is_move_assignable_v<VoA2LElement>);
+  static_assert(!std::is_copy_constructible_v<VoA2LElementFunction> &&
+                !std::is_move_assignable_v<VoA2LElementFunction>);
 }
 
 TEST_F(ElementTest, BaseReadsNothing) {

@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "a2l2json/elements/elements.h"
+#include "a2l2json/model/name_index.h"
 #include "tests/support/trees.h"
 
 namespace a2l::test {
@@ -52,7 +53,7 @@ std::vector<std::string> Names(const Range& range) {
 using NameList = std::vector<std::string>;
 
 TEST(Tree, IsEmptyAtFirst) {
-  const Tree tree;
+  Tree tree;
   ASSERT_NE(tree.get(), nullptr);
   EXPECT_EQ(tree->kind, KIND_ROOT);
   EXPECT_EQ(tree->ChildCount(), 0U);
@@ -69,9 +70,34 @@ TEST(Tree, OwnsItsElements) {
   EXPECT_NE(other.get(), root);
 }
 
+TEST(Tree, IsMovedWithoutALoss) {
+  static_assert(std::is_nothrow_move_constructible_v<Tree> &&
+                std::is_nothrow_move_assignable_v<Tree>);
+  Tree tree;
+  VoA2LElement* const root = tree.get();
+  Tree& same = tree;
+  tree = std::move(same);
+  EXPECT_EQ(tree.get(), root);
+  const Tree other = std::move(tree);
+  EXPECT_EQ(other.get(), root);
+  EXPECT_EQ(tree.get(), nullptr);  // NOLINT(bugprone-use-after-move): what is left is known
+  tree = Tree();
+  EXPECT_NE(tree.get(), nullptr);
+}
+
+TEST(Tree, ThatIsConstHasAConstRoot) {
+  static_assert(std::is_same_v<decltype(*std::declval<const Tree&>()), const VoA2LElement&>);
+  static_assert(std::is_same_v<decltype(std::declval<const Tree&>().get()), const VoA2LElement*>);
+  static_assert(
+      std::is_same_v<decltype(std::declval<const Tree&>().operator->()), const VoA2LElement*>);
+  static_assert(std::is_same_v<decltype(*std::declval<Tree&>()), VoA2LElement&>);
+  const Tree tree;
+  EXPECT_EQ(&*tree, tree.get());
+}
+
 TEST(Tree, TakesOverATreeThatIsThere) {
   VoA2LElement* const root = NewTree();
-  const Tree tree(root);
+  Tree tree(root);
   EXPECT_EQ(tree.get(), root);
 }
 
@@ -84,7 +110,7 @@ TEST(Tree, MayBeGivenAway) {
 }
 
 TEST(As, GivesAnElementAsItsClass) {
-  const Reading reading = Read(kFile);
+  Reading reading = Read(kFile);
   VoA2LElement& project = *reading.root->Child(1);
   ASSERT_NE(As<VoA2LElementProject>(project), nullptr);
   EXPECT_EQ(As<VoA2LElementProject>(project)->NAME, "P");
@@ -165,7 +191,7 @@ TEST(Descendants, ComeInTheOrderOfTheFile) {
 
 TEST(Descendants, AreFoundHoweverDeepTheyAre) {
   constexpr int kLevels = 100000;
-  const Tree tree;
+  Tree tree;
   VoA2LElement* innermost = tree.get();
   for (int i = 0; i < kLevels; ++i) {
     auto* project = tree->Store().Create<VoA2LElementProject>(innermost);
@@ -176,7 +202,7 @@ TEST(Descendants, AreFoundHoweverDeepTheyAre) {
 }
 
 TEST(Walks, GiveElementsThatMayBeChangedWhereTheTreeMay) {
-  const Reading reading = Read(kFile);
+  Reading reading = Read(kFile);
   for (auto& measurement : Descendants<VoA2LElementMeasurement>(*reading.root)) {
     measurement.NAME = "renamed";
   }
@@ -202,6 +228,39 @@ TEST(Walks, AreRanges) {
   EXPECT_EQ(std::ranges::count_if(measurements, isB), 1) << "a walk may be made again";
   EXPECT_EQ(measurements.First()->NAME, "a");
   EXPECT_EQ(Descendants<VoA2LElementUnit>(*reading.root).First(), nullptr);
+}
+
+TEST(FindByName, IsTheFirstOfItsClassWithThatName) {
+  Reading reading = Read(
+      "/begin PROJECT P \"\"\n"
+      "/begin MODULE M \"\"\n"
+      "/begin CHARACTERISTIC a \"\" VALUE 0x30 L 0 C 0 1\n/end CHARACTERISTIC\n"
+      "/begin MEASUREMENT a \"first\" UBYTE C 1 0 0 1\n/end MEASUREMENT\n"
+      "/begin MEASUREMENT b \"\" UBYTE C 1 0 0 1\n/end MEASUREMENT\n"
+      "/begin MEASUREMENT a \"second\" UBYTE C 1 0 0 1\n/end MEASUREMENT\n"
+      "/end MODULE\n"
+      "/end PROJECT\n");
+  VoA2LElement& root = *reading.root;
+  auto* const a = FindByName<VoA2LElementMeasurement>(root, "a");
+  ASSERT_NE(a, nullptr);
+  EXPECT_EQ(a->LONG_IDENTIFIER, "first");
+  EXPECT_EQ(FindByName<VoA2LElementMeasurement>(root, "b")->NAME, "b");
+  EXPECT_EQ(FindByName<VoA2LElementMeasurement>(root, "A"), nullptr) << "letters count as they are";
+  EXPECT_EQ(FindByName<VoA2LElementMeasurement>(root, ""), nullptr);
+  EXPECT_EQ(FindByName<VoA2LElementBlob>(root, "a"), nullptr);
+  EXPECT_EQ(FindByName<VoA2LElementMeasurement>(*a, "a"), nullptr) << "not below itself";
+
+  const VoA2LElement& constant = root;
+  static_assert(std::is_same_v<decltype(a), VoA2LElementMeasurement* const>);
+  static_assert(std::is_same_v<decltype(FindByName<VoA2LElementMeasurement>(constant, "a")),
+                               const VoA2LElementMeasurement*>);
+
+  const NameIndex<VoA2LElementMeasurement> index(constant);
+  EXPECT_EQ(index.Find("a"), a);
+  EXPECT_EQ(index.Find("b"), FindByName<VoA2LElementMeasurement>(constant, "b"));
+  EXPECT_EQ(index.Find("c"), nullptr);
+  EXPECT_EQ(index.size(), 2U);
+  EXPECT_EQ(NameIndex<VoA2LElementBlob>(constant).size(), 0U);
 }
 
 }  // namespace

@@ -50,13 +50,14 @@ Result ReadInto(VoA2LElement& root, std::string_view text) {
 }
 
 TEST(A2LReader, RefusesAStreamThatHasFailedAlready) {
-  const Tree root;
+  Tree root;
   A2LReader reader;
   std::ifstream closed("no such file.a2l");
   EXPECT_FALSE(reader.Parse(closed, root.get()));
   std::istringstream failed("WORD\n");
   failed.setstate(std::ios::failbit);
   EXPECT_FALSE(reader.Parse(failed, root.get()));
+  EXPECT_EQ(reader.fileError, FileError::NotOpened);
   EXPECT_EQ(reader.message, "");
   // One that is at its end has nothing in it, and that is no failure.
   std::istringstream ended("");
@@ -77,7 +78,7 @@ TEST(A2LReader, NeedsARoot) {
 
 TEST(A2LReader, FailsWithoutAMessageWhereThereIsNoFile) {
   const TemporaryFolder folder;
-  const Tree root(NewTree());
+  Tree root(NewTree());
   for (const std::string& path :
        {(folder / "missing.a2l").string(), (folder / "missing/in.a2l").string(), std::string()}) {
     A2LReader reader;
@@ -89,7 +90,7 @@ TEST(A2LReader, FailsWithoutAMessageWhereThereIsNoFile) {
 
 TEST(A2LReader, FailsOnAFolder) {
   const TemporaryFolder folder;
-  const Tree root(NewTree());
+  Tree root(NewTree());
   A2LReader reader;
   EXPECT_FALSE(reader.Parse(folder.Path().string(), root.get()));
   EXPECT_EQ(reader.message, "");
@@ -98,12 +99,12 @@ TEST(A2LReader, FailsOnAFolder) {
 TEST(A2LReader, ReadsAFileAsItReadsAStream) {
   const TemporaryFolder folder;
   WriteFile(folder / "in.a2l", kSmallFile);
-  const Tree root(NewTree());
+  Tree root(NewTree());
   A2LReader reader;
   EXPECT_TRUE(reader.Parse((folder / "in.a2l").string(), root.get()));
   EXPECT_EQ(reader.message, "Warning: Line(3) unexpected element WORD\n");
 
-  const Reading reading = Read(kSmallFile);
+  Reading reading = Read(kSmallFile);
   EXPECT_TRUE(reading.ok);
   EXPECT_EQ(reading.reader.message, reader.message);
   EXPECT_EQ(Written(*reading.root), Written(*root));
@@ -111,7 +112,7 @@ TEST(A2LReader, ReadsAFileAsItReadsAStream) {
 }
 
 TEST(A2LReader, ReadsATextInMemoryAsItReadsAFile) {
-  const Tree root;
+  Tree root;
   A2LReader reader;
   {
     const std::string text(kSmallFile);
@@ -129,7 +130,7 @@ TEST(A2LReader, ReadsATextInMemoryAsItReadsAFile) {
 // A large text is not copied as a whole, only what the tree keeps of it.
 TEST(A2LReader, TakesLittleMemoryForATextInMemory) {
   const std::string text(std::size_t{16} * 1024 * 1024, '\n');
-  const Tree root;
+  Tree root;
   A2LReader reader;
   const auto bytes = AllocatedBytes([&] { EXPECT_TRUE(reader.ParseText(text, root.get())); });
   if (!bytes.has_value()) GTEST_SKIP() << "allocations cannot be counted here";
@@ -146,7 +147,7 @@ TEST(A2LReader, ReadsInSeveralThreadsAtATime) {
     for (std::string& document : documents) {
       threads.emplace_back([&] {
         for (int i = 0; i < 20; ++i) {
-          const Tree tree;
+          Tree tree;
           A2LReader reader;
           if (reader.ParseText(text, tree.get())) document = ToJson(*tree);
         }
@@ -158,7 +159,7 @@ TEST(A2LReader, ReadsInSeveralThreadsAtATime) {
 
 // A tree that is only looked at may be looked at by several threads.
 TEST(A2LReader, GivesATreeThatThreadsMayShare) {
-  const Tree tree;
+  Tree tree;
   A2LReader reader;
   ASSERT_TRUE(reader.Parse((kExamples / "demo.a2l").string(), tree.get()));
   const VoA2LElement& root = *tree;
@@ -177,12 +178,16 @@ TEST(A2LReader, GivesATreeThatThreadsMayShare) {
 TEST(A2LReader, ReadsOneFileAfterTheOther) {
   const TemporaryFolder folder;
   WriteFile(folder / "in.a2l", kSmallFile);
-  const Tree root(NewTree());
+  Tree root(NewTree());
   A2LReader reader;
   EXPECT_FALSE(reader.Parse((folder / "missing.a2l").string(), root.get()));
+  EXPECT_EQ(reader.fileError, FileError::NotFound);
   EXPECT_TRUE(reader.Parse((folder / "in.a2l").string(), root.get()));
+  EXPECT_EQ(reader.fileError, FileError::None);
   EXPECT_FALSE(reader.Parse(folder.Path().string(), root.get()));
+  EXPECT_EQ(reader.fileError, FileError::IsFolder);
   EXPECT_TRUE(reader.Parse((folder / "in.a2l").string(), root.get()));
+  EXPECT_EQ(reader.fileError, FileError::None);
   EXPECT_EQ(root->ChildCount(), 4U);
   EXPECT_EQ(reader.message,
             "Warning: Line(3) unexpected element WORD\n"
@@ -192,12 +197,12 @@ TEST(A2LReader, ReadsOneFileAfterTheOther) {
 TEST(A2LReader, ReadsAnEmptyFile) {
   const TemporaryFolder folder;
   WriteFile(folder / "in.a2l", "");
-  const Tree root(NewTree());
+  Tree root(NewTree());
   A2LReader reader;
   EXPECT_TRUE(reader.Parse((folder / "in.a2l").string(), root.get()));
   for (const std::string_view text :
        {"", "\n", "\r\n\r\n", " \t ", "// nothing\n/* at\nall */\n"}) {
-    const Reading reading = Read(text);
+    Reading reading = Read(text);
     EXPECT_TRUE(reading.ok) << testing::PrintToString(text);
     EXPECT_EQ(reading.reader.message, "") << testing::PrintToString(text);
     EXPECT_EQ(reading.root->ChildCount(), 0U);
@@ -205,7 +210,7 @@ TEST(A2LReader, ReadsAnEmptyFile) {
 }
 
 TEST(A2LReader, GivesItsMessagesAsDataToo) {
-  const Reading reading = Read(
+  Reading reading = Read(
       "WORD\n"
       "/begin PROJECT P \"\"\n"
       "/begin MODULE M \"\"\n"
@@ -232,7 +237,7 @@ TEST(A2LReader, GivesItsMessagesAsDataToo) {
 }
 
 TEST(A2LReader, KeepsTheTreeThatItReadBeforeAnError) {
-  const Reading reading = Read(
+  Reading reading = Read(
       "/begin PROJECT P \"\"\n"
       "/begin MODULE M \"\"\n"
       "/end PROJECT\n"
@@ -251,9 +256,10 @@ TEST(A2LReader, FailsOnABrokenDeviceWithTheMessagesSoFar) {
   for (int i = 0; i < 500000; ++i) text += "WORD\n";
   FailingBuffer buffer(text, text.size() - 2);
   std::istream in(&buffer);
-  const Tree root(NewTree());
+  Tree root(NewTree());
   A2LReader reader;
   EXPECT_FALSE(reader.Parse(in, root.get()));
+  EXPECT_EQ(reader.fileError, FileError::ReadFailed);
   EXPECT_TRUE(
       reader.message.starts_with("Warning: Line(1) unexpected element WORD\n"
                                  "Warning: Line(2) unexpected element WORD\n"));
@@ -273,7 +279,7 @@ TEST(A2LReader, ReadsAFileThatIsRemovedMeanwhile) {
   WriteFile(path, text + kSmallFile.data());
   std::ifstream in(path, std::ios::binary);
   std::filesystem::remove(path);
-  const Tree root(NewTree());
+  Tree root(NewTree());
   A2LReader reader;
   EXPECT_TRUE(reader.Parse(in, root.get()));
   EXPECT_EQ(reader.message, "Warning: Line(3) unexpected element WORD\n");
@@ -292,7 +298,7 @@ TEST(A2LReader, ReadsAFileThatIsCutMeanwhile) {
   in.get();
   in.unget();  // so that a part has been read
   std::filesystem::resize_file(path, 1000000);
-  const Tree root(NewTree());
+  Tree root(NewTree());
   A2LReader reader;
   EXPECT_TRUE(reader.Parse(in, root.get()));
   EXPECT_EQ(reader.diagnostics.size(), 200000U);
@@ -301,7 +307,7 @@ TEST(A2LReader, ReadsAFileThatIsCutMeanwhile) {
 TEST(A2LReader, FailsOnABrokenDeviceInsideAComment) {
   FailingBuffer buffer("/* " + std::string(1000, 'x'), 900);
   std::istream in(&buffer);
-  const Tree root(NewTree());
+  Tree root(NewTree());
   A2LReader reader;
   EXPECT_FALSE(reader.Parse(in, root.get()));
   EXPECT_EQ(reader.message, "") << "the comment may well be closed in what could not be read";
@@ -468,7 +474,7 @@ TEST(FragmentReading, EndOfTheRootItselfIsAnError) {
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(testing::PrintToString(row.text));
-    const Tree root(NewTree());
+    Tree root(NewTree());
     root->kind = row.kind;
     const auto [ok, message] = ReadInto(*root, row.text);
     EXPECT_FALSE(ok);
@@ -557,7 +563,7 @@ TEST(A2LReader, TakesAFullLineOfAnOpenListAtOnce) {
     text += row.head;
     for (std::size_t i = 0; i < row.tokens; ++i) text += " 7";
     text += "\n5\n";
-    const Reading reading = Read(text);
+    Reading reading = Read(text);
     EXPECT_TRUE(reading.ok);
     EXPECT_EQ(reading.reader.message, row.message);
   }
@@ -586,7 +592,7 @@ TEST(A2LReader, ReadsBlocksOfAnyDepth) {
   }
   for (int i = 0; i < kRounds; ++i)
     text += "/end DEF_CHARACTERISTIC\n/end FUNCTION\n/end MODULE\n/end PROJECT\n";
-  const Reading reading = Read(text);
+  Reading reading = Read(text);
   EXPECT_TRUE(reading.ok);
   EXPECT_EQ(reading.reader.message, "");
   int depth = 0;
@@ -613,7 +619,7 @@ TEST(A2LReader, KeepsRawBlocksOfAnyDepth) {
   std::string body;
   for (std::size_t i = 0; i < kDepth; ++i) body += "\n/begin B";
   for (std::size_t i = 0; i < kDepth; ++i) body += "\n/end B";
-  const Reading reading = Read("/begin WORD a" + body + "\n/end WORD\n");
+  Reading reading = Read("/begin WORD a" + body + "\n/end WORD\n");
   EXPECT_TRUE(reading.ok);
   const auto* unknown = dynamic_cast<const VoA2LElementUnknown*>(reading.root->Child(0));
   ASSERT_NE(unknown, nullptr);

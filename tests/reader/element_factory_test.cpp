@@ -211,7 +211,7 @@ constexpr Row kRows[] = {
 };
 
 TEST(ElementFactory, GivesEachKeywordItsClass) {
-  const Tree root(NewTree());
+  Tree root(NewTree());
   std::set<std::string> seen;
   for (const Row& row : kRows) {
     for (const std::string& keyword : Words(row.keywords)) {
@@ -230,7 +230,7 @@ TEST(ElementFactory, GivesEachKeywordItsClass) {
 }
 
 TEST(ElementFactory, KeepsUnknownBlocksInAClassOfTheirOwn) {
-  const Tree root(NewTree());
+  Tree root(NewTree());
   const VoA2LElement* element = CreateElement(KIND_UNKNOWN, *root);
   ASSERT_NE(element, nullptr);
   EXPECT_TRUE(Is<VoA2LElementUnknown>(*element));
@@ -238,7 +238,7 @@ TEST(ElementFactory, KeepsUnknownBlocksInAClassOfTheirOwn) {
 }
 
 TEST(ElementFactory, HasNothingForOtherKinds) {
-  const Tree root(NewTree());
+  Tree root(NewTree());
   EXPECT_EQ(CreateElement(ElementKind::ENCODING, *root), nullptr);
   for (const std::int32_t number :
        {0, -1, 21, 99, 142, 1000, 1144, 25534, 25536, std::numeric_limits<std::int32_t>::max(),

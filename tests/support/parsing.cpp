@@ -9,7 +9,7 @@ namespace a2l::test {
 
 void ExpectParse(const ParseRow& row) {
   SCOPED_TRACE(row.keyword + " with " + testing::PrintToString(row.text));
-  const Tree root(NewTree());
+  Tree root(NewTree());
   VoA2LElement* element = CreateElement(KeywordToKind(row.keyword), *root);
   ASSERT_NE(element, nullptr);
   std::string copy = row.text;

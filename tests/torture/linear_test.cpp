@@ -131,7 +131,7 @@ std::function<void()> Work(const Shape& shape, std::size_t times) {
     parts.push_back(shape.repeated);
     parts.back().times = times;
     parts.insert(parts.end(), shape.after.begin(), shape.after.end());
-    const Reading reading = ReadParts(std::move(parts));
+    Reading reading = ReadParts(std::move(parts));
     EXPECT_TRUE(!shape.isCounted || reading.reader.message.empty()) << shape.name;
     EXPECT_FALSE(ToJson(*reading.root).empty());
     std::ostringstream out;

@@ -73,13 +73,13 @@ const Element& FirstInModule(const Reading& reading) {
 
 TEST(Torture, ALineOf64MegabytesIsOneWord) {
   const std::size_t size = 64 * kMegabyte;
-  const Reading reading = ReadParts({kHead, {"x", size}, "\n", kTail});
+  Reading reading = ReadParts({kHead, {"x", size}, "\n", kTail});
   ExpectOne(reading, DiagnosticKind::UnexpectedElement, 3, std::string(size, 'x'));
 }
 
 TEST(Torture, AQuotedTextOf16MegabytesIsUnquotedAndEscaped) {
   const std::size_t count = 2 * kMegabyte;  // of 8 bytes
-  const Reading reading = ReadParts(
+  Reading reading = ReadParts(
       {kHead, "/begin MOD_COMMON \"", {R"(ab\"cd"")", count}, "\"\n/end MOD_COMMON\n", kTail});
   ExpectClean(reading);
   const std::string_view comment = FirstInModule<VoA2LElementModCommon>(reading).COMMENT;
@@ -99,30 +99,30 @@ TEST(Torture, ATextWithoutClosingQuoteTakesTheRestOfItsBlock) {
 
 TEST(Torture, TheCommentThatGoesOverAMillionLinesCountsThem) {
   const std::size_t count = kMillion;
-  const Reading reading = ReadParts({kHead, "/*", {" * \"text\n", count}, "*/ word\n", kTail});
+  Reading reading = ReadParts({kHead, "/*", {" * \"text\n", count}, "*/ word\n", kTail});
   ExpectOne(reading, DiagnosticKind::UnexpectedElement, count + 3, "word");
 }
 
 TEST(Torture, ACommentOfStarsThatTheFileEndsInIsAnError) {
-  const Reading reading = ReadParts({kHead, "/*", {"*\n", kMillion}});
+  Reading reading = ReadParts({kHead, "/*", {"*\n", kMillion}});
   ExpectOne(reading, DiagnosticKind::UnterminatedComment, kMillion + 2, "");
 }
 
 TEST(Torture, FourMillionCommentsOnOneLineLeaveWhatIsBetweenThem) {
   const std::size_t count = 4 * kMillion;
-  const Reading reading = ReadParts({kHead, {"/**/x", count}, "\n", kTail});
+  Reading reading = ReadParts({kHead, {"/**/x", count}, "\n", kTail});
   ExpectOne(reading, DiagnosticKind::UnexpectedElement, 3, std::string(count, 'x'));
 }
 
 TEST(Torture, BlankLinesAreCounted) {
   const std::size_t count = kMillion;
-  const Reading reading = ReadParts({{"\n \t\r\n", count}, "word\n"});
+  Reading reading = ReadParts({{"\n \t\r\n", count}, "word\n"});
   ExpectOne(reading, DiagnosticKind::UnexpectedElement, 2 * count + 1, "word");
 }
 
 TEST(Torture, AMillionWarningsAreKept) {
   const std::size_t count = kMillion;
-  const Reading reading = ReadParts({{"word\n", count}});
+  Reading reading = ReadParts({{"word\n", count}});
   EXPECT_TRUE(reading.ok);
   ASSERT_EQ(reading.reader.diagnostics.size(), count);
   EXPECT_EQ(reading.reader.diagnostics.back().line, count);
@@ -158,7 +158,7 @@ TEST(Torture, AListOfAMillionNames) {
   const std::size_t count = kMillion;
   for (const char* separator : {"\n", " "}) {
     const auto name = [separator](std::size_t i) { return separator + ("n" + std::to_string(i)); };
-    const Reading reading = ReadParts({kHead,
+    Reading reading = ReadParts({kHead,
                                        "/begin GROUP g \"\"\n/begin REF_CHARACTERISTIC",
                                        {name, count},
                                        "\n/end REF_CHARACTERISTIC\n/end GROUP\n",
@@ -180,7 +180,7 @@ TEST(Torture, AListOfAMillionNames) {
 // every build: it is the stack that is tested, and an instrumented one holds less.
 TEST(Torture, BlocksNested300000Deep) {
   const std::size_t rounds = 75000;
-  const Reading reading =
+  Reading reading =
       ReadParts({{"/begin PROJECT p \"\"\n/begin MODULE m \"\"\n"
                   "/begin MEASUREMENT x \"\" UBYTE c 1 1 0 1\n/begin VIRTUAL\na\n",
                   rounds},
@@ -215,7 +215,7 @@ TEST(Torture, TenThousandModules) {
   const auto module = [](std::size_t i) {
     return "/begin MODULE m" + std::to_string(i) + " \"\"\n/end MODULE\n";
   };
-  const Reading reading = ReadParts({"/begin PROJECT p \"\"\n", {module, count}, "/end PROJECT\n"});
+  Reading reading = ReadParts({"/begin PROJECT p \"\"\n", {module, count}, "/end PROJECT\n"});
   ExpectClean(reading);
   EXPECT_EQ(reading.root->Child(0)->ChildCount(), count);
   const std::string json = JsonOf(reading);
@@ -226,7 +226,7 @@ TEST(Torture, TenThousandModules) {
 
 TEST(Torture, AnObjectWithAMillionProperties) {
   const std::size_t count = kMillion;
-  const Reading reading = ReadParts({kHead,
+  Reading reading = ReadParts({kHead,
                                      "/begin MEASUREMENT x \"\" UBYTE c 1 1 0 1\n",
                                      {"FORMAT \"%5.2\"\n", count},
                                      "FORMAT \"\"\n/end MEASUREMENT\n",
@@ -239,7 +239,7 @@ TEST(Torture, AnObjectWithAMillionProperties) {
 TEST(Torture, InterfaceDataOf32MegabytesStaysAsItIs) {
   const std::string piece = "/begin A 1 \"/* no */\"\n x\n/end A\n";
   const std::size_t count = 32 * kMegabyte / piece.size();
-  const Reading reading = ReadParts(
+  Reading reading = ReadParts(
       {kHead, "/begin IF_DATA X\n /begin B\n", {piece, count}, "/end B\n/end IF_DATA\n", kTail});
   ExpectClean(reading);
   const auto& data = FirstInModule<VoA2LElementIfData>(reading);
@@ -250,7 +250,7 @@ TEST(Torture, InterfaceDataOf32MegabytesStaysAsItIs) {
 
 TEST(Torture, AMillionMarkersInInterfaceData) {
   const std::size_t count = kMillion;
-  const Reading reading = ReadParts({kHead,
+  Reading reading = ReadParts({kHead,
                                      "/begin IF_DATA X v ",
                                      {"/begin A", count},
                                      {"/end A", count},
@@ -284,7 +284,7 @@ TEST(Torture, TheLargestCountsWithoutARow) {
       {"t \"\" 1431655766", "COMPU_VTAB_RANGE", kMore, 4, "2", 0},
   };
   for (const Row& row : rows) {
-    const Reading reading = Read(kHead + "/begin "s + row.keyword + " " + row.table + "\n/end " +
+    Reading reading = Read(kHead + "/begin "s + row.keyword + " " + row.table + "\n/end " +
                                  row.keyword + "\n" + kTail);
     ExpectOne(reading, row.kind, row.line, row.subject);
     const VoA2LElement& table = *FirstModule(reading).Child(0);
@@ -300,7 +300,7 @@ TEST(Torture, TheLargestCountsWithoutARow) {
 
 TEST(Torture, NumbersOfAMillionDigits) {
   const std::size_t count = kMillion;
-  const Reading reading = ReadParts({kHead,
+  Reading reading = ReadParts({kHead,
                                      "/begin COMPU_TAB t \"\" TAB_INTP 2\n1",
                                      {"0", count},
                                      "\n0.",
@@ -322,7 +322,7 @@ TEST(Torture, NulBytesAreBytes) {
   const std::size_t count = kMegabyte;
   ExpectOne(ReadParts({{"\0"sv, count}}), DiagnosticKind::UnexpectedElement, 1,
             std::string(count, '\0'));
-  const Reading reading = Read("/begin PROJECT p\0q \"a\0b\"\n/end PROJECT\0\n"sv);
+  Reading reading = Read("/begin PROJECT p\0q \"a\0b\"\n/end PROJECT\0\n"sv);
   // The keyword has a NUL in it, and is none.
   ExpectOne(reading, DiagnosticKind::EndDoesNotMatch, 2, "PROJECT");
   const auto& project = static_cast<const VoA2LElementProject&>(*reading.root->Child(0));
@@ -333,7 +333,7 @@ TEST(Torture, NulBytesAreBytes) {
 
 TEST(Torture, NothingButOneMarker) {
   for (const char* text : {"/begin", "/begin\n", "/end", " \t/end\r\n\r\n", "x/begin"}) {
-    const Reading reading = Read(text);
+    Reading reading = Read(text);
     ExpectClean(reading);
     EXPECT_EQ(reading.root->ChildCount(), 0U);
   }
@@ -350,7 +350,7 @@ TEST(Torture, AMillionMarkersWithoutAKeyword) {
 
 TEST(Torture, AMillionUnknownBlocksInEachOtherAreOne) {
   for (const char* block : {"/begin X ", "/begin X\n"}) {
-    const Reading reading = ReadParts({{block, kMillion}});
+    Reading reading = ReadParts({{block, kMillion}});
     ExpectClean(reading);
     ASSERT_EQ(reading.root->ChildCount(), 1U);
     EXPECT_EQ(reading.root->Child(0)->kind, KIND_UNKNOWN);
@@ -372,7 +372,7 @@ TEST(Torture, AMillionCriteriaOfWhichHalfOccurTwice) {
     // Every name once, in no order, then all of them again with another value.
     return "c" + std::to_string(i * 7919 % names) + (i < names ? " first\n" : " second\n");
   };
-  const Reading reading = ReadParts({kHead,
+  Reading reading = ReadParts({kHead,
                                      "/begin VARIANT_CODING\n/begin VAR_FORBIDDEN_COMB\n",
                                      {pair, 2 * names},
                                      "/end VAR_FORBIDDEN_COMB\n/end VARIANT_CODING\n",
@@ -394,7 +394,7 @@ TEST(Torture, RandomBytesEndInADocument) {
         bytes += alphabet.empty() ? static_cast<char>(number & 0xFFU)
                                   : alphabet[number % alphabet.size()];
       }
-      const Reading reading = Read(bytes);
+      Reading reading = Read(bytes);
       const std::vector<Diagnostic>& diagnostics = reading.reader.diagnostics;
       const bool failed =
           !diagnostics.empty() && diagnostics.back().GetSeverity() == Severity::Error;
@@ -407,7 +407,7 @@ TEST(Torture, RandomBytesEndInADocument) {
 
 TEST(Torture, AnEmptyFileIsAnEmptyTree) {
   for (const char* text : {"", "\n", " ", "\r\n\r\n", "//", "/**/"}) {
-    const Reading reading = Read(text);
+    Reading reading = Read(text);
     ExpectClean(reading);
     EXPECT_EQ(reading.root->ChildCount(), 0U);
     EXPECT_EQ(CountOf("\"FModules\": []", JsonOf(reading)), 1U);

@@ -29,9 +29,15 @@ inline constexpr std::uint32_t kOpenParameterList = 65535;
 /// was made without one (a plain root on the stack, say) gets its own when it first needs it.
 /// Either way, DestroyTree ends the tree; Tree (model/tree.h) does it by itself.
 ///
-/// Elements are used in one thread at a time; several may look at one that no thread changes.
+/// An element is where it was made, and is neither copied nor moved: its children and its parent
+/// point to it. Elements are used in one thread at a time; several may look at one that no thread
+/// changes.
 class VoA2LElement {
  public:
+  VoA2LElement() = default;
+  VoA2LElement(const VoA2LElement&) = delete;
+  VoA2LElement& operator=(const VoA2LElement&) = delete;
+
   /// Its keyword, by which KindToKeyword (model/keywords.h) gives the text.
   ElementKind kind = KIND_ROOT;
   /// Revision of the standard that the keyword belongs to; nothing depends on it.

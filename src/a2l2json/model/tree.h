@@ -4,6 +4,7 @@
 //
 //   for (const auto& measurement : Descendants<VoA2LElementMeasurement>(*tree))
 //     if (const auto* address = FirstChild<VoA2LElementECUAddress>(measurement)) ...
+//   const auto* speed = FindByName<VoA2LElementMeasurement>(*tree, "EngineSpeed");
 //
 // VoA2LElement stands for every class. What is found in a const element is const. Nothing may be
 // added to the elements that a walk is passing through, or taken out of them. Texts of elements are
@@ -13,7 +14,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <iterator>
-#include <memory>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -23,25 +24,31 @@
 namespace a2l {
 
 /// Owns a tree, a new and empty one at first, and destroys it with everything in it. It is used
-/// like a std::unique_ptr to the root.
+/// like a std::unique_ptr to the root, but the root of a const tree is const.
 class Tree {
  public:
   Tree() : Tree(NewTree()) {}
   /// Takes over the tree with that root.
   explicit Tree(VoA2LElement* root) : root_(root) {}
+  Tree(Tree&& other) noexcept : root_(other.release()) {}
+  Tree& operator=(Tree&& other) noexcept {
+    if (this != &other) DestroyTree(std::exchange(root_, other.release()));
+    return *this;
+  }
+  ~Tree() { DestroyTree(root_); }
 
   /// The root; null where the tree was moved or given away.
-  [[nodiscard]] VoA2LElement* get() const { return root_.get(); }
-  [[nodiscard]] VoA2LElement& operator*() const { return *root_; }
-  [[nodiscard]] VoA2LElement* operator->() const { return root_.get(); }
+  [[nodiscard]] VoA2LElement* get() { return root_; }
+  [[nodiscard]] const VoA2LElement* get() const { return root_; }
+  [[nodiscard]] VoA2LElement& operator*() { return *root_; }
+  [[nodiscard]] const VoA2LElement& operator*() const { return *root_; }
+  [[nodiscard]] VoA2LElement* operator->() { return root_; }
+  [[nodiscard]] const VoA2LElement* operator->() const { return root_; }
   /// Gives the tree to the caller, who ends it with DestroyTree.
-  [[nodiscard]] VoA2LElement* release() { return root_.release(); }
+  [[nodiscard]] VoA2LElement* release() noexcept { return std::exchange(root_, nullptr); }
 
  private:
-  struct Destroy {
-    void operator()(VoA2LElement* root) const { DestroyTree(root); }
-  };
-  std::unique_ptr<VoA2LElement, Destroy> root_;
+  VoA2LElement* root_;
 };
 
 /// Whether the element is of `Class`: its kind tells.
@@ -63,6 +70,8 @@ template <class Class>
 [[nodiscard]] Class* As(VoA2LElement& element) {
   return HasClass<Class>(element) ? static_cast<Class*>(&element) : nullptr;
 }
+
+namespace detail {
 
 /// A range of elements of `Class`: of all elements that Steps::Next gives one after the other, null
 /// behind the last.
@@ -145,24 +154,42 @@ class DescendantSteps {
   std::vector<ChildSteps> path_;
 };
 
+template <class Class>
+constexpr bool HasName() {
+  return requires(const Class& element) { std::string_view(element.NAME); };
+}
+
+/// The first of `elements` with that NAME; null where there is none.
+template <class Class, class Steps>
+Class* FirstWithName(const Walk<Class, Steps>& elements, std::string_view name) {
+  static_assert(HasName<Class>(), "elements of this class have no NAME");
+  for (Class& element : elements) {
+    if (element.NAME == name) return &element;
+  }
+  return nullptr;
+}
+
+}  // namespace detail
+
 /// The children of `parent` that are of `Class`, in the order of the file.
 template <class Class>
-[[nodiscard]] Walk<const Class, ChildSteps> ChildrenOf(const VoA2LElement& parent) {
-  return Walk<const Class, ChildSteps>(parent);
+[[nodiscard]] detail::Walk<const Class, detail::ChildSteps> ChildrenOf(const VoA2LElement& parent) {
+  return detail::Walk<const Class, detail::ChildSteps>(parent);
 }
 template <class Class>
-[[nodiscard]] Walk<Class, ChildSteps> ChildrenOf(VoA2LElement& parent) {
-  return Walk<Class, ChildSteps>(parent);
+[[nodiscard]] detail::Walk<Class, detail::ChildSteps> ChildrenOf(VoA2LElement& parent) {
+  return detail::Walk<Class, detail::ChildSteps>(parent);
 }
 
 /// The elements of `Class` below `ancestor`, on whatever level, in the order of the file.
 template <class Class>
-[[nodiscard]] Walk<const Class, DescendantSteps> Descendants(const VoA2LElement& ancestor) {
-  return Walk<const Class, DescendantSteps>(ancestor);
+[[nodiscard]] detail::Walk<const Class, detail::DescendantSteps> Descendants(
+    const VoA2LElement& ancestor) {
+  return detail::Walk<const Class, detail::DescendantSteps>(ancestor);
 }
 template <class Class>
-[[nodiscard]] Walk<Class, DescendantSteps> Descendants(VoA2LElement& ancestor) {
-  return Walk<Class, DescendantSteps>(ancestor);
+[[nodiscard]] detail::Walk<Class, detail::DescendantSteps> Descendants(VoA2LElement& ancestor) {
+  return detail::Walk<Class, detail::DescendantSteps>(ancestor);
 }
 
 /// The first child of `parent` that is of `Class`; null where there is none.
@@ -173,6 +200,18 @@ template <class Class>
 template <class Class>
 [[nodiscard]] Class* FirstChild(VoA2LElement& parent) {
   return ChildrenOf<Class>(parent).First();
+}
+
+/// The first element of `Class` below `ancestor` whose NAME is `name`, in the order of the file;
+/// null where there is none. Every element up to that one is looked at: for many names, make a
+/// NameIndex (model/name_index.h).
+template <class Class>
+[[nodiscard]] const Class* FindByName(const VoA2LElement& ancestor, std::string_view name) {
+  return detail::FirstWithName(Descendants<Class>(ancestor), name);
+}
+template <class Class>
+[[nodiscard]] Class* FindByName(VoA2LElement& ancestor, std::string_view name) {
+  return detail::FirstWithName(Descendants<Class>(ancestor), name);
 }
 
 }  // namespace a2l

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "a2l2json/reader/a2l_reader.h"
 
+#include <istream>
 #include <streambuf>
 
-#include "a2l2json/model/file_path.h"
 #include "a2l2json/reader/block_parser.h"
+#include "a2l2json/reader/input_file.h"
 #include "a2l2json/reader/line_source.h"
 
 namespace a2l {
@@ -23,19 +24,26 @@ class TextBuffer : public std::streambuf {
 }  // namespace
 
 bool A2LReader::Parse(const std::string& path, VoA2LElement* root) {
+  fileError = FileError::None;
   if (root == nullptr) return false;
-  in_.open(FilePath(path), std::ios::binary);
-  if (!in_.is_open()) return false;
-  const bool ok = Parse(in_, root);
-  in_.close();
+  InputFile file(path);
+  bool ok = false;
+  if (file.Error() == FileError::None) {
+    std::istream in(&file);
+    ok = Parse(in, root);
+  }
+  fileError = file.Error();
   return ok;
 }
 
 bool A2LReader::Parse(std::istream& in, VoA2LElement* root) {
+  fileError = in.fail() ? FileError::NotOpened : FileError::None;
   if (root == nullptr || in.fail()) return false;
   LineSource lines(in);
   BlockParser parser(lines, *root, [this](const Diagnostic& diagnostic) { Report(diagnostic); });
-  return parser.Run();
+  const bool ok = parser.Run();
+  if (lines.Failed()) fileError = FileError::ReadFailed;
+  return ok;
 }
 
 bool A2LReader::ParseText(std::string_view text, VoA2LElement* root) {

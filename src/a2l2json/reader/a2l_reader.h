@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <fstream>
-#include <istream>
+#include <iosfwd>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,7 +11,7 @@
 
 namespace a2l {
 
-/// Reads A2L text into a tree of elements.
+/// Reads A2L text into a tree of elements. Read and ReadFile (reader/read.h) do it in one call.
 ///
 /// The tree stays the caller's, and keeps nothing of the reader or of what was read: both may go
 /// before it. A reader is made for one file; what it has to say about further ones is appended.
@@ -26,7 +25,8 @@ class A2LReader {
   /// Reads the file at `path` (on Windows UTF-8); everything in it is attached below `root`, as a
   /// rule a new tree (Tree, NewTree). True when the file was read to its end, with or without
   /// warnings. False, and no message, when `root` is null or the file cannot be opened; false when
-  /// it cannot be read to its end or holds an error: the tree then has what was read before.
+  /// it cannot be read to its end (see fileError) or holds an error: the tree then has what was
+  /// read before.
   bool Parse(const std::string& path, VoA2LElement* root);
 
   /// The same for text from any stream, which should be open in binary mode and, as every new
@@ -41,10 +41,10 @@ class A2LReader {
   std::string message;
   /// The same as data.
   std::vector<Diagnostic> diagnostics;
+  /// Why the last file, or stream, could not be opened or not read to its end.
+  FileError fileError = FileError::None;
 
  private:
-  std::ifstream in_;
-
   void Report(const Diagnostic& diagnostic);
 };
 

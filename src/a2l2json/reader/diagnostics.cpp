@@ -64,4 +64,22 @@ std::string Diagnostic::Text() const {
   return text;
 }
 
+std::string_view What(FileError error) {
+  switch (error) {
+    case FileError::None:
+      return {};
+    case FileError::NotFound:
+      return "there is no such file";
+    case FileError::NoPermission:
+      return "there is no permission to read the file";
+    case FileError::IsFolder:
+      return "this is a folder, not a file";
+    case FileError::NotOpened:
+      return "the file cannot be opened";
+    case FileError::ReadFailed:
+      return "the file cannot be read to its end";
+  }
+  return {};
+}
+
 }  // namespace a2l

@@ -43,4 +43,17 @@ struct Diagnostic {
   [[nodiscard]] std::string Text() const;
 };
 
+/// Why a file could not be read.
+enum class FileError : std::uint8_t {
+  None,          ///< it could
+  NotFound,      ///< no file has that name
+  NoPermission,  ///< the system does not let this program read it
+  IsFolder,      ///< the name is that of a folder
+  NotOpened,     ///< it is there, but cannot be opened for another reason
+  ReadFailed,    ///< it was opened, but could not be read to its end
+};
+
+/// The error in a few words, as in "there is no such file"; empty for None.
+[[nodiscard]] std::string_view What(FileError error);
+
 }  // namespace a2l

@@ -74,7 +74,7 @@ TEST(Lists, WriteNoChildren) {
        Words("DEF_CHARACTERISTIC SUB_GROUP ANNOTATION_TEXT TRANSFORMER_IN_OBJECTS "
              "DEPENDENT_CHARACTERISTIC FIX_AXIS_PAR_LIST VIRTUAL VIRTUAL_CHARACTERISTIC "
              "VAR_ADDRESS VAR_FORBIDDEN_COMB IF_DATA A2ML")) {
-    const Tree root(NewTree());
+    Tree root(NewTree());
     VoA2LElement* list = CreateElement(KeywordToKind(keyword), *root);
     ASSERT_TRUE(list->AddChild(CreateElement(ElementKind::A2ML_VERSION, *list))) << keyword;
     EXPECT_EQ(Written(*list).find("A2ML_VERSION"), std::string::npos) << keyword;

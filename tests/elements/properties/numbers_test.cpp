@@ -107,7 +107,7 @@ TEST(NumberProperties, HaveDefaultsUntilTheyAreRead) {
       {"ASAP2_VERSION", "", "0 0"},
       {"FIX_AXIS_PAR_DIST", "", "0 0 0"},
   };
-  const Tree root(NewTree());
+  Tree root(NewTree());
   for (const NumberRow& row : rows) {
     EXPECT_EQ(Written(*CreateElement(KeywordToKind(row.keyword), *root)),
               row.keyword + " " + row.written + "\n");

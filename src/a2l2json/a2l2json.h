@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+//
+// All of the library (but for the document as a json11 value: export/json11_document.h):
+//
+//   const a2l::ReadResult file = a2l::ReadFile("engine.a2l");
+//   for (const a2l::Diagnostic& diagnostic : file.diagnostics) std::cerr << diagnostic.Text();
+//   for (const auto& measurement : a2l::Descendants<a2l::VoA2LElementMeasurement>(*file.tree))
+//     if (const auto* address = a2l::FirstChild<a2l::VoA2LElementECUAddress>(measurement))
+//       std::cout << measurement.NAME << " at " << address->ECU_ADDRESS << '\n';
+//   if (file) a2l::WriteJson(*file.tree, std::cout);
+//
+// Names in a2l::detail are not for use.
+#pragma once
+
+#include "a2l2json/elements/elements.h"
+#include "a2l2json/export/json_writer.h"
+#include "a2l2json/model/name_index.h"
+#include "a2l2json/model/tree.h"
+#include "a2l2json/model/version.h"
+#include "a2l2json/reader/a2l_reader.h"
+#include "a2l2json/reader/read.h"
