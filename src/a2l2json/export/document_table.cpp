@@ -2,10 +2,12 @@
 #include "a2l2json/export/document_table.h"
 
 #include "a2l2json/elements/blocks/project.h"
-#include "a2l2json/elements/blocks/raw.h"
 #include "a2l2json/elements/properties/identifiers.h"
 #include "a2l2json/elements/properties/numbers.h"
 #include "a2l2json/elements/properties/texts.h"
+#include "a2l2json/export/kind_forms.h"
+#include "a2l2json/export/make_table.h"
+#include "a2l2json/export/rows.h"
 #include "a2l2json/export/tables/characteristic.h"
 #include "a2l2json/export/tables/conversion.h"
 #include "a2l2json/export/tables/functions.h"
@@ -21,59 +23,36 @@ namespace tables {
 namespace {
 
 constexpr Row kModuleRows[] = {
-    {.key = "FA2ML",
-     .source = Source::FirstChild,
-     .kind = Kind::A2ML,
-     .form = Value<&VoA2LElementA2ML::A2ML>()},
-    Children("FAXIS_PTS", Kind::AXIS_PTS, kAxisPts),
-    Children("FBLOB", Kind::BLOB, kBlob),
-    Children("FCHARACTERISTIC", Kind::CHARACTERISTIC, kCharacteristic),
-    Children("FCOMPU_METHOD", Kind::COMPU_METHOD, kCompuMethod),
-    Children("FCOMPU_TAB", Kind::COMPU_TAB, kCompuTab),
-    Children("FCOMPU_VTAB", Kind::COMPU_VTAB, kCompuVtab),
-    Children("FCOMPU_VTAB_RANGE", Kind::COMPU_VTAB_RANGE, kCompuVtabRange),
-    ChildObject("FFRAME", Kind::FRAME, kFrame),
-    Children("FFUNCTION", Kind::FUNCTION, kFunction),
-    Children("FGROUP", Kind::GROUP, kGroup),
-    Children("FIF_DATA", Kind::IF_DATA, kIfData),
-    Children("FINSTANCE", Kind::INSTANCE, kInstance),
-    Field("FLONG_IDENTIFIER", Value<&VoA2LElementModule::LONG_IDENTIFIER>()),
-    Children("FMEASUREMENT", Kind::MEASUREMENT, kMeasurement),
-    ChildObject("FMOD_COMMON", Kind::MOD_COMMON, kModCommon),
-    ChildObject("FMOD_PAR", Kind::MOD_PAR, kModPar),
-    Field("FNAME", Value<&VoA2LElementModule::NAME>()),
-    Children("FRECORD_LAYOUT", Kind::RECORD_LAYOUT, kRecordLayout),
-    Children("FTRANSFORMER", Kind::TRANSFORMER, kTransformer),
-    Children("FTYPEDEF_AXIS", Kind::TYPEDEF_AXIS, kTypedefAxis),
-    Children("FTYPEDEF_BLOB", Kind::TYPEDEF_BLOB, kTypedefBlob),
-    Children("FTYPEDEF_CHARACTERISTIC", Kind::TYPEDEF_CHARACTERISTIC, kTypedefCharacteristic),
-    Children("FTYPEDEF_MEASUREMENT", Kind::TYPEDEF_MEASUREMENT, kTypedefMeasurement),
-    Children("FTYPEDEF_STRUCTURE", Kind::TYPEDEF_STRUCTURE, kTypedefStructure),
-    Children("FUNIT", Kind::UNIT, kUnit),
-    Children("FUSER_RIGHTS", Kind::USER_RIGHTS, kUserRights),
-    ChildObject("FVARIANT_CODING", Kind::VARIANT_CODING, kVariantCoding),
+    Child("FA2ML"),
+    Children("FAXIS_PTS", kAxisPts),
+    Children("FBLOB", kBlob),
+    Children("FCHARACTERISTIC", kCharacteristic),
+    Children("FCOMPU_METHOD", kCompuMethod),
+    Children("FCOMPU_TAB", kCompuTab),
+    Children("FCOMPU_VTAB", kCompuVtab),
+    Children("FCOMPU_VTAB_RANGE", kCompuVtabRange),
+    ChildObject("FFRAME", kFrame),
+    Children("FFUNCTION", kFunction),
+    Children("FGROUP", kGroup),
+    Children("FIF_DATA", kIfData),
+    Children("FINSTANCE", kInstance),
+    Field<&VoA2LElementModule::LONG_IDENTIFIER>("FLONG_IDENTIFIER"),
+    Children("FMEASUREMENT", kMeasurement),
+    ChildObject("FMOD_COMMON", kModCommon),
+    ChildObject("FMOD_PAR", kModPar),
+    Field<&VoA2LElementModule::NAME>("FNAME"),
+    Children("FRECORD_LAYOUT", kRecordLayout),
+    Children("FTRANSFORMER", kTransformer),
+    Children("FTYPEDEF_AXIS", kTypedefAxis),
+    Children("FTYPEDEF_BLOB", kTypedefBlob),
+    Children("FTYPEDEF_CHARACTERISTIC", kTypedefCharacteristic),
+    Children("FTYPEDEF_MEASUREMENT", kTypedefMeasurement),
+    Children("FTYPEDEF_STRUCTURE", kTypedefStructure),
+    Children("FUNIT", kUnit),
+    Children("FUSER_RIGHTS", kUserRights),
+    ChildObject("FVARIANT_CODING", kVariantCoding),
 };
-constexpr ObjectTable kModule = MakeTable<kModuleRows>();
-
-// The first element, in the order of the file, that a path of kinds leads to from `element`.
-template <ElementKind kKind, ElementKind... kRest>
-const Element* FindFirst(const Element& element) {
-  for (const Element* child : element.children) {
-    if (child->kind != kKind) continue;
-    if constexpr (sizeof...(kRest) == 0) {
-      return child;
-    } else if (const Element* found = FindFirst<kRest...>(*child); found != nullptr) {
-      return found;
-    }
-  }
-  return nullptr;
-}
-
-// A field of that element.
-template <auto kMember, ElementKind... kPath>
-constexpr Row FirstField(std::string_view key) {
-  return Found(key, FindFirst<kPath...>, Value<kMember>());
-}
+constexpr ObjectTable kModule = MakeTable<VoA2LElementModule, kModuleRows>();
 
 // Of a second project or header, what the first one lacks counts; modules are all kept.
 constexpr Row kDocumentRows[] = {
@@ -87,7 +66,7 @@ constexpr Row kDocumentRows[] = {
         "FASAP2_VERSION_VERSION_NO"),
     Never("FBaseA2LName"),  // reserved
     FirstField<&VoA2LElementModule::NAME, Kind::PROJECT, Kind::MODULE>("FDatabaseName"),
-    Grandchildren("FModules", Kind::PROJECT, Kind::MODULE, kModule),
+    Grandchildren("FModules", Kind::PROJECT, kModule),
     FirstField<&VoA2LElementHeader::COMMENT, Kind::PROJECT, Kind::HEADER>(
         "FProject_HEADER_COMMENT"),
     FirstField<&VoA2LElementProjectNo::PROJECT_NO, Kind::PROJECT, Kind::HEADER, Kind::PROJECT_NO>(
@@ -97,7 +76,7 @@ constexpr Row kDocumentRows[] = {
     FirstField<&VoA2LElementProject::LONG_IDENTIFIER, Kind::PROJECT>("FProject_LONG_IDENTIFIER"),
     FirstField<&VoA2LElementProject::NAME, Kind::PROJECT>("FProject_Name"),
 };
-constexpr ObjectTable kDocument = MakeTable<kDocumentRows>();
+constexpr ObjectTable kDocument = MakeTable<VoA2LElement, kDocumentRows>();
 
 }  // namespace
 }  // namespace tables

@@ -9,6 +9,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <type_traits>
 #include <variant>
 
@@ -30,6 +31,15 @@ struct Address {
 struct WordForm {
   std::uint32_t (*code)(const VoA2LElement&);
   const WordTable* words;
+
+  /// The word of a field, out of the words that the class of the field declares for it. There is
+  /// no other way to make this form, so no field can get the words of another.
+  template <auto kMember>
+  static constexpr WordForm Of();
+
+ private:
+  constexpr WordForm(std::uint32_t (*take)(const VoA2LElement&), const WordTable& table)
+      : code(take), words(&table) {}
 };
 
 /// Names and values that become the members of one object; the shorter list counts.
@@ -59,6 +69,15 @@ using Form = std::variant<std::monostate, TextForm, WordForm, AddressForm, BoolF
                           RealForm, TextArrayForm, RealArrayForm, IntegerArrayForm, NamedValuesForm,
                           BuiltTextForm, ObjectForm>;
 
+/// A form, and the class of the elements that it takes its value from.
+struct ClassForm {
+  Form form;
+  /// The kinds of the class; none where elements of every class have the value.
+  std::span<const ElementKind> kinds = {};
+  /// Tells one field from another; null where the value is not that of one field.
+  const char* field = nullptr;
+};
+
 template <class Member>
 struct MemberOf;
 template <class Class, class Value>
@@ -74,46 +93,87 @@ const auto& FieldOf(const VoA2LElement& element) {
   return static_cast<const Element&>(element).*kMember;
 }
 
-/// A field as what it is: a text, a number, or an array of these. Whole numbers become the
-/// 32-bit signed integer of their low bits, the only integer that the document has.
+/// The words that the class of a field declares for it; null where it holds no word.
 template <auto kMember>
-constexpr Form Value() {
+consteval const WordTable* WordsOf() {
+  const WordTable* words = nullptr;
+  const auto look = [&words](const auto& parameter) {
+    if constexpr (requires { parameter.table; }) {
+      if (parameter.member == kMember) words = &parameter.table;
+    }
+  };
+  std::apply([&look](const auto&... parameter) { (look(parameter), ...); },
+             MemberOf<decltype(kMember)>::Element::parameters);
+  return words;
+}
+template <auto kMember>
+inline constexpr const WordTable* kWordsOf = WordsOf<kMember>();
+
+template <auto kMember>
+consteval bool HoldsWord() {
+  if constexpr (std::is_same_v<typename MemberOf<decltype(kMember)>::Type, std::uint32_t>) {
+    return kWordsOf<kMember> != nullptr;
+  } else {
+    return false;
+  }
+}
+
+template <auto kMember>
+constexpr WordForm WordForm::Of() {
+  static_assert(kWordsOf<kMember> != nullptr, "the class declares no words for this field");
+  return {[](const VoA2LElement& element) { return FieldOf<kMember>(element); },
+          *kWordsOf<kMember>};
+}
+
+/// Its address stands for a field.
+template <auto kMember>
+inline constexpr char kFieldMark = 0;
+
+/// `form` as that of a field.
+template <auto kMember>
+constexpr ClassForm OfField(Form form) {
+  return {form, MemberOf<decltype(kMember)>::Element::kinds, &kFieldMark<kMember>};
+}
+
+/// A field as what it is: a text, a word, a number, or an array of texts or numbers. Whole numbers
+/// become the 32-bit signed integer of their low bits, the only integer that the document has.
+template <auto kMember>
+constexpr ClassForm Value() {
   using Type = typename MemberOf<decltype(kMember)>::Type;
   if constexpr (std::is_same_v<Type, std::string_view>) {
-    return TextForm{[](const VoA2LElement& element) { return FieldOf<kMember>(element); }};
+    return OfField<kMember>(
+        TextForm{[](const VoA2LElement& element) { return FieldOf<kMember>(element); }});
   } else if constexpr (std::is_same_v<Type, double>) {
-    return RealForm{[](const VoA2LElement& element) { return FieldOf<kMember>(element); }};
+    return OfField<kMember>(
+        RealForm{[](const VoA2LElement& element) { return FieldOf<kMember>(element); }});
+  } else if constexpr (HoldsWord<kMember>()) {
+    return OfField<kMember>(WordForm::Of<kMember>());
   } else if constexpr (std::is_integral_v<Type>) {
-    return IntegerForm{[](const VoA2LElement& element) {
+    return OfField<kMember>(IntegerForm{[](const VoA2LElement& element) {
       return static_cast<std::int32_t>(FieldOf<kMember>(element));
-    }};
+    }});
   } else if constexpr (std::is_same_v<Type, List<std::string_view>>) {
-    return TextArrayForm{[](const VoA2LElement& element) {
+    return OfField<kMember>(TextArrayForm{[](const VoA2LElement& element) {
       return std::span<const std::string_view>(FieldOf<kMember>(element));
-    }};
+    }});
   } else if constexpr (std::is_same_v<Type, List<double>>) {
-    return RealArrayForm{[](const VoA2LElement& element) {
+    return OfField<kMember>(RealArrayForm{[](const VoA2LElement& element) {
       return std::span<const double>(FieldOf<kMember>(element));
-    }};
+    }});
   } else {
-    static_assert(std::is_same_v<Type, List<std::uint32_t>>);
-    return IntegerArrayForm{[](const VoA2LElement& element) {
+    static_assert(std::is_same_v<Type, List<std::uint32_t>>,
+                  "a field of this type has no JSON value of its own: Joined makes a text of it");
+    return OfField<kMember>(IntegerArrayForm{[](const VoA2LElement& element) {
       return std::span<const std::uint32_t>(FieldOf<kMember>(element));
-    }};
+    }});
   }
 }
 
 /// A field as an address.
 template <auto kMember>
-constexpr Form AddressOf() {
-  return AddressForm{
-      [](const VoA2LElement& element) { return Address{FieldOf<kMember>(element)}; }};
-}
-
-/// The word of a field that holds the code of an enumeration.
-template <auto kMember, const WordTable& kWords>
-constexpr Form WordOf() {
-  return WordForm{[](const VoA2LElement& element) { return FieldOf<kMember>(element); }, &kWords};
+constexpr ClassForm AddressOf() {
+  return OfField<kMember>(
+      AddressForm{[](const VoA2LElement& element) { return Address{FieldOf<kMember>(element)}; }});
 }
 
 /// The text of an address: "0x" and upper-case digits without leading zeros.
@@ -154,30 +214,66 @@ void AppendJoined(std::string& text, const Items& items) {
 
 /// A list field as one text, its items joined by commas.
 template <auto kMember>
-constexpr Form Joined() {
-  return BuiltTextForm{[](const VoA2LElement& element, std::string& text) {
+constexpr ClassForm Joined() {
+  return OfField<kMember>(BuiltTextForm{[](const VoA2LElement& element, std::string& text) {
     AppendJoined(text, FieldOf<kMember>(element));
-  }};
+  }});
 }
 
-/// Several number fields as one text, joined by commas.
-template <auto... kMember>
-constexpr Form JoinedFields() {
-  return BuiltTextForm{[](const VoA2LElement& element, std::string& text) {
-    const std::size_t start = text.size();
-    ((text += ',', AppendItem(text, FieldOf<kMember>(element))), ...);
-    text.erase(start, 1);
-  }};
+/// A list of texts as one text, its items one behind the other.
+template <auto kMember>
+constexpr ClassForm Concatenated() {
+  return OfField<kMember>(BuiltTextForm{[](const VoA2LElement& element, std::string& text) {
+    for (const std::string_view item : FieldOf<kMember>(element)) text += item;
+  }});
 }
 
-/// The keyword of the element.
-inline constexpr Form kKeywordForm =
-    TextForm{[](const VoA2LElement& element) { return KindToKeyword(element.kind); }};
+/// Several number fields of one class as one text, joined by commas.
+template <auto kFirst, auto... kMember>
+constexpr ClassForm JoinedFields() {
+  using Element = typename MemberOf<decltype(kFirst)>::Element;
+  static_assert((std::is_same_v<typename MemberOf<decltype(kMember)>::Element, Element> && ...),
+                "the fields of one text are of different classes");
+  return {BuiltTextForm{[](const VoA2LElement& element, std::string& text) {
+            AppendItem(text, FieldOf<kFirst>(element));
+            ((text += ',', AppendItem(text, FieldOf<kMember>(element))), ...);
+          }},
+          Element::kinds};
+}
+
+/// Two lists of texts of one class as the names and the values of the members of an object.
+template <auto kNames, auto kValues>
+constexpr ClassForm NamedFields() {
+  using Element = typename MemberOf<decltype(kNames)>::Element;
+  static_assert(std::is_same_v<typename MemberOf<decltype(kValues)>::Element, Element>,
+                "names and values of one object are of different classes");
+  return {NamedValuesForm{[](const VoA2LElement& element) {
+            return NamedValues{FieldOf<kNames>(element), FieldOf<kValues>(element)};
+          }},
+          Element::kinds};
+}
+
+/// Hands `take` the field of each child that is of the class of the field.
+template <auto kMember, class Take>
+void ForEachChild(const VoA2LElement& element, Take take) {
+  constexpr auto& kKinds = MemberOf<decltype(kMember)>::Element::kinds;
+  static_assert(kKinds.size() == 1, "children of one keyword only can be put together");
+  for (const VoA2LElement* child : element.children) {
+    if (child->kind == kKinds.front()) take(FieldOf<kMember>(*child));
+  }
+}
+
+/// The keyword of the elements of a class.
+template <class Class>
+constexpr ClassForm KeywordOf() {
+  return {TextForm{[](const VoA2LElement& element) { return KindToKeyword(element.kind); }},
+          Class::kinds};
+}
 
 /// A number that is the same in every object.
 template <std::int32_t kNumber>
-constexpr Form Constant() {
-  return IntegerForm{[](const VoA2LElement& /*element*/) { return kNumber; }};
+constexpr ClassForm Constant() {
+  return {IntegerForm{[](const VoA2LElement& /*element*/) { return kNumber; }}};
 }
 
 }  // namespace a2l

@@ -32,11 +32,12 @@ enum class Absent : std::uint8_t {
   Omit,  ///< the key is left out
 };
 
-/// One key of an object.
+/// One key of an object. The functions of rows.h make rows.
 struct Row {
   std::string_view key;
   Source source = Source::Element;
   Absent absent = Absent::Null;
+  /// The kind of the children that feed the key; KIND_ROOT where none do.
   ElementKind kind = KIND_ROOT;
   /// A second kind that feeds the key; the child that comes first in the file counts.
   ElementKind otherKind = KIND_ROOT;
@@ -44,7 +45,15 @@ struct Row {
   Form form = {};
   Form otherForm = {};
   const VoA2LElement* (*find)(const VoA2LElement&) = nullptr;
+  /// Of a field of the element: the first kind of its class, and what tells the field from others.
+  ElementKind owner = KIND_ROOT;
+  const char* field = nullptr;
 };
+
+/// True where the children of its kinds go straight to a row.
+constexpr bool TakesChildren(const Row& row) {
+  return row.source != Source::Element && row.source != Source::Found;
+}
 
 /// The text of a member up to its value, `, "FNAME": `, followed by "null". It is made at compile
 /// time and of fixed size, so that writing it is a copy without a loop: keys are two thirds of a
@@ -82,74 +91,12 @@ class KeyText {
 
 /// The table of one object.
 struct ObjectTable {
+  /// The kinds of the class that the object is made of; none for the whole document.
+  std::span<const ElementKind> kinds;
   std::span<const Row> rows;
   std::span<const KeyText> keys;  // of the rows
   /// Per KindIndex, 1 + the row that children of the kind go to; 0 where they go nowhere.
   std::array<std::uint8_t, kKindIndexCount> rowOfKind{};
 };
-
-constexpr bool IsSortedWithoutDoubles(std::span<const Row> rows) {
-  for (std::size_t i = 1; i < rows.size(); ++i) {
-    if (!(rows[i - 1].key < rows[i].key)) return false;
-  }
-  return true;
-}
-
-/// The keys of an array of rows.
-template <const auto& kRows>
-consteval auto MakeKeys() {
-  std::array<KeyText, std::size(kRows)> keys;
-  for (std::size_t i = 0; i < keys.size(); ++i) keys[i] = KeyText(kRows[i].key);
-  return keys;
-}
-template <const auto& kRows>
-inline constexpr auto kKeysOf = MakeKeys<kRows>();
-
-/// The table with these rows, which must be sorted.
-template <const auto& kRows>
-consteval ObjectTable MakeTable() {
-  static_assert(IsSortedWithoutDoubles(kRows), "the keys of a table are not in ascending order");
-  ObjectTable table{kRows, kKeysOf<kRows>, {}};
-  for (std::size_t i = 0; i < table.rows.size(); ++i) {
-    for (const ElementKind kind : {table.rows[i].kind, table.rows[i].otherKind}) {
-      if (kind != KIND_ROOT) table.rowOfKind[KindIndex(kind)] = static_cast<std::uint8_t>(i + 1);
-    }
-  }
-  return table;
-}
-
-/// A parameter of the element.
-constexpr Row Field(std::string_view key, Form form) { return {.key = key, .form = form}; }
-
-/// Whether there is a child of `kind`.
-constexpr Row Flag(std::string_view key, ElementKind kind) {
-  return {.key = key, .source = Source::Presence, .kind = kind};
-}
-
-/// All children of `kind`, as an array of objects.
-constexpr Row Children(std::string_view key, ElementKind kind, const ObjectTable& table,
-                       Absent absent = Absent::EmptyArray) {
-  return {.key = key, .source = Source::Children, .absent = absent, .kind = kind, .form = &table};
-}
-
-/// All children of the kind `grandchild` of the children of `kind`, as an array of objects.
-constexpr Row Grandchildren(std::string_view key, ElementKind kind, ElementKind grandchild,
-                            const ObjectTable& table) {
-  return {.key = key,
-          .source = Source::Grandchildren,
-          .absent = Absent::EmptyArray,
-          .kind = kind,
-          .grandchild = grandchild,
-          .form = &table};
-}
-
-/// An element that `find` looks for; null when it finds none.
-constexpr Row Found(std::string_view key, const VoA2LElement* (*find)(const VoA2LElement&),
-                    Form form) {
-  return {.key = key, .source = Source::Found, .form = form, .find = find};
-}
-
-/// A key that never has a value.
-constexpr Row Never(std::string_view key) { return {.key = key}; }
 
 }  // namespace a2l

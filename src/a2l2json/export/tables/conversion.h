@@ -6,76 +6,77 @@
 #include "a2l2json/elements/blocks/conversion.h"
 #include "a2l2json/elements/blocks/other.h"
 #include "a2l2json/export/kind_forms.h"
+#include "a2l2json/export/make_table.h"
+#include "a2l2json/export/rows.h"
 #include "a2l2json/export/tables/shared.h"
 
 namespace a2l::tables {
 
 inline constexpr Row kFormulaRows[] = {
-    Field("FFORMULA", Value<&VoA2LElementFormula::FORMULA>()),
-    Child("FFORMULA_INV", Kind::FORMULA_INV),
+    Field<&VoA2LElementFormula::FORMULA>("FFORMULA"),
+    Child("FFORMULA_INV"),
 };
-inline constexpr ObjectTable kFormula = MakeTable<kFormulaRows>();
+inline constexpr ObjectTable kFormula = MakeTable<VoA2LElementFormula, kFormulaRows>();
 
 inline constexpr Row kCompuMethodRows[] = {
-    Child("FCOEFFS", Kind::COEFFS),
-    Child("FCOEFFS_LINEAR", Kind::COEFFS_LINEAR),
-    Child("FCOMPU_TAB_REF", Kind::COMPU_TAB_REF),
-    Field("FCONVERSION_TYPE",
-          WordOf<&VoA2LElementCompuMethod::CONVERSION_TYPE, words::kConversionType>()),
-    Field("FFORMAT", Value<&VoA2LElementCompuMethod::FORMAT>()),
-    ChildObject("FFORMULA", Kind::FORMULA, kFormula),
-    Field("FLONG_IDENTIFIER", Value<&VoA2LElementCompuMethod::LONG_IDENTIFIER>()),
-    Field("FNAME", Value<&VoA2LElementCompuMethod::NAME>()),
-    Child("FREF_UNIT", Kind::REF_UNIT),
-    Child("FSTATUS_STRING_REF", Kind::STATUS_STRING_REF),
-    Field("FUNIT", Value<&VoA2LElementCompuMethod::UNIT>()),
+    Child("FCOEFFS"),
+    Child("FCOEFFS_LINEAR"),
+    Child("FCOMPU_TAB_REF"),
+    Field<&VoA2LElementCompuMethod::CONVERSION_TYPE>("FCONVERSION_TYPE"),
+    Field<&VoA2LElementCompuMethod::FORMAT>("FFORMAT"),
+    ChildObject("FFORMULA", kFormula),
+    Field<&VoA2LElementCompuMethod::LONG_IDENTIFIER>("FLONG_IDENTIFIER"),
+    Field<&VoA2LElementCompuMethod::NAME>("FNAME"),
+    Child("FREF_UNIT"),
+    Child("FSTATUS_STRING_REF"),
+    Field<&VoA2LElementCompuMethod::UNIT>("FUNIT"),
 };
-inline constexpr ObjectTable kCompuMethod = MakeTable<kCompuMethodRows>();
+inline constexpr ObjectTable kCompuMethod = MakeTable<VoA2LElementCompuMethod, kCompuMethodRows>();
 
 inline constexpr Row kCompuTabRows[] = {
-    Field("FCONVERSION_TYPE", WordOf<&VoA2LElementCompuTab::CONVERSION_TYPE, words::kTableType>()),
-    Child("FDEFAULT_VALUE", Kind::DEFAULT_VALUE),
-    Child("FDEFAULT_VALUE_NUMERIC", Kind::DEFAULT_VALUE_NUMERIC),
-    Field("FIN_VAL", Value<&VoA2LElementCompuTab::IN_VAL>()),
-    Field("FLONG_IDENTIFIER", Value<&VoA2LElementCompuTab::LONG_IDENTIFIER>()),
-    Field("FNAME", Value<&VoA2LElementCompuTab::NAME>()),
-    Field("FNUMBER_VALUE_PAIRS", Value<&VoA2LElementCompuTab::NUMBER_VALUE_PAIRS>()),
-    Field("FOUT_VAL", Value<&VoA2LElementCompuTab::OUT_VAL>()),
+    Field<&VoA2LElementCompuTab::CONVERSION_TYPE>("FCONVERSION_TYPE"),
+    Child("FDEFAULT_VALUE"),
+    Child("FDEFAULT_VALUE_NUMERIC"),
+    Field<&VoA2LElementCompuTab::IN_VAL>("FIN_VAL"),
+    Field<&VoA2LElementCompuTab::LONG_IDENTIFIER>("FLONG_IDENTIFIER"),
+    Field<&VoA2LElementCompuTab::NAME>("FNAME"),
+    Field<&VoA2LElementCompuTab::NUMBER_VALUE_PAIRS>("FNUMBER_VALUE_PAIRS"),
+    Field<&VoA2LElementCompuTab::OUT_VAL>("FOUT_VAL"),
 };
-inline constexpr ObjectTable kCompuTab = MakeTable<kCompuTabRows>();
+inline constexpr ObjectTable kCompuTab = MakeTable<VoA2LElementCompuTab, kCompuTabRows>();
 
 inline constexpr Row kCompuVtabRows[] = {
-    Field("FCONVERSION_TYPE",
-          WordOf<&VoA2LElementCompuVtab::CONVERSION_TYPE, words::kVerbalTableType>()),
-    Child("FDEFAULT_VALUE", Kind::DEFAULT_VALUE),
-    Field("FIN_VAL", Value<&VoA2LElementCompuVtab::IN_VAL>()),
-    Field("FLONG_IDENTIFIER", Value<&VoA2LElementCompuVtab::LONG_IDENTIFIER>()),
-    Field("FNAME", Value<&VoA2LElementCompuVtab::NAME>()),
-    Field("FNUMBER_VALUE_PAIRS", Value<&VoA2LElementCompuVtab::NUMBER_VALUE_PAIRS>()),
-    Field("FOUT_VAL", Value<&VoA2LElementCompuVtab::OUT_VAL>()),
+    Field<&VoA2LElementCompuVtab::CONVERSION_TYPE>("FCONVERSION_TYPE"),
+    Child("FDEFAULT_VALUE"),
+    Field<&VoA2LElementCompuVtab::IN_VAL>("FIN_VAL"),
+    Field<&VoA2LElementCompuVtab::LONG_IDENTIFIER>("FLONG_IDENTIFIER"),
+    Field<&VoA2LElementCompuVtab::NAME>("FNAME"),
+    Field<&VoA2LElementCompuVtab::NUMBER_VALUE_PAIRS>("FNUMBER_VALUE_PAIRS"),
+    Field<&VoA2LElementCompuVtab::OUT_VAL>("FOUT_VAL"),
 };
-inline constexpr ObjectTable kCompuVtab = MakeTable<kCompuVtabRows>();
+inline constexpr ObjectTable kCompuVtab = MakeTable<VoA2LElementCompuVtab, kCompuVtabRows>();
 
 inline constexpr Row kCompuVtabRangeRows[] = {
-    Child("FDEFAULT_VALUE", Kind::DEFAULT_VALUE),
-    Field("FIN_VAL_MAX", Value<&VoA2LElementCompuVtabRange::IN_VAL_MAX>()),
-    Field("FIN_VAL_MIN", Value<&VoA2LElementCompuVtabRange::IN_VAL_MIN>()),
-    Field("FLONG_IDENTIFIER", Value<&VoA2LElementCompuVtabRange::LONG_IDENTIFIER>()),
-    Field("FNAME", Value<&VoA2LElementCompuVtabRange::NAME>()),
-    Field("FNUMBER_VALUE_TRIPLES", Value<&VoA2LElementCompuVtabRange::NUMBER_VALUE_TRIPLES>()),
-    Field("FOUT_VAL", Value<&VoA2LElementCompuVtabRange::OUT_VAL>()),
+    Child("FDEFAULT_VALUE"),
+    Field<&VoA2LElementCompuVtabRange::IN_VAL_MAX>("FIN_VAL_MAX"),
+    Field<&VoA2LElementCompuVtabRange::IN_VAL_MIN>("FIN_VAL_MIN"),
+    Field<&VoA2LElementCompuVtabRange::LONG_IDENTIFIER>("FLONG_IDENTIFIER"),
+    Field<&VoA2LElementCompuVtabRange::NAME>("FNAME"),
+    Field<&VoA2LElementCompuVtabRange::NUMBER_VALUE_TRIPLES>("FNUMBER_VALUE_TRIPLES"),
+    Field<&VoA2LElementCompuVtabRange::OUT_VAL>("FOUT_VAL"),
 };
-inline constexpr ObjectTable kCompuVtabRange = MakeTable<kCompuVtabRangeRows>();
+inline constexpr ObjectTable kCompuVtabRange =
+    MakeTable<VoA2LElementCompuVtabRange, kCompuVtabRangeRows>();
 
 inline constexpr Row kUnitRows[] = {
-    Field("FDISPLAY", Value<&VoA2LElementUnit::DISPLAY>()),
-    Field("FLONG_IDENTIFIER", Value<&VoA2LElementUnit::LONG_IDENTIFIER>()),
-    Field("FNAME", Value<&VoA2LElementUnit::NAME>()),
-    Child("FREF_UNIT", Kind::REF_UNIT),
-    Child("FSI_EXPONENTS", Kind::SI_EXPONENTS),
-    Child("FUNIT_CONVERSION", Kind::UNIT_CONVERSION),
-    Field("FUNIT_TYPE", WordOf<&VoA2LElementUnit::UNIT_TYPE, words::kUnitType>()),
+    Field<&VoA2LElementUnit::DISPLAY>("FDISPLAY"),
+    Field<&VoA2LElementUnit::LONG_IDENTIFIER>("FLONG_IDENTIFIER"),
+    Field<&VoA2LElementUnit::NAME>("FNAME"),
+    Child("FREF_UNIT"),
+    Child("FSI_EXPONENTS"),
+    Child("FUNIT_CONVERSION"),
+    Field<&VoA2LElementUnit::UNIT_TYPE>("FUNIT_TYPE"),
 };
-inline constexpr ObjectTable kUnit = MakeTable<kUnitRows>();
+inline constexpr ObjectTable kUnit = MakeTable<VoA2LElementUnit, kUnitRows>();
 
 }  // namespace a2l::tables

@@ -10,102 +10,103 @@
 #include "a2l2json/elements/blocks/other.h"
 #include "a2l2json/elements/blocks/project.h"
 #include "a2l2json/export/kind_forms.h"
+#include "a2l2json/export/make_table.h"
+#include "a2l2json/export/rows.h"
 #include "a2l2json/export/tables/shared.h"
 
 namespace a2l::tables {
 
 inline constexpr Row kModCommonRows[] = {
-    Child("FALIGNMENT_BYTE", Kind::ALIGNMENT_BYTE),
-    Child("FALIGNMENT_FLOAT16_IEEE", Kind::ALIGNMENT_FLOAT16_IEEE),
-    Child("FALIGNMENT_FLOAT32_IEEE", Kind::ALIGNMENT_FLOAT32_IEEE),
-    Child("FALIGNMENT_FLOAT64_IEEE", Kind::ALIGNMENT_FLOAT64_IEEE),
-    Child("FALIGNMENT_INT64", Kind::ALIGNMENT_INT64),
-    Child("FALIGNMENT_LONG", Kind::ALIGNMENT_LONG),
-    Child("FALIGNMENT_WORD", Kind::ALIGNMENT_WORD),
-    Child("FBYTE_ORDER", Kind::BYTE_ORDER),
-    Field("FCOMMENT", Value<&VoA2LElementModCommon::COMMENT>()),
-    Child("FDATA_SIZE", Kind::DATA_SIZE),
-    Child("FDEPOSIT", Kind::DEPOSIT),
-    Child("FS_REC_LAYOUT", Kind::S_REC_LAYOUT),
+    Child("FALIGNMENT_BYTE"),
+    Child("FALIGNMENT_FLOAT16_IEEE"),
+    Child("FALIGNMENT_FLOAT32_IEEE"),
+    Child("FALIGNMENT_FLOAT64_IEEE"),
+    Child("FALIGNMENT_INT64"),
+    Child("FALIGNMENT_LONG"),
+    Child("FALIGNMENT_WORD"),
+    Child("FBYTE_ORDER"),
+    Field<&VoA2LElementModCommon::COMMENT>("FCOMMENT"),
+    Child("FDATA_SIZE"),
+    Child("FDEPOSIT"),
+    Child("FS_REC_LAYOUT"),
 };
-inline constexpr ObjectTable kModCommon = MakeTable<kModCommonRows>();
+inline constexpr ObjectTable kModCommon = MakeTable<VoA2LElementModCommon, kModCommonRows>();
 
 inline constexpr Row kCalibrationHandleRows[] = {
-    Field("FHANDLE", Joined<&VoA2LElementCalibrationHandle::HANDLE>()),
+    JoinedField<&VoA2LElementCalibrationHandle::HANDLE>("FHANDLE"),
     Child("FHANDLE_TEXT", Kind::CALIBRATION_HANDLE_TEXT),
 };
-inline constexpr ObjectTable kCalibrationHandle = MakeTable<kCalibrationHandleRows>();
+inline constexpr ObjectTable kCalibrationHandle =
+    MakeTable<VoA2LElementCalibrationHandle, kCalibrationHandleRows>();
 
 inline constexpr Row kCalibrationMethodRows[] = {
-    Children("FCALIBRATION_HANDLE", Kind::CALIBRATION_HANDLE, kCalibrationHandle),
-    Field("FMETHOD", Value<&VoA2LElementCalibrationMethod::METHOD>()),
-    Field("FVERSION", Value<&VoA2LElementCalibrationMethod::VERSION>()),
+    Children("FCALIBRATION_HANDLE", kCalibrationHandle),
+    Field<&VoA2LElementCalibrationMethod::METHOD>("FMETHOD"),
+    Field<&VoA2LElementCalibrationMethod::VERSION>("FVERSION"),
 };
-inline constexpr ObjectTable kCalibrationMethod = MakeTable<kCalibrationMethodRows>();
+inline constexpr ObjectTable kCalibrationMethod =
+    MakeTable<VoA2LElementCalibrationMethod, kCalibrationMethodRows>();
 
 inline constexpr Row kMemoryLayoutRows[] = {
-    Field("FADDRESS", AddressOf<&VoA2LElementMemoryLayout::ADDRESS>()),
-    Children("FIF_DATA", Kind::IF_DATA, kIfData),
-    Field("FOFFSET", Joined<&VoA2LElementMemoryLayout::OFFSET>()),
-    Field("FPRG_TYPE", WordOf<&VoA2LElementMemoryLayout::PRG_TYPE, words::kLayoutProgramType>()),
-    Field("FSIZE", Value<&VoA2LElementMemoryLayout::SIZE>()),
+    AddressField<&VoA2LElementMemoryLayout::ADDRESS>("FADDRESS"),
+    Children("FIF_DATA", kIfData),
+    JoinedField<&VoA2LElementMemoryLayout::OFFSET>("FOFFSET"),
+    Field<&VoA2LElementMemoryLayout::PRG_TYPE>("FPRG_TYPE"),
+    Field<&VoA2LElementMemoryLayout::SIZE>("FSIZE"),
 };
-inline constexpr ObjectTable kMemoryLayout = MakeTable<kMemoryLayoutRows>();
+inline constexpr ObjectTable kMemoryLayout =
+    MakeTable<VoA2LElementMemoryLayout, kMemoryLayoutRows>();
 
 inline constexpr Row kMemorySegmentRows[] = {
-    Field("FADDRESS", AddressOf<&VoA2LElementMemorySegment::ADDRESS>()),
-    Field("FATTRIBUTE", WordOf<&VoA2LElementMemorySegment::ATTRIBUTE, words::kMemoryAttribute>()),
-    Children("FIF_DATA", Kind::IF_DATA, kIfData),
-    Field("FLONG_IDENTIFIER", Value<&VoA2LElementMemorySegment::LONG_IDENTIFIER>()),
-    Field("FMEMORY_TYPE", WordOf<&VoA2LElementMemorySegment::MEMORY_TYPE, words::kMemoryType>()),
-    Field("FNAME", Value<&VoA2LElementMemorySegment::NAME>()),
-    Field("FOFFSET", Joined<&VoA2LElementMemorySegment::OFFSET>()),
-    Field("FPRG_TYPE", WordOf<&VoA2LElementMemorySegment::PRG_TYPE, words::kSegmentProgramType>()),
-    Field("FSIZE", Value<&VoA2LElementMemorySegment::SIZE>()),
+    AddressField<&VoA2LElementMemorySegment::ADDRESS>("FADDRESS"),
+    Field<&VoA2LElementMemorySegment::ATTRIBUTE>("FATTRIBUTE"),
+    Children("FIF_DATA", kIfData),
+    Field<&VoA2LElementMemorySegment::LONG_IDENTIFIER>("FLONG_IDENTIFIER"),
+    Field<&VoA2LElementMemorySegment::MEMORY_TYPE>("FMEMORY_TYPE"),
+    Field<&VoA2LElementMemorySegment::NAME>("FNAME"),
+    JoinedField<&VoA2LElementMemorySegment::OFFSET>("FOFFSET"),
+    Field<&VoA2LElementMemorySegment::PRG_TYPE>("FPRG_TYPE"),
+    Field<&VoA2LElementMemorySegment::SIZE>("FSIZE"),
 };
-inline constexpr ObjectTable kMemorySegment = MakeTable<kMemorySegmentRows>();
+inline constexpr ObjectTable kMemorySegment =
+    MakeTable<VoA2LElementMemorySegment, kMemorySegmentRows>();
 
 inline constexpr Row kSystemConstantRows[] = {
-    Field("FNAME", Value<&VoA2LElementSystemConstant::NAME>()),
-    Field("FVALUE", Value<&VoA2LElementSystemConstant::VALUE>()),
+    Field<&VoA2LElementSystemConstant::NAME>("FNAME"),
+    Field<&VoA2LElementSystemConstant::VALUE>("FVALUE"),
 };
-inline constexpr ObjectTable kSystemConstant = MakeTable<kSystemConstantRows>();
+inline constexpr ObjectTable kSystemConstant =
+    MakeTable<VoA2LElementSystemConstant, kSystemConstantRows>();
 
 // All addresses of the identification in one text; nothing where there is none.
 inline const Element* FindAddrEpk(const Element& modPar) {
-  for (const Element* child : modPar.children) {
-    if (child->kind == Kind::ADDR_EPK) return &modPar;
-  }
-  return nullptr;
+  return FindFirst<Kind::ADDR_EPK>(modPar) != nullptr ? &modPar : nullptr;
 }
-inline constexpr Form kAddrEpk = BuiltTextForm{[](const Element& modPar, std::string& text) {
+inline constexpr ClassForm kAddrEpk = {BuiltTextForm{[](const Element& modPar, std::string& text) {
   std::vector<std::uint32_t> addresses;
-  for (const Element* child : modPar.children) {
-    if (child->kind == Kind::ADDR_EPK) {
-      addresses.push_back(FieldOf<&VoA2LElementAddrEPK::ADDR_EPK>(*child));
-    }
-  }
+  ForEachChild<&VoA2LElementAddrEPK::ADDR_EPK>(
+      modPar, [&addresses](std::uint32_t address) { addresses.push_back(address); });
   AppendJoined(text, addresses);
-}};
+}}};
 inline constexpr Row kModParRows[] = {
     Found("FADDR_EPK", FindAddrEpk, kAddrEpk),
-    Children("FCALIBRATION_METHOD", Kind::CALIBRATION_METHOD, kCalibrationMethod),
-    Field("FCOMMENT", Value<&VoA2LElementModPar::COMMENT>()),
-    Child("FCPU_TYPE", Kind::CPU_TYPE),
-    Child("FCUSTOMER", Kind::CUSTOMER),
-    Child("FCUSTOMER_NO", Kind::CUSTOMER_NO),
-    Child("FECU", Kind::ECU),
-    Child("FECU_CALIBRATION_OFFSET", Kind::ECU_CALIBRATION_OFFSET),
-    Child("FEPK", Kind::EPK),
-    Children("FMEMORY_LAYOUT", Kind::MEMORY_LAYOUT, kMemoryLayout),
-    Children("FMEMORY_SEGMENT", Kind::MEMORY_SEGMENT, kMemorySegment),
-    Child("FNO_OF_INTERFACES", Kind::NO_OF_INTERFACES),
-    Child("FPHONE_NO", Kind::PHONE_NO),
-    Child("FSUPPLIER", Kind::SUPPLIER),
-    Children("FSYSTEM_CONSTANT", Kind::SYSTEM_CONSTANT, kSystemConstant),
-    Child("FUSER", Kind::USER),
-    Child("FVERSION", Kind::VERSION),
+    Children("FCALIBRATION_METHOD", kCalibrationMethod),
+    Field<&VoA2LElementModPar::COMMENT>("FCOMMENT"),
+    Child("FCPU_TYPE"),
+    Child("FCUSTOMER"),
+    Child("FCUSTOMER_NO"),
+    Child("FECU"),
+    Child("FECU_CALIBRATION_OFFSET"),
+    Child("FEPK"),
+    Children("FMEMORY_LAYOUT", kMemoryLayout),
+    Children("FMEMORY_SEGMENT", kMemorySegment),
+    Child("FNO_OF_INTERFACES"),
+    Child("FPHONE_NO"),
+    Child("FSUPPLIER"),
+    Children("FSYSTEM_CONSTANT", kSystemConstant),
+    Child("FUSER"),
+    Child("FVERSION"),
 };
-inline constexpr ObjectTable kModPar = MakeTable<kModParRows>();
+inline constexpr ObjectTable kModPar = MakeTable<VoA2LElementModPar, kModParRows>();
 
 }  // namespace a2l::tables
