@@ -125,6 +125,10 @@ constexpr WordForm WordForm::Of() {
           *kWordsOf<kMember>};
 }
 
+/// The kinds of a class.
+template <class Class>
+inline constexpr std::span<const ElementKind> kKindsOf = Class::kinds;
+
 /// Its address stands for a field.
 template <auto kMember>
 inline constexpr char kFieldMark = 0;
@@ -132,7 +136,7 @@ inline constexpr char kFieldMark = 0;
 /// `form` as that of a field.
 template <auto kMember>
 constexpr ClassForm OfField(Form form) {
-  return {form, MemberOf<decltype(kMember)>::Element::kinds, &kFieldMark<kMember>};
+  return {form, kKindsOf<typename MemberOf<decltype(kMember)>::Element>, &kFieldMark<kMember>};
 }
 
 /// A field as what it is: a text, a word, a number, or an array of texts or numbers. Whole numbers
@@ -238,7 +242,7 @@ constexpr ClassForm JoinedFields() {
             AppendItem(text, FieldOf<kFirst>(element));
             ((text += ',', AppendItem(text, FieldOf<kMember>(element))), ...);
           }},
-          Element::kinds};
+          kKindsOf<Element>};
 }
 
 /// Two lists of texts of one class as the names and the values of the members of an object.
@@ -250,7 +254,7 @@ constexpr ClassForm NamedFields() {
   return {NamedValuesForm{[](const VoA2LElement& element) {
             return NamedValues{FieldOf<kNames>(element), FieldOf<kValues>(element)};
           }},
-          Element::kinds};
+          kKindsOf<Element>};
 }
 
 /// Hands `take` the field of each child that is of the class of the field.
@@ -267,7 +271,7 @@ void ForEachChild(const VoA2LElement& element, Take take) {
 template <class Class>
 constexpr ClassForm KeywordOf() {
   return {TextForm{[](const VoA2LElement& element) { return KindToKeyword(element.kind); }},
-          Class::kinds};
+          kKindsOf<Class>};
 }
 
 /// A number that is the same in every object.

@@ -5,9 +5,9 @@
 // what differs.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <string_view>
-#include <type_traits>
 #include <variant>
 
 #include "a2l2json/elements/elements.h"
@@ -191,42 +191,49 @@ inline constexpr ClassForm kOtherForms[] = {
     Object(tables::kVirtualCharacteristic),
 };
 
-// These are no constants, so a table must not call them; the compiler prints their names.
-namespace no_such_row {
-void AClassStandsTwiceInTheOtherForms();
-void TheKeywordHasNoFieldOfItsName_SeeTheOtherForms();
-}  // namespace no_such_row
+constexpr bool HasNoClassTwice() {
+  std::array<bool, kKindIndexCount> seen{};
+  for (const ClassForm& form : kOtherForms) {
+    if (seen[KindIndex(form.kinds.front())]) return false;
+    seen[KindIndex(form.kinds.front())] = true;
+  }
+  return true;
+}
+static_assert(HasNoClassTwice(), "a class has two forms in kOtherForms");
 
-/// The forms of all kinds; nothing for a keyword that has neither a field of its name nor another
-/// form.
-inline constexpr auto kFormOfKind = [] {
-  std::array<Form, kKindIndexCount> forms = {
+// Per keyword, the form of the field that has its name; nothing for a class without such a field.
 #define A2L_KEYWORD(number, keyword, Class)          \
-  []<class Element>(std::type_identity<Element>) {   \
+  template <class Element>                           \
+  consteval Form FieldOfTheName_##keyword() {        \
     if constexpr (requires { &Element::keyword; }) { \
       return Value<&Element::keyword>().form;        \
     } else {                                         \
-      return Form();                                 \
+      return {};                                     \
     }                                                \
-  }(std::type_identity<Class>()),
-#include "a2l2json/model/keywords.def"
-  };
-  std::array<bool, kKindIndexCount> other{};
-  for (const ClassForm& form : kOtherForms) {
-    for (const ElementKind kind : form.kinds) {
-      if (other[KindIndex(kind)]) no_such_row::AClassStandsTwiceInTheOtherForms();
-      other[KindIndex(kind)] = true;
-      forms[KindIndex(kind)] = form.form;
-    }
   }
-  return forms;
-}();
+#include "a2l2json/model/keywords.def"
 
-/// The form of the elements of `kind`.
+namespace no_such_row {
+void TheKeywordHasNoFieldOfItsName_ListItInTheOtherForms();
+}  // namespace no_such_row
+
+/// The form of the elements of `kind`, which must have one.
 consteval Form FormOf(ElementKind kind) {
-  const Form form = kFormOfKind[KindIndex(kind)];
+  for (const ClassForm& other : kOtherForms) {
+    if (std::ranges::find(other.kinds, kind) != other.kinds.end()) return other.form;
+  }
+  Form form;
+  switch (kind) {
+#define A2L_KEYWORD(number, keyword, Class)   \
+  case ElementKind::keyword:                  \
+    form = FieldOfTheName_##keyword<Class>(); \
+    break;
+#include "a2l2json/model/keywords.def"
+    default:
+      break;
+  }
   if (std::holds_alternative<std::monostate>(form)) {
-    no_such_row::TheKeywordHasNoFieldOfItsName_SeeTheOtherForms();
+    no_such_row::TheKeywordHasNoFieldOfItsName_ListItInTheOtherForms();
   }
   return form;
 }
