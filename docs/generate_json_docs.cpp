@@ -12,7 +12,6 @@
 #include <fstream>
 #include <iostream>
 #include <iterator>
-#include <set>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -21,6 +20,7 @@
 #include <vector>
 
 #include "a2l2json/export/json_schema.h"
+#include "a2l2json/export/key_origins.h"
 
 namespace a2l {
 namespace {
@@ -28,54 +28,6 @@ namespace {
 constexpr std::string_view kBegin = "<!-- generated: the tables of keys -->\n";
 constexpr std::string_view kEnd = "<!-- end of what is generated -->\n";
 
-/// What stands in the column "From" where the table cannot tell it.
-struct Origin {
-  std::string_view object;  // empty for all that have the key
-  std::string_view key;
-  std::string_view text;
-};
-constexpr Origin kOrigins[] = {
-    {"", "FISVALID", "false where the reader found [wrong parameters](#fisvalid)"},
-    {"document", "FA2ML_VERSION_UPGRADE_NO", "`A2ML_VERSION`, second parameter"},
-    {"document", "FA2ML_VERSION_VERSION_NO", "`A2ML_VERSION`, first parameter"},
-    {"document", "FASAP2_VERSION_UPGRADE_NO", "`ASAP2_VERSION`, second parameter"},
-    {"document", "FASAP2_VERSION_VERSION_NO", "`ASAP2_VERSION`, first parameter"},
-    {"document", "FDatabaseName", "name of the first `MODULE`"},
-    {"document", "FProject_HEADER_COMMENT", "`HEADER`, parameter"},
-    {"document", "FProject_HEADER_PROJECT_NO", "`PROJECT_NO` in the `HEADER`"},
-    {"document", "FProject_HEADER_VERSION", "`VERSION` in the `HEADER`"},
-    {"document", "FProject_LONG_IDENTIFIER", "`PROJECT`, second parameter"},
-    {"document", "FProject_Name", "`PROJECT`, first parameter"},
-    {"MODULE", "FA2ML", "`A2ML`, all that stands in it"},
-    {"IF_DATA", "FIF_DATA", "all that follows the name"},
-    {"IF_DATA", "FNAME", "the first word"},
-    {"ANNOTATION", "FANNOTATION_TEXT", "`ANNOTATION_TEXT`, [its texts put together](#annotations)"},
-    {"AXIS_PTS", "FDEPOSIT", "parameter: [the record layout](#fdeposit)"},
-    {"CHARACTERISTIC", "FDEPOSIT", "parameter: [the record layout](#fdeposit)"},
-    {"MEASUREMENT", "FACCURACY", "[always 0](#fresolution-and-faccuracy)"},
-    {"MEASUREMENT", "FRESOLUTION", "[always 1](#fresolution-and-faccuracy)"},
-    {"BIT_OPERATION", "FSIGN_EXTEND", "`SIGN_EXTEND`: the keyword itself"},
-    {"FUNCTION", "FAR_PROTOTYPE_OF", "`AR_PROTOTYPE_OF` in an `AR_COMPONENT`"},
-    {"RECORD_LAYOUT", "FALIGNMENT_WORD",
-     "`ALIGNMENT_WORD` or `IDENTIFICATION`, [whichever comes first]"
-     "(#fidentification-and-falignment_word)"},
-    {"FNC_VALUES", "FADDRESS_TYPE", "parameter: [the addressing](#fnc_values-and-freserved)"},
-    {"RESERVED", "FDATA_TYPE", "parameter: [the data size](#fnc_values-and-freserved)"},
-    {"TRANSFORMER", "FINVERSE_TRANSFORMER", "[always empty](#transformers)"},
-    {"TRANSFORMER", "FTIMEOUT", "[always 0](#transformers)"},
-    {"TRANSFORMER", "FTRIGGER", "[always empty](#transformers)"},
-    {"COMPU_TAB", "FIN_VAL", "rows: first value"},
-    {"COMPU_TAB", "FOUT_VAL", "rows: second value"},
-    {"COMPU_VTAB", "FIN_VAL", "rows: the value"},
-    {"COMPU_VTAB", "FOUT_VAL", "rows: the text"},
-    {"COMPU_VTAB_RANGE", "FIN_VAL_MAX", "rows: second value"},
-    {"COMPU_VTAB_RANGE", "FIN_VAL_MIN", "rows: first value"},
-    {"COMPU_VTAB_RANGE", "FOUT_VAL", "rows: the text"},
-    {"USER_RIGHTS", "FREF_GROUP", "all `REF_GROUP`, [put together](#joined-texts)"},
-    {"MOD_PAR", "FADDR_EPK", "all `ADDR_EPK`, [in decimal](#addresses)"},
-    {"VAR_CHARACTERISTIC", "FVAR_ADDRESS",
-     "`VAR_ADDRESS`, [only as the first block](#fvar_address), [in decimal](#addresses)"},
-};
 std::string Code(std::string_view text) { return "`" + std::string(text) + "`"; }
 
 std::string LowerCase(std::string text) {
@@ -98,8 +50,8 @@ class KeyTables {
     }
     std::string text;
     for (const Section& section : sections_) text += Print(section);
-    if (!unusedOrigins_.empty()) {
-      throw std::logic_error("no such key: " + *unusedOrigins_.begin());
+    for (const std::string& origin : OriginsWithoutKey()) {
+      throw std::logic_error("no such key: " + origin);
     }
     return text;
   }
@@ -127,8 +79,8 @@ class KeyTables {
   std::string Rows(const DocumentObject& object) {
     std::string text;
     for (const Row& row : object.table->rows) {
-      text += "| " + Code(row.key) + " | " + TypeOf(row) + " | " + OriginOf(object, row) + " | " +
-              AbsentValue(row) + " |\n";
+      text += "| " + Code(row.key) + " | " + TypeOf(row) + " | " + OriginOf(object.Name(), row) +
+              " | " + std::string(AbsentValue(row)) + " |\n";
     }
     return text;
   }
@@ -178,66 +130,24 @@ class KeyTables {
       std::string operator()(WordForm form) const {
         std::string text = "word: ";
         std::string comma;
+        std::string neverRead;
         for (const Word& word : form.words->words) {
-          if (form.words->Find(word.text) != &word) continue;  // never read
-          text += std::exchange(comma, ", ") + Code(word.text);
+          if (IsNeverRead(*form.words, word)) {
+            neverRead += (neverRead.empty() ? "; only [set by code](#words): " : ", ");
+            neverRead += Code(word.text);
+          } else {
+            text += std::exchange(comma, ", ") + Code(word.text);
+          }
         }
-        return text + (form.words->ToText(form.words->fallback).empty() ? " or empty" : "");
+        if (form.words->ToText(form.words->fallback).empty()) text += " or empty";
+        return text + neverRead;
       }
     };
     return std::visit(Name{*this}, form);
   }
 
-  std::string OriginOf(const DocumentObject& object, const Row& row) {
-    for (const Origin& origin : kOrigins) {
-      if (origin.key == row.key && (origin.object.empty() || origin.object == object.Name())) {
-        unusedOrigins_.erase(NameOf(origin));
-        return std::string(origin.text);
-      }
-    }
-    switch (row.source) {
-      case Source::Element:
-        if (std::holds_alternative<std::monostate>(row.form)) return "[nothing](#always-null)";
-        return "parameter";
-      case Source::Presence:
-      case Source::FirstChild:
-        return Code(KindToKeyword(row.kind));
-      case Source::Children:
-        return "all " + Code(KindToKeyword(row.kind));
-      case Source::Grandchildren:
-        return "all " + Code(KindToKeyword(row.grandchild));
-      case Source::Found:
-        break;
-    }
-    throw std::logic_error("where does it come from: " + object.Name() + " " +
-                           std::string(row.key));
-  }
-
-  static std::string AbsentValue(const Row& row) {
-    if (row.source == Source::Presence) return "false";
-    if (row.source == Source::Element) return "";
-    switch (row.absent) {
-      case Absent::Null:
-        return "null";
-      case Absent::EmptyArray:
-        return "[]";
-      case Absent::Omit:
-        return "no key";
-    }
-    return "";
-  }
-
-  static std::string NameOf(const Origin& origin) {
-    return std::string(origin.object) + " " + std::string(origin.key);
-  }
-
   std::vector<DocumentObject> objects_ = DocumentObjects();
   std::vector<Section> sections_;
-  std::set<std::string> unusedOrigins_ = [] {
-    std::set<std::string> names;
-    for (const Origin& origin : kOrigins) names.insert(NameOf(origin));
-    return names;
-  }();
 };
 
 std::string ReadFile(const std::filesystem::path& path) {

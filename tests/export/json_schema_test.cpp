@@ -14,6 +14,7 @@
 #include <json11.hpp>
 
 #include "a2l2json/export/json11_document.h"
+#include "a2l2json/export/key_origins.h"
 #include "tests/support/files.h"
 #include "tests/support/trees.h"
 
@@ -127,17 +128,30 @@ TEST(JsonSchema, IsTheFileOfTheDocumentation) {
       << "run generate_json_docs on docs/";
 }
 
+// The schema of an object; that of the whole document stands at the root.
+Json Definition(const Json& schema, const std::string& object) {
+  return object == "document" ? schema : schema["$defs"][object];
+}
+
+// A schema without its description.
+Json WithoutDescription(const Json& schema) {
+  Json::object members = schema.object_items();
+  members.erase("description");
+  return members;
+}
+
 TEST(JsonSchema, HasAnObjectPerTable) {
   const Json schema = Parsed(JsonSchema());
   const std::vector<DocumentObject> objects = DocumentObjects();
   ASSERT_FALSE(objects.empty());
   EXPECT_EQ(objects.front().Name(), "document");
-  EXPECT_EQ(schema["$ref"].string_value(), "#/$defs/document");
-  EXPECT_EQ(schema["$defs"].object_items().size(), objects.size()) << "two objects share a name";
+  EXPECT_EQ(schema["$ref"], Json()) << "the root is the object itself";
+  EXPECT_EQ(schema["$defs"].object_items().size(), objects.size() - 1) << "two share a name";
   for (const DocumentObject& object : objects) {
     EXPECT_NE(object.Name(), "");
     EXPECT_EQ(ObjectName(objects, *object.table), object.Name());
-    const Json& definition = schema["$defs"][object.Name()];
+    const Json definition = Definition(schema, object.Name());
+    EXPECT_EQ(definition["type"], Json("object")) << object.Name();
     EXPECT_EQ(definition["properties"].object_items().size(), object.table->rows.size());
     EXPECT_EQ(definition["additionalProperties"], Json(false)) << object.Name();
   }
@@ -155,7 +169,7 @@ TEST(JsonSchema, NamesFamiliesAfterTheirFirstKeyword) {
 }
 
 TEST(JsonSchema, TellsTypePresenceAndAbsence) {
-  const Json definitions = Parsed(JsonSchema())["$defs"];
+  const Json schema = Parsed(JsonSchema());
   static constexpr struct {
     const char* object;
     const char* key;
@@ -191,22 +205,84 @@ TEST(JsonSchema, TellsTypePresenceAndAbsence) {
        R"({"anyOf": [{"type": ["integer", "null"], "minimum": -2147483648, "maximum": 2147483647},
                      {"$ref": "#/$defs/IDENTIFICATION"}]})"},
       {"VARIANT_CODING", "FVAR_FORBIDDEN_COMB",
-       R"({"type": "array", "items": {"type": "object", "propertyNames": {"pattern": "^F"},
+       R"({"type": "array", "items": {"type": "object", "propertyNames":
+           {"type": "string", "pattern": "^F"},
            "additionalProperties": {"type": "string"}}})"},
   };
   for (const auto& row : kRows) {
-    EXPECT_EQ(definitions[row.object]["properties"][row.key], Parsed(row.schema))
-        << row.object << " " << row.key << ": "
-        << definitions[row.object]["properties"][row.key].dump();
+    const Json property = Definition(schema, row.object)["properties"][row.key];
+    EXPECT_EQ(WithoutDescription(property), Parsed(row.schema))
+        << row.object << " " << row.key << ": " << property.dump();
   }
 }
 
 TEST(JsonSchema, RequiresEveryKeyButThoseThatAreLeftOut) {
-  const Json definitions = Parsed(JsonSchema())["$defs"];
-  for (const auto& [name, definition] : definitions.object_items()) {
+  const Json schema = Parsed(JsonSchema());
+  for (const DocumentObject& object : DocumentObjects()) {
+    const std::string name = object.Name();
+    const Json definition = Definition(schema, name);
     const std::size_t keys = definition["properties"].object_items().size();
     const std::size_t required = definition["required"].array_items().size();
     EXPECT_EQ(required, name == "ANNOTATION" ? 0U : keys) << name;
+  }
+}
+
+TEST(JsonSchema, DescribesEveryObjectAndEveryKey) {
+  const Json schema = Parsed(JsonSchema());
+  for (const DocumentObject& object : DocumentObjects()) {
+    const Json definition = Definition(schema, object.Name());
+    EXPECT_NE(definition["description"].string_value(), "") << object.Name();
+    for (const auto& [key, property] : definition["properties"].object_items()) {
+      const std::string& text = property["description"].string_value();
+      EXPECT_TRUE(text.size() > 1 && text.ends_with('.')) << object.Name() << " " << key;
+      EXPECT_EQ(text.find("]("), std::string::npos) << object.Name() << " " << key;
+    }
+  }
+  EXPECT_EQ(OriginsWithoutKey(), std::vector<std::string>{});
+}
+
+TEST(JsonSchema, DescribesKeysAsThePageDoes) {
+  const Json schema = Parsed(JsonSchema());
+  static constexpr struct {
+    const char* object;
+    const char* key;
+    const char* description;
+  } kRows[] = {
+      {"document", "FBaseA2LName", "Always null."},
+      {"document", "FProject_Name", "`PROJECT`, first parameter; null without it."},
+      {"MEASUREMENT", "FISVALID", "False where the reader found wrong parameters."},
+      {"MEASUREMENT", "FNAME", "Parameter."},
+      {"MEASUREMENT", "FDISCRETE", "`DISCRETE`; false without it."},
+      {"MEASUREMENT", "FANNOTATION", "All `ANNOTATION`; [] without it."},
+      {"ANNOTATION", "FANNOTATION_LABEL", "`ANNOTATION_LABEL`; no key without it."},
+      {"UNIT", "FUNIT_TYPE", "Parameter. Empty where the file has no known word."},
+      {"AXIS_PTS_X", "FDATA_TYPE", "Parameter. `UBYTE` where the file has no known word."},
+      {"AXIS_PTS_X", "FADDRESSING",
+       "Parameter. `DIRECT` where the file has no known word. No file gives `PLONGLONG`: `PLONG`, "
+       "which is part of it, is read instead. Only code can set it."},
+      {"TRANSFORMER", "FTRIGGER", "Always empty."},
+  };
+  for (const auto& row : kRows) {
+    EXPECT_EQ(Definition(schema, row.object)["properties"][row.key]["description"].string_value(),
+              row.description);
+  }
+}
+
+TEST(JsonSchema, HasTheWordsThatOnlyCodeCanSet) {
+  const Json schema = Parsed(JsonSchema());
+  static constexpr struct {
+    const char* object;
+    const char* key;
+    const char* word;
+  } kRows[] = {
+      {"BLOB", "FADDRESS_TYPE", "PLONGLONG"},
+      {"FNC_VALUES", "FADDRESS_TYPE", "PLONGLONG"},
+      {"CHARACTERISTIC", "FCALIBRATION_ACCESS", "NO_CALIBRATION"},
+      {"MEMORY_SEGMENT", "FPRG_TYPE", "OFFLINE_DATA"},
+  };
+  for (const auto& row : kRows) {
+    const Json words = Definition(schema, row.object)["properties"][row.key]["enum"];
+    EXPECT_EQ(std::ranges::count(words.array_items(), Json(row.word)), 1) << row.word;
   }
 }
 

@@ -9,6 +9,7 @@
 #include <variant>
 
 #include "a2l2json/export/document_table.h"
+#include "a2l2json/export/key_origins.h"
 
 namespace a2l {
 namespace {
@@ -100,9 +101,8 @@ class ValueSchema {
     return Array(Text(R"("type": "integer")", kBounds));
   }
   std::string operator()(NamedValuesForm /*form*/) const {
-    return Text(
-        Type("object"),
-        R"(, "propertyNames": {"pattern": "^F"}, "additionalProperties": {"type": "string"})");
+    return Text(Type("object"), R"(, "propertyNames": {"type": "string", "pattern": "^F"}, )"
+                                R"("additionalProperties": {"type": "string"})");
   }
 
   std::string operator()(ObjectForm table) const {
@@ -152,23 +152,78 @@ std::string SchemaOf(const std::vector<DocumentObject>& objects, const Row& row)
   return SchemaOf(objects, row.form, orNull);
 }
 
-std::string SchemaOf(const std::vector<DocumentObject>& objects, const DocumentObject& object) {
+// Markdown without its links.
+std::string WithoutLinks(std::string text) {
+  for (std::size_t begin = text.find('['); begin != std::string::npos; begin = text.find('[')) {
+    const std::size_t middle = text.find("](", begin);
+    const std::size_t end = text.find(')', middle);
+    text = Text(text.substr(0, begin), text.substr(begin + 1, middle - begin - 1),
+                text.substr(end + 1));
+  }
+  return text;
+}
+
+// What a word of `words` can be that a reader would not expect.
+std::string AboutWords(const WordTable& words) {
+  std::string text;
+  const std::string_view fallback = words.ToText(words.fallback);
+  text = fallback.empty() ? "Empty where the file has no known word."
+                          : Text("`", fallback, "` where the file has no known word.");
+  for (const Word& word : words.words) {
+    if (!IsNeverRead(words, word)) continue;
+    text += Text(" No file gives `", word.text, "`: `", words.Find(word.text)->text,
+                 "`, which is part of it, is read instead. Only code can set it.");
+  }
+  return text;
+}
+
+// What docs/json.md says of the key, as sentences.
+std::string Description(const DocumentObject& object, const Row& row) {
+  if (std::holds_alternative<std::monostate>(row.form) && row.source == Source::Element) {
+    return "Always null.";
+  }
+  std::string text = WithoutLinks(OriginOf(object.Name(), row));
+  if (text.front() >= 'a' && text.front() <= 'z')
+    text.front() = static_cast<char>(text.front() - 'a' + 'A');
+  if (const std::string_view absent = AbsentValue(row); !absent.empty()) {
+    text += Text("; ", absent, " without it");
+  }
+  text += '.';
+  const auto* word = std::get_if<WordForm>(&row.form);
+  if (word != nullptr && !text.starts_with("Always")) {
+    text += Text(" ", AboutWords(*word->words));
+  }
+  return text;
+}
+
+// The members of the schema of an object, each line behind `indent`.
+std::string SchemaOf(const std::vector<DocumentObject>& objects, const DocumentObject& object,
+                     std::string_view indent) {
   std::vector<std::string> required;
   std::string properties;
   for (const Row& row : object.table->rows) {
     if (row.absent != Absent::Omit) required.push_back(Quoted(row.key));
-    properties += Text("        ", Quoted(row.key), ": {", SchemaOf(objects, row), "},\n");
+    properties += Text(indent, "  ", Quoted(row.key), ": {\n", indent, R"(    "description": )",
+                       Quoted(Description(object, row)), ",\n", indent, "    ",
+                       SchemaOf(objects, row), "\n", indent, "  },\n");
   }
   properties.erase(properties.size() - 2, 1);
-  std::string text = Text("    ", Quoted(object.Name()),
-                          ": {\n"
-                          "      \"type\": \"object\",\n"
-                          "      \"additionalProperties\": false,\n");
+  std::string text =
+      Text(indent, "\"type\": \"object\",\n", indent, "\"additionalProperties\": false,\n");
   if (!required.empty()) {
-    const std::string_view start = R"(      "required": [)";
+    const std::string start = Text(indent, R"("required": [)");
     text += Text(start, Joined(required, start.size(), start.size()), "],\n");
   }
-  return Text(text, "      \"properties\": {\n", properties, "      }\n    }");
+  return Text(text, indent, "\"properties\": {\n", properties, indent, "}");
+}
+
+// The keywords that an object is made of.
+std::string KeywordsOf(const DocumentObject& object) {
+  std::string text;
+  for (const ElementKind kind : object.kinds) {
+    text += Text(text.empty() ? "" : ", ", "`", KindToKeyword(kind), "`");
+  }
+  return Text(text, ".");
 }
 
 }  // namespace
@@ -197,18 +252,20 @@ std::string ObjectName(const std::vector<DocumentObject>& objects, const ObjectT
 std::string JsonSchema() {
   const std::vector<DocumentObject> objects = DocumentObjects();
   std::vector<std::pair<std::string, std::string>> definitions;
-  definitions.reserve(objects.size());
-  for (const DocumentObject& object : objects) {
-    definitions.emplace_back(object.Name(), SchemaOf(objects, object));
+  for (const DocumentObject& object : std::span(objects).subspan(1)) {
+    definitions.emplace_back(
+        object.Name(),
+        Text("    ", Quoted(object.Name()), ": {\n", R"(      "description": )",
+             Quoted(KeywordsOf(object)), ",\n", SchemaOf(objects, object, "      "), "\n    }"));
   }
   std::ranges::sort(definitions);
-  std::string text = R"({
+  // Some readers of schemas take the root for an object only where it is one itself.
+  std::string text = Text(R"({
   "$schema": "https://json-schema.org/draft/2020-12/schema",
   "title": "A document of a2l2json",
   "description": "What a2l2json makes of one A2L file. Generated from the tables of the program.",
-  "$ref": "#/$defs/document",
-  "$defs": {
-)";
+)",
+                          SchemaOf(objects, objects.front(), "  "), ",\n  \"$defs\": {\n");
   for (const auto& [name, schema] : definitions) text += Text(schema, ",\n");
   text.erase(text.size() - 2, 1);
   return Text(text, "  }\n}\n");

@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: MIT
+// A child by a key that holds no keyword.
+// Expected: TheKeyHoldsNoKeyword_GiveTheKindBehindIt
+#include "a2l2json/export/kind_forms.h"
+
+namespace a2l {
+
+constexpr Row kRow = Child("FPHYSICAL_UNIT");
+
+}  // namespace a2l

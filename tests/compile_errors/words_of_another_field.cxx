@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+// A word of a field that holds none.
+// Expected: the class declares no words for this field
+#include "a2l2json/elements/elements.h"
+#include "a2l2json/export/forms.h"
+
+namespace a2l {
+
+constexpr WordForm kForm = WordForm::Of<&VoA2LElementMeasurement::RESOLUTION>();
+
+}  // namespace a2l
