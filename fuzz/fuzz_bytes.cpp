@@ -28,6 +28,14 @@ void CheckFind(const Bytes& text) {
             static_cast<std::size_t>(first - text.data()), "Find");
 }
 
+void CheckSkipAll(const Bytes& text) {
+  std::size_t skipped = 0;
+  while (skipped < text.size() / bytes::kBlock * bytes::kBlock && text[skipped] == ' ') ++skipped;
+  const char* const begin = text.data();
+  CheckSame(static_cast<std::size_t>(bytes::SkipAll<' '>(begin, begin + text.size()) - begin),
+            skipped, "SkipAll");
+}
+
 void CheckFindAll(const Bytes& text) {
   if (text.size() < bytes::kMany) return;
   const auto places = bytes::FindAll<'\n', '/'>(text.data());
@@ -83,6 +91,7 @@ void CheckBytes(std::string_view input) {
   CheckFind<' '>(text);
   CheckFind<' ', '"'>(text);
   CheckFind<'"', '\\', '\xFF'>(text);
+  CheckSkipAll(text);
   CheckFindAll(text);
   CheckCopy(text);
   CheckEscapes(text);

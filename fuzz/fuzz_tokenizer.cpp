@@ -73,6 +73,8 @@ void CheckLines(std::string_view bytes, std::size_t pieceSize,
   for (const std::string& expected : lines) {
     Check(source.Next(line), "LineSource has as many lines");
     CheckSame(line, expected, "a line");
+    CheckSame(source.SlashesOfLine().first, expected.find('/'), "its first slash");
+    CheckSame(source.SlashesOfLine().last, expected.rfind('/'), "its last slash");
   }
   Check(!source.Next(line), "LineSource has no further line");
 }

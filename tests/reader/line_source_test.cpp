@@ -92,6 +92,39 @@ TEST(LineSource, HandsOutTheSameLinesInPiecesOfAnySize) {
   }
 }
 
+TEST(LineSource, TellsWhereTheSlashesOfALineStand) {
+  struct Row {
+    std::string line;
+    std::size_t first, last;
+  };
+  constexpr std::size_t kNone = std::string_view::npos;
+  const Row rows[] = {
+      {"none", kNone, kNone},
+      {"/begin X", 0, 0},
+      {"", kNone, kNone},
+      {"a / b / c /", 2, 10},
+      // Longer than what is looked at in one step, with slashes in its first and in its last part.
+      {std::string(70, '.') + "/" + std::string(60, '.') + "/", 70, 131},
+      {"/" + std::string(200, '.'), 0, 0},
+      {std::string(300, '/'), 0, 299},
+      {"x", kNone, kNone},
+      {" /end", 1, 1},  // without a line feed
+  };
+  std::string text;
+  for (const Row& row : rows) text += (text.empty() ? "" : "\n") + row.line;
+  for (const std::size_t pieceSize : {1, 7, 64, 65, 1000}) {
+    std::istringstream in(text);
+    LineSource source(in, pieceSize);
+    for (const Row& row : rows) {
+      std::string_view line;
+      ASSERT_TRUE(source.Next(line));
+      ASSERT_EQ(line, row.line) << pieceSize;
+      EXPECT_EQ(source.SlashesOfLine().first, row.first) << row.line << pieceSize;
+      EXPECT_EQ(source.SlashesOfLine().last, row.last) << row.line << pieceSize;
+    }
+  }
+}
+
 TEST(LineSource, HandsOutManyShortLines) {
   std::string text;
   std::vector<std::string> lines;

@@ -84,6 +84,18 @@ TEST(Bytes, ABlockHoldsPartOfATextAndZeros) {
   }
 }
 
+TEST(Bytes, SkipAllStopsAtAnotherByteOrBeforeAPartOfABlock) {
+  for (std::size_t size = 0; size < 70; ++size) {
+    for (std::size_t place = 0; place <= size; ++place) {
+      std::string text(size, ' ');
+      if (place < size) text[place] = '\t';
+      const Alone alone(text);
+      const std::size_t blocks = size / kBlock * kBlock;
+      ASSERT_EQ(SkipAll<' '>(alone.begin(), alone.end()), alone.begin() + std::min(place, blocks));
+    }
+  }
+}
+
 TEST(Bytes, FindAllGivesABitForEachPlace) {
   std::string text(kMany, 'x');
   for (const std::size_t place : {0, 15, 16, 40, 63}) text[place] = '\n';

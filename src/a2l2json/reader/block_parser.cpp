@@ -23,16 +23,23 @@ bool KeepsRawContent(ElementKind kind) {
 bool BlockParser::Run() {
   while (true) {
     std::string_view line = std::exchange(remainder_, {});
-    std::size_t slash = 0;  // there is none before it
+    LineSource::Slashes slashes = remainderSlashes_;
     if (line.empty()) {
       if (!ReadPhysicalLine(line)) return !lines_.Failed();
-      slash = line.find('/');
-      if (slash != kNone && !comments_.Remove(line, nextPhysicalLine_)) {
+      slashes = lines_.SlashesOfLine();
+      if (slashes.first != kNone && !RemoveComments(line, slashes)) {
         return !lines_.Failed() && Fail(DiagnosticKind::UnterminatedComment);
       }
     }
-    if (!HandleLine(line, slash)) return false;
+    if (!HandleLine(line, slashes)) return false;
   }
+}
+
+bool BlockParser::RemoveComments(std::string_view& line, LineSource::Slashes& slashes) {
+  if (slashes.first == slashes.last && !OpensComment(line, slashes.first)) return true;
+  if (!comments_.Remove(line, nextPhysicalLine_)) return false;
+  slashes = {line.find('/'), line.rfind('/')};
+  return true;
 }
 
 bool BlockParser::ReadPhysicalLine(std::string_view& line) {
@@ -41,28 +48,37 @@ bool BlockParser::ReadPhysicalLine(std::string_view& line) {
   return true;
 }
 
-BlockParser::MarkerPlace BlockParser::FindMarker(std::string_view line, std::size_t from) {
-  for (std::size_t i = line.find('/', from); i != kNone; i = line.find('/', i + 1)) {
-    const std::string_view rest = line.substr(i);
-    if (rest.starts_with(kBegin)) return {Marker::Begin, i, i + kBegin.size()};
-    if (rest.starts_with(kEnd)) return {Marker::End, i, i + kEnd.size()};
+BlockParser::MarkerPlace BlockParser::FindMarker(std::string_view line,
+                                                 LineSource::Slashes slashes) {
+  std::size_t slash = slashes.first;
+  while (slash != kNone) {
+    const std::string_view rest = line.substr(slash);
+    if (rest.starts_with(kBegin)) return {Marker::Begin, slash, slash + kBegin.size()};
+    if (rest.starts_with(kEnd)) return {Marker::End, slash, slash + kEnd.size()};
+    slash = slash < slashes.last ? line.find('/', slash + 1) : kNone;
   }
   return {};
 }
 
-bool BlockParser::HandleLine(std::string_view line, std::size_t slash) {
+bool BlockParser::HandleLine(std::string_view line, LineSource::Slashes slashes) {
   // A marker left over from the line before stands in front of this one.
   MarkerPlace place;
   if (state_ == State::PendingBegin || state_ == State::PendingEnd) {
     place.marker = state_ == State::PendingBegin ? Marker::Begin : Marker::End;
     state_ = State::Idle;
   } else {
-    place = FindMarker(line, slash);
+    if (slashes.first == kNone) return HandlePlain(line);
+    place = FindMarker(line, slashes);
     if (place.marker == Marker::None) return HandlePlain(line);
+    slashes.first = place.position < slashes.last ? line.find('/', place.end) : kNone;
   }
-  if (const MarkerPlace next = FindMarker(line, place.end); next.marker != Marker::None) {
-    remainder_ = line.substr(next.position);
-    line = line.substr(0, next.position);
+  if (slashes.first != kNone) {
+    const MarkerPlace next = FindMarker(line, slashes);
+    if (next.marker != Marker::None) {
+      remainder_ = line.substr(next.position);
+      remainderSlashes_ = {0, slashes.last - next.position};
+      line = line.substr(0, next.position);
+    }
   }
   const std::string_view text = line.substr(place.end);
   return place.marker == Marker::Begin ? HandleBegin(line, text) : HandleEnd(line, text);

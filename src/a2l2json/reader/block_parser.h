@@ -52,13 +52,14 @@ class BlockParser {
     std::size_t position = 0;
     std::size_t end = 0;
   };
-  static MarkerPlace FindMarker(std::string_view line, std::size_t from);
+  static MarkerPlace FindMarker(std::string_view line, LineSource::Slashes slashes);
 
   bool ReadPhysicalLine(std::string_view& line);
+  bool RemoveComments(std::string_view& line, LineSource::Slashes& slashes);
 
   // Each handles one kind of line; false when the read ends there. `text` is what follows the
   // marker, up to the next one.
-  bool HandleLine(std::string_view line, std::size_t slash);
+  bool HandleLine(std::string_view line, LineSource::Slashes slashes);
   bool HandleBegin(std::string_view line, std::string_view text);
   bool HandleEnd(std::string_view line, std::string_view text);
   bool HandlePlain(std::string_view line);
@@ -88,6 +89,7 @@ class BlockParser {
 
   /// What follows a second marker on a line, from that marker on.
   std::string_view remainder_;
+  LineSource::Slashes remainderSlashes_;
 
   VoA2LElement* current_;
   State state_ = State::Idle;

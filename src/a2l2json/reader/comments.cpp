@@ -10,10 +10,6 @@ namespace {
 
 constexpr std::size_t kNone = std::string_view::npos;
 
-bool OpensComment(std::string_view text, std::size_t slash) {
-  return slash + 1 < text.size() && (text[slash + 1] == '/' || text[slash + 1] == '*');
-}
-
 // Position of the first comment outside of quoted texts; kNone without one.
 std::size_t FindComment(std::string_view text) {
   for (std::size_t i = 0; i < text.size(); ++i) {

@@ -1,11 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <string_view>
 
 namespace a2l {
+
+/// True where the slash at that place and the byte behind it begin a comment, if not in a quoted
+/// text.
+[[nodiscard]] inline bool OpensComment(std::string_view text, std::size_t slash) {
+  return slash + 1 < text.size() && (text[slash + 1] == '/' || text[slash + 1] == '*');
+}
 
 /// Takes comments out of the lines of a file: from "//" to the end of the line, and from "/*" to
 /// the next "*/", over as many lines as it takes. Inside a quoted text nothing is a comment; a

@@ -4,21 +4,27 @@
 #include <algorithm>
 #include <cstring>
 
+#include "a2l2json/text/bytes.h"
+
 namespace a2l {
 
-bool LineSource::Next(std::string_view& line) {
-  std::size_t searched = 0;
-  while (true) {
-    const std::string_view unread(buffer_.data() + begin_, end_ - begin_);
-    const std::size_t lineFeed = unread.find('\n', searched);
-    if (lineFeed != std::string_view::npos) {
-      line = unread.substr(0, lineFeed);
-      begin_ += lineFeed + 1;
-      return true;
-    }
-    searched = unread.size();
-    if (!Refill()) break;
+// Goes on to the first block that holds a line feed.
+bool LineSource::FindLineFeed() {
+  while (lineFeedPlaces_ == 0) {
+    KeepSlashes(slashPlaces_);
+    slashPlaces_ = 0;
+    if (blockEnd_ == end_ && !Refill()) return false;
+    block_ = blockEnd_;
+    blockEnd_ = std::min(block_ + bytes::kMany, end_);
+    const auto [lineFeeds, slashes] = bytes::FindAll<'\n', '/'>(buffer_.data() + block_);
+    const std::uint64_t read = ~std::uint64_t{0} >> (bytes::kMany - (blockEnd_ - block_));
+    lineFeedPlaces_ = lineFeeds & read;
+    slashPlaces_ = slashes & read;
   }
+  return true;
+}
+
+bool LineSource::TakeRest(std::string_view& line) {
   line = std::string_view(buffer_.data() + begin_, end_ - begin_);
   begin_ = end_;
   return !Failed() && !line.empty();
@@ -29,9 +35,10 @@ bool LineSource::Refill() {
     std::memmove(buffer_.data(), buffer_.data() + begin_, end_ - begin_);
     end_ -= begin_;
     begin_ = 0;
+    blockEnd_ = end_;
   }
-  if (buffer_.size() - end_ < pieceSize_) {
-    buffer_.resize(std::max(buffer_.size() * 2, end_ + pieceSize_));
+  if (buffer_.size() < end_ + pieceSize_ + bytes::kMany) {
+    buffer_.resize(std::max(buffer_.size() * 2, end_ + pieceSize_ + bytes::kMany));
   }
   in_.read(buffer_.data() + end_, static_cast<std::streamsize>(pieceSize_));
   end_ += static_cast<std::size_t>(in_.gcount());

@@ -2,9 +2,12 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <istream>
 #include <string_view>
 #include <vector>
+
+#include "a2l2json/text/bytes.h"
 
 namespace a2l {
 
@@ -13,7 +16,8 @@ namespace a2l {
 /// of the line.
 ///
 /// The input is read in pieces, so that a large file need not fit into memory; a line that is
-/// longer than a piece makes the buffer grow.
+/// longer than a piece makes the buffer grow. Each byte is looked at once, and what is seen on the
+/// way tells the reader of most lines that they hold no marker and no comment.
 class LineSource {
  public:
 #ifdef A2L2JSON_SMALL_BUFFERS
@@ -28,19 +32,55 @@ class LineSource {
 
   /// The next line, without its line feed; valid until the next call. False at the end of the
   /// input and when it cannot be read on (see Failed).
-  bool Next(std::string_view& line);
+  bool Next(std::string_view& line) {
+    slashes_ = {};
+    if (lineFeedPlaces_ == 0 && !FindLineFeed()) return TakeRest(line);
+    const std::uint64_t upToLineFeed = lineFeedPlaces_ ^ (lineFeedPlaces_ - 1);
+    const std::size_t lineFeed = block_ + bytes::FirstBit(lineFeedPlaces_);
+    KeepSlashes(slashPlaces_ & upToLineFeed);
+    slashPlaces_ &= ~upToLineFeed;
+    lineFeedPlaces_ &= ~upToLineFeed;
+    line = std::string_view(buffer_.data() + begin_, lineFeed - begin_);
+    begin_ = lineFeed + 1;
+    return true;
+  }
+
+  /// Where the slashes of a line stand.
+  struct Slashes {
+    std::size_t first = std::string_view::npos;  ///< none
+    std::size_t last = std::string_view::npos;
+  };
+  /// Those of the line that was handed out last.
+  [[nodiscard]] const Slashes& SlashesOfLine() const { return slashes_; }
 
   /// True after an error of the stream, as against its end.
   [[nodiscard]] bool Failed() const { return in_.bad(); }
 
  private:
+  bool FindLineFeed();
+  bool TakeRest(std::string_view& line);
   bool Refill();
+  void KeepSlashes(std::uint64_t places) {
+    if (places == 0) return;
+    const std::size_t blockInLine = block_ - begin_;  // may wrap around; the sums do not
+    if (slashes_.first == std::string_view::npos) {
+      slashes_.first = blockInLine + bytes::FirstBit(places);
+    }
+    slashes_.last = blockInLine + bytes::LastBit(places);
+  }
 
   std::istream& in_;
   std::size_t pieceSize_;
-  std::vector<char> buffer_;
-  std::size_t begin_ = 0;  // of what has not been handed out
-  std::size_t end_ = 0;    // of what has been read
+  std::vector<char> buffer_;  // with room for a block behind what has been read
+  std::size_t begin_ = 0;     // of what has not been handed out
+  std::size_t end_ = 0;       // of what has been read
+
+  // The block that is looked at, and what has not been handed out of it: a bit for each place.
+  std::size_t block_ = 0;
+  std::size_t blockEnd_ = 0;
+  std::uint64_t lineFeedPlaces_ = 0;
+  std::uint64_t slashPlaces_ = 0;
+  Slashes slashes_;
 };
 
 }  // namespace a2l

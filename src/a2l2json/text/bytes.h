@@ -156,6 +156,11 @@ class Block {
   return static_cast<std::size_t>(std::countr_zero(bits));
 }
 
+/// And of the last one.
+[[nodiscard]] inline std::size_t LastBit(std::uint64_t bits) {
+  return static_cast<std::size_t>(63 - std::countl_zero(bits));
+}
+
 /// Where the first of these bytes stands from `begin` on; `end` where none does.
 template <char... kBytes>
 [[nodiscard]] inline const char* Find(const char* begin, const char* end) {
@@ -166,6 +171,17 @@ template <char... kBytes>
   }
   const std::uint32_t bits = found(Block::LoadPart(begin, static_cast<std::size_t>(end - begin)));
   return bits != 0 ? begin + FirstBit(bits) : end;
+}
+
+/// Where the first byte other than this one stands, as long as whole blocks are left: `end` is not
+/// reached, and what is left behind them may begin with more of the bytes.
+template <char kByte>
+[[nodiscard]] inline const char* SkipAll(const char* begin, const char* end) {
+  for (; static_cast<std::size_t>(end - begin) >= kBlock; begin += kBlock) {
+    const std::uint32_t others = ~Bits(Block::Load(begin).Equal(kByte)) & 0xFFFFU;
+    if (others != 0) return begin + FirstBit(others);
+  }
+  return begin;
 }
 
 /// The number of bytes that FindAll looks at.

@@ -1,58 +1,59 @@
 // SPDX-License-Identifier: MIT
 #include "a2l2json/text/tokenizer.h"
 
-#include <algorithm>
+#include "a2l2json/text/bytes.h"
 
 namespace a2l {
 namespace {
 
 constexpr std::size_t kNone = std::string_view::npos;
 
-std::size_t FindBlank(std::string_view text, std::size_t position) {
-  return std::min(text.find(' ', position), text.size());
-}
+// Positions are pointers throughout: they stay in registers from search to search.
 
-// Position behind the token that begins at `start`; kNone for an unclosed quoted text.
-std::size_t TokenEnd(std::string_view text, std::size_t start) {
-  if (text[start] == '"') {
-    const std::size_t close = FindClosingQuote(text, start + 1);
-    return close == kNone ? kNone : close + 1;
+// The quote that closes a quoted text, from `begin` on, which is behind the opening quote; null
+// where it is not closed.
+const char* ClosingQuote(const char* begin, const char* end) {
+  for (const char* quote = begin;;) {
+    quote = bytes::Find<'"'>(quote, end);
+    if (quote == end) return nullptr;
+    if (quote[-1] == '\\') {
+      ++quote;
+    } else if (quote + 1 != end && quote[1] == '"') {
+      quote += 2;
+    } else {
+      return quote;
+    }
   }
-  return FindBlank(text, start);
 }
 
-std::size_t SkipTrimmed(std::string_view text, std::size_t position) {
-  while (position < text.size() && IsTrimmed(text[position])) ++position;
-  return position;
-}
-
-std::string_view TrimEnd(std::string_view text) {
-  while (!text.empty() && IsTrimmed(text.back())) text.remove_suffix(1);
-  return text;
+const char* SkipTrimmed(const char* begin, const char* end) {
+  begin = bytes::SkipAll<' '>(begin, end);  // most lines are indented
+  while (begin != end && IsTrimmed(*begin)) ++begin;
+  return begin;
 }
 
 }  // namespace
 
 std::size_t FindClosingQuote(std::string_view text, std::size_t from) {
-  for (std::size_t i = text.find('"', from); i != kNone; i = text.find('"', i)) {
-    if (text[i - 1] == '\\') {
-      ++i;
-    } else if (i + 1 < text.size() && text[i + 1] == '"') {
-      i += 2;
-    } else {
-      return i;
-    }
-  }
-  return kNone;
+  const char* const quote = ClosingQuote(text.data() + from, text.data() + text.size());
+  return quote == nullptr ? kNone : static_cast<std::size_t>(quote - text.data());
 }
 
 std::string_view NextToken(std::string_view& text) {
-  text = Trim(text);
-  if (text.empty()) return {};
-  const std::size_t end = std::min(TokenEnd(text, 0), text.size());
-  const std::string_view token = text.substr(0, end);
-  text.remove_prefix(end);
-  return TrimEnd(token);
+  const char* end = text.data() + text.size();
+  const char* const begin = SkipTrimmed(text.data(), end);
+  while (end != begin && IsTrimmed(end[-1])) --end;
+  text = {begin, static_cast<std::size_t>(end - begin)};
+  if (begin == end) return {};
+  const char* tokenEnd = end;
+  if (*begin != '"') {
+    tokenEnd = bytes::Find<' '>(begin + 1, end);
+  } else if (const char* const quote = ClosingQuote(begin + 1, end)) {
+    tokenEnd = quote + 1;
+  }
+  text = {tokenEnd, static_cast<std::size_t>(end - tokenEnd)};
+  while (IsTrimmed(tokenEnd[-1])) --tokenEnd;  // the first byte is not
+  return {begin, static_cast<std::size_t>(tokenEnd - begin)};
 }
 
 std::size_t CountTokens(std::string_view text) {
@@ -62,23 +63,23 @@ std::size_t CountTokens(std::string_view text) {
 }
 
 void TokenCounter::Continue(std::string_view text) {
+  const char* position = text.data() + position_;
+  const char* const end = text.data() + text.size();
+  position_ = text.size();
   while (true) {
     if (!inQuotes_) {
-      position_ = SkipTrimmed(text, position_);
-      if (position_ == text.size()) return;
-      inQuotes_ = text[position_] == '"';
-      ++position_;
+      position = SkipTrimmed(position, end);
+      if (position == end) return;
+      inQuotes_ = *position == '"';
+      ++position;
     }
     if (inQuotes_) {
-      const std::size_t close = FindClosingQuote(text, position_);
-      if (close == kNone) {
-        position_ = text.size();
-        return;
-      }
-      position_ = close + 1;
+      const char* const close = ClosingQuote(position, end);
+      if (close == nullptr) return;
+      position = close + 1;
       inQuotes_ = false;
     } else {
-      position_ = FindBlank(text, position_);
+      position = bytes::Find<' '>(position, end);
     }
     ++count_;
   }

@@ -16,7 +16,7 @@ namespace a2l {
 
 /// True for the bytes that Trim removes: blank, tab, line feed and carriage return.
 [[nodiscard]] constexpr bool IsTrimmed(char c) {
-  return c <= ' ' && (c == ' ' || c == '\t' || c == '\n' || c == '\r');
+  return static_cast<unsigned char>(c) <= ' ' && (c == ' ' || c == '\t' || c == '\n' || c == '\r');
 }
 
 /// `text` without blanks, tabs, line feeds and carriage returns at its two ends. Every token of a
