@@ -1,98 +1,96 @@
 // SPDX-License-Identifier: MIT
 #include "a2l2json/elements/declarations.h"
 
+#include <algorithm>
 #include <array>
-#include <tuple>
+#include <string_view>
 #include <type_traits>
 
 #include "a2l2json/elements/elements.h"
+#include "a2l2json/model/keywords.h"
 
 namespace a2l::detail {
 namespace {
 
-constexpr Parameter kRaw = {.type = ParameterType::RawText};
-constexpr Parameter kName = {.type = ParameterType::Identifier};
-
-template <class Class>
-constexpr auto DescribeParameters() {
-  return std::apply(
-      [](const auto&... field) {
-        std::array<Parameter, sizeof...(field)> parameters{field.Describe()...};
-        for (Parameter& parameter : parameters) {
-          if (parameter.isList) parameter.childInList = Class::childInList;
-        }
-        return parameters;
-      },
-      Class::parameters);
-}
-template <>
-constexpr auto DescribeParameters<VoA2LElementA2ML>() {
-  return std::array{kRaw};
-}
-template <>
-constexpr auto DescribeParameters<VoA2LElementUnknown>() {
-  return std::array{kRaw};
-}
-template <>
-constexpr auto DescribeParameters<VoA2LElementIfData>() {
-  return std::array{kName, kRaw};
-}
-template <class Class>
-constexpr auto kParameters = DescribeParameters<Class>();
-
-template <class Class>
-constexpr bool kHasRows = !std::is_same_v<decltype(Class::rows), const std::nullptr_t>;
-
-template <class Class>
-constexpr auto DescribeColumns() {
-  if constexpr (kHasRows<Class>) {
-    return std::apply(
-        [](const auto&... column) {
-          return std::array<Parameter, sizeof...(column)>{column.Describe()...};
-        },
-        Class::rows.columns);
-  } else {
-    return std::array<Parameter, 0>{};
+constexpr std::string_view KeywordOf(ElementKind kind) {
+  switch (kind) {
+#define A2L_KEYWORD(number, keyword, Class) \
+  case ElementKind::keyword:                \
+    return #keyword;
+#include "a2l2json/model/keywords.def"
+    case ElementKind::KIND_ROOT:
+    case ElementKind::KIND_UNKNOWN:
+      break;
   }
+  return {};
 }
-template <class Class>
-constexpr auto kColumns = DescribeColumns<Class>();
 
 template <class Class>
-constexpr Declaration Describe() {
-  Declaration declaration;
-  declaration.kinds = Class::kinds;
-  declaration.parameters = kParameters<Class>;
-  declaration.columns = kColumns<Class>;
-  if constexpr (kHasRows<Class>) declaration.rowCount = kParameters<Class>.size() - 1;
-  declaration.paramCount = Class::ParameterCount();
-  declaration.revision = Class::revision;
-  declaration.accepts = kBaseChildren;
-  if constexpr (requires { Class::accepts; }) declaration.accepts = Class::accepts;
-  declaration.accepts = declaration.accepts.With(KIND_UNKNOWN);
-  return declaration;
+consteval bool AcceptsInOrder() {
+  if constexpr (requires { Class::accepts; }) {
+    return std::ranges::adjacent_find(Class::accepts, std::ranges::greater_equal(), KeywordOf) ==
+           std::ranges::end(Class::accepts);
+  }
+  return true;
 }
-template <class Class>
-constexpr Declaration kDeclaration = Describe<Class>();
+
+constexpr bool IsOpen(const Parameter& parameter) {
+  return parameter.isList || parameter.type == ParameterType::RawText;
+}
 
 template <class Class>
-constexpr const Declaration* Of() {
+consteval bool OnlyTheLastIsOpen() {
+  const auto& parameters = kParameters<Class>;
+  return std::ranges::count_if(parameters, IsOpen) == 0 ||
+         (std::ranges::count_if(parameters, IsOpen) == 1 && IsOpen(parameters.back()));
+}
+
+template <class Class>
+consteval bool RowsHaveACount() {
+  const auto counts = std::ranges::count_if(kParameters<Class>, &Parameter::countsRows);
+  return counts == (kColumns<Class>.empty() ? 0 : 1);
+}
+
+// Columns are read in a quicker way, which knows these two types.
+template <class Class>
+consteval bool ColumnsAreTextsOrReals() {
+  return std::ranges::all_of(kColumns<Class>, [](const Parameter& column) {
+    return column.isList &&
+           (column.type == ParameterType::Text || column.type == ParameterType::Real);
+  });
+}
+
+// What the classes cannot check themselves before they are complete.
+template <class Class, ElementKind kKind>
+consteval const Declaration* Checked() {
   if constexpr (std::is_void_v<Class>) {
     return nullptr;
   } else {
+    static_assert(std::ranges::find(Class::kinds, kKind) != Class::kinds.end(),
+                  "keywords.def gives a keyword the class of another");
+    static_assert(AcceptsInOrder<Class>(),
+                  "the kinds that a class accepts are to stand in the order of their keywords");
+    static_assert(OnlyTheLastIsOpen<Class>(),
+                  "only the last parameter can be an open list, or text that is kept as it is");
+    static_assert(RowsHaveACount<Class>(),
+                  "a class with columns needs one parameter that is a RowCount, others need none");
+    static_assert(ColumnsAreTextsOrReals<Class>(), "columns are made with Texts or RealList");
     return &kDeclaration<Class>;
   }
 }
 
 constexpr std::array kKindOfRoot = {KIND_ROOT};
-constexpr Declaration kRoot = {
-    .kinds = kKindOfRoot, .parameters = {}, .columns = {}, .accepts = kBaseChildren};
+constexpr Declaration kRoot = {.kinds = kKindOfRoot,
+                               .parameters = {},
+                               .columns = {},
+                               .accepts = kBaseChildren,
+                               .writesChildren = true};
 
 // In the order of KindIndex.
 constexpr std::array<const Declaration*, kKindIndexCount> kDeclarations = {
-#define A2L_KEYWORD(number, keyword, Class) Of<Class>(),
+#define A2L_KEYWORD(number, keyword, Class) Checked<Class, ElementKind::keyword>(),
 #include "a2l2json/model/keywords.def"
-    &kDeclaration<VoA2LElementUnknown>,
+    Checked<VoA2LElementUnknown, KIND_UNKNOWN>(),
     nullptr,
 };
 

@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: MIT
 //
-// The grammar as data: what the element classes declare about their keywords, to be looked at
-// while the program runs. Nothing here is declared a second time; it all follows from the classes.
+// The grammar as data: what the element classes declare about their keywords. The classes are the
+// only place where it is said; reading, writing and everything else looks here.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <string_view>
 
 #include "a2l2json/model/element.h"
 #include "a2l2json/model/kind_set.h"
+#include "a2l2json/model/tree_store.h"
 #include "a2l2json/model/value_sets.h"
 
 namespace a2l::detail {
@@ -28,25 +31,90 @@ enum class ParameterType : std::uint8_t {
   RawText,       ///< everything up to the /end that matches, kept as it stands
 };
 
+/// The field of a word, taken as its code.
+struct WordField {
+  std::uint32_t (*get)(const VoA2LElement&);
+  void (*set)(VoA2LElement&, std::uint32_t);
+};
+
+/// The field of several numbers.
+struct SeveralNumbers {
+  std::span<const std::int32_t> (*get)(const VoA2LElement&);
+  std::span<std::int32_t> (*change)(VoA2LElement&);
+};
+
+/// The fields of names and their values.
+struct NamedValueFields {
+  List<std::string_view> VoA2LElement::*names;
+  List<std::string_view> VoA2LElement::*values;
+};
+
+/// The field that a parameter is stored in. Which member it is follows from the type of the
+/// parameter, and from whether it is one value, several or a list. To apply it to an element of
+/// another class than the one that declares the parameter is undefined.
+union FieldPlace {
+  std::string_view VoA2LElement::*text;
+  std::uint32_t VoA2LElement::*number;
+  std::int32_t VoA2LElement::*signedNumber;
+  std::uint64_t VoA2LElement::*number64;
+  double VoA2LElement::*real;
+  const WordField* word;
+  const SeveralNumbers* signedNumbers;
+  List<std::string_view> VoA2LElement::*texts;
+  List<std::uint32_t> VoA2LElement::*numbers;
+  List<std::int32_t> VoA2LElement::*signedNumberList;
+  List<double> VoA2LElement::*reals;
+  const NamedValueFields* namedValues;
+};
+
 /// One parameter of a keyword, or one column of its rows.
 struct Parameter {
   ParameterType type = ParameterType::Identifier;
   /// How many such parameters follow each other, each one token.
   std::uint8_t count = 1;
+
+  // How it is read.
+
   /// An open list: all tokens that are left are such parameters, none at all included.
   bool isList = false;
   /// A word must be one of the enumeration. Of the other types, numbers must be numbers, and
   /// nothing else can be wrong.
   bool isRequired = false;
-  /// A number is written in hexadecimal digits behind 0x.
-  bool isHex = false;
   /// It is read and checked, but not kept.
   bool isDropped = false;
-  /// The enumeration of a word; null for the other types.
-  const WordTable* words = nullptr;
+  /// The number of rows that follow the parameters.
+  bool countsRows = false;
+  /// A list to which every read adds; others forget what an earlier read left.
+  bool addsItems = false;
+  /// A list ends at the first number that is wrong; this one keeps it, as 0.
+  bool keepsWrongItem = false;
+
+  // How it is written.
+
+  /// A number is written in hexadecimal digits behind 0x.
+  bool isHex = false;
+  /// It begins a line of its own.
+  bool beginsLine = false;
+  /// That line is not indented.
+  bool isUnindented = false;
+  /// The items of a list in a block each have a blank behind them.
+  bool hasBlankBehindItems = false;
+
   /// A keyword that may stand in a list, where it ends the list: the rest of the text is the
   /// parameters of that child. KIND_ROOT where there is none.
   ElementKind childInList = KIND_ROOT;
+  /// The enumeration of a word; null for the other types.
+  const WordTable* words = nullptr;
+
+  FieldPlace place = {.text = nullptr};
+  /// Gives `place`, which can only be found when the class is complete; null once that is done.
+  FieldPlace (*locate)() = nullptr;
+};
+
+/// What a number that cannot be read does. Either way the read is wrong as a whole.
+enum class OnBadNumber : std::uint8_t {
+  Stop,        ///< the read ends, later fields keep their defaults
+  MarkAndGoOn  ///< the element is marked as not valid, every parameter is read
 };
 
 /// What the class of a keyword declares.
@@ -65,15 +133,20 @@ struct Declaration {
   std::uint32_t revision = kRevision160;
   /// The kinds of children, KIND_UNKNOWN included.
   KindSet accepts;
+  OnBadNumber onBadNumber = OnBadNumber::Stop;
+  /// False where children, if there are any, do not appear in A2L text.
+  bool writesChildren = false;
+  /// The keyword that stands in A2L text; KIND_ROOT where it is that of the element.
+  ElementKind writtenAs = KIND_ROOT;
 
   /// Whether the last parameter is an open list: it runs up to a line that begins with a known
   /// keyword, to the next /begin or to /end.
-  [[nodiscard]] bool IsOpenList() const { return paramCount == kOpenParameterList; }
+  [[nodiscard]] constexpr bool IsOpenList() const { return paramCount == kOpenParameterList; }
   /// Whether what stands in the block is kept as text, blocks inside it included.
-  [[nodiscard]] bool KeepsRawText() const {
+  [[nodiscard]] constexpr bool KeepsRawText() const {
     return !parameters.empty() && parameters.back().type == ParameterType::RawText;
   }
-  [[nodiscard]] bool HasRows() const { return !columns.empty(); }
+  [[nodiscard]] constexpr bool HasRows() const { return !columns.empty(); }
 };
 
 /// What the class of `kind` declares. The root (KIND_ROOT) and unknown blocks (KIND_UNKNOWN) have

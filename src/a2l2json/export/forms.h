@@ -9,7 +9,6 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <tuple>
 #include <type_traits>
 #include <variant>
 
@@ -32,8 +31,8 @@ struct WordForm {
   std::uint32_t (*code)(const VoA2LElement&);
   const WordTable* words;
 
-  /// The word of a field, out of the words that the class of the field declares for it. There is
-  /// no other way to make this form, so no field can get the words of another.
+  /// The word of a field, out of the words of its type. There is no other way to make this form, so
+  /// no field can get the words of another.
   template <auto kMember>
   static constexpr WordForm Of();
 
@@ -93,41 +92,15 @@ const auto& FieldOf(const VoA2LElement& element) {
   return static_cast<const Element&>(element).*kMember;
 }
 
-/// The words that the class of a field declares for it; null where it holds no word.
-template <auto kMember>
-consteval const WordTable* WordsOf() {
-  const WordTable* words = nullptr;
-  const auto look = [&words](const auto& parameter) {
-    if constexpr (requires { parameter.table; }) {
-      if (parameter.member == kMember) words = &parameter.table;
-    }
-  };
-  std::apply([&look](const auto&... parameter) { (look(parameter), ...); },
-             MemberOf<decltype(kMember)>::Element::parameters);
-  return words;
-}
-template <auto kMember>
-inline constexpr const WordTable* kWordsOf = WordsOf<kMember>();
-
-template <auto kMember>
-consteval bool HoldsWord() {
-  if constexpr (std::is_same_v<typename MemberOf<decltype(kMember)>::Type, std::uint32_t>) {
-    return kWordsOf<kMember> != nullptr;
-  } else {
-    return false;
-  }
-}
-
 template <auto kMember>
 constexpr WordForm WordForm::Of() {
-  static_assert(kWordsOf<kMember> != nullptr, "the class declares no words for this field");
-  return {[](const VoA2LElement& element) { return FieldOf<kMember>(element); },
-          *kWordsOf<kMember>};
+  using Type = typename MemberOf<decltype(kMember)>::Type;
+  static_assert(detail::kWordTable<Type> != nullptr, "the type of this field has no words");
+  return {[](const VoA2LElement& element) {
+            return static_cast<std::uint32_t>(FieldOf<kMember>(element));
+          },
+          *detail::kWordTable<Type>};
 }
-
-/// The kinds of a class.
-template <class Class>
-inline constexpr std::span<const ElementKind> kKindsOf = Class::kinds;
 
 /// Its address stands for a field.
 template <auto kMember>
@@ -150,7 +123,7 @@ constexpr ClassForm Value() {
   } else if constexpr (std::is_same_v<Type, double>) {
     return OfField<kMember>(
         RealForm{[](const VoA2LElement& element) { return FieldOf<kMember>(element); }});
-  } else if constexpr (HoldsWord<kMember>()) {
+  } else if constexpr (std::is_enum_v<Type>) {
     return OfField<kMember>(WordForm::Of<kMember>());
   } else if constexpr (std::is_integral_v<Type>) {
     return OfField<kMember>(IntegerForm{[](const VoA2LElement& element) {

@@ -63,7 +63,7 @@ constexpr KindSet Children() {
   if constexpr (std::is_same_v<Class, VoA2LElement>) {
     return kBaseChildren;
   } else if constexpr (requires { Class::accepts; }) {
-    return &Class::accepts == &kBaseChildren ? KindSet() : KindSet(Class::accepts);
+    return KindSet(Class::accepts);
   } else {
     return {};
   }

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
+#include <span>
 
 #include "a2l2json/model/keywords.h"
 
@@ -14,7 +15,8 @@ namespace a2l {
 class KindSet {
  public:
   constexpr KindSet() = default;
-  constexpr KindSet(std::initializer_list<ElementKind> kinds) {
+  constexpr KindSet(std::initializer_list<ElementKind> kinds) : KindSet(std::span(kinds)) {}
+  constexpr explicit KindSet(std::span<const ElementKind> kinds) {
     for (const ElementKind kind : kinds) *this = With(kind);
   }
 

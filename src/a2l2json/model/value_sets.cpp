@@ -21,13 +21,27 @@ std::string_view WordTable::ToText(std::uint32_t code) const {
   return found != words.end() ? found->text : std::string_view{};
 }
 
-DataType DataTypeFromText(std::string_view text) { return words::kDataType.FromText(text); }
-IndexOrder IndexOrderFromText(std::string_view text) { return words::kIndexOrder.FromText(text); }
-AddrType AddrTypeFromText(std::string_view text) { return words::kAddrType.FromText(text); }
+namespace {
 
-std::string_view DataTypeToText(DataType code) { return words::kDataType.ToText(code); }
-std::string_view IndexOrderToText(IndexOrder code) { return words::kIndexOrder.ToText(code); }
-std::string_view AddrTypeToText(AddrType code) { return words::kAddrType.ToText(code); }
-std::string_view DataSizeToText(DataSize code) { return words::kDataSize.ToText(code); }
+template <class Enumeration>
+Enumeration FromText(std::string_view text) {
+  return static_cast<Enumeration>(detail::kWordTable<Enumeration>->FromText(text));
+}
+
+template <class Enumeration>
+std::string_view ToText(Enumeration value) {
+  return detail::kWordTable<Enumeration>->ToText(static_cast<std::uint32_t>(value));
+}
+
+}  // namespace
+
+DataType DataTypeFromText(std::string_view text) { return FromText<DataType>(text); }
+IndexOrder IndexOrderFromText(std::string_view text) { return FromText<IndexOrder>(text); }
+AddrType AddrTypeFromText(std::string_view text) { return FromText<AddrType>(text); }
+
+std::string_view DataTypeToText(DataType value) { return ToText(value); }
+std::string_view IndexOrderToText(IndexOrder value) { return ToText(value); }
+std::string_view AddrTypeToText(AddrType value) { return ToText(value); }
+std::string_view DataSizeToText(DataSize value) { return ToText(value); }
 
 }  // namespace a2l

@@ -10,98 +10,85 @@
 
 namespace a2l {
 
-namespace words {
-
-/// Kind of a conversion method; 0 is no word.
-inline constexpr Word kConversionTypeWords[] = {
-    {1, "IDENTICAL"}, {2, "FORM"},       {3, "LINEAR"},  {4, "RAT_FUNC"},
-    {5, "TAB_INTP"},  {6, "TAB_NOINTP"}, {7, "TAB_VERB"}};
-inline constexpr WordTable kConversionType{kConversionTypeWords, 0};
-
-/// Kind of a numeric table; 0 is no word.
-inline constexpr Word kTableTypeWords[] = {{1, "TAB_INTP"}, {2, "TAB_NOINTP"}};
-inline constexpr WordTable kTableType{kTableTypeWords, 0};
-
-/// Kind of a table of texts; 0 is no word.
-inline constexpr Word kVerbalTableTypeWords[] = {{1, "TAB_VERB"}};
-inline constexpr WordTable kVerbalTableType{kVerbalTableTypeWords, 0};
-
-}  // namespace words
-
-struct VoA2LElementCompuMethod final : Block<VoA2LElementCompuMethod, Kind::COMPU_METHOD> {
+struct VoA2LElementCompuMethod final
+    : detail::Block<VoA2LElementCompuMethod, ElementKind::COMPU_METHOD> {
   std::string_view NAME;
   std::string_view LONG_IDENTIFIER;
-  std::uint32_t CONVERSION_TYPE = 0;
+  ConversionType CONVERSION_TYPE{};
   std::string_view FORMAT;
   std::string_view UNIT;
-  static constexpr auto parameters =
-      Parameters(Identifier(&Self::NAME), Text(&Self::LONG_IDENTIFIER),
-                 Choice(&Self::CONVERSION_TYPE, words::kConversionType), Text(&Self::FORMAT),
-                 Text(&Self::UNIT));
-  static constexpr KindSet accepts = {Kind::COEFFS,  Kind::COEFFS_LINEAR, Kind::COMPU_TAB_REF,
-                                      Kind::FORMULA, Kind::REF_UNIT,      Kind::STATUS_STRING_REF};
-  static constexpr Lines lines{" COMPU_METHOD {0} {1}", "{0} {1} {2}"};
+  static constexpr Parameter parameters[] = {
+      Identifier<&Self::NAME>,
+      Text<&Self::LONG_IDENTIFIER>,
+      NextLine(Word<&Self::CONVERSION_TYPE>),
+      Text<&Self::FORMAT>,
+      Text<&Self::UNIT>,
+  };
+  static constexpr Kind accepts[] = {
+      Kind::COEFFS,  Kind::COEFFS_LINEAR, Kind::COMPU_TAB_REF,
+      Kind::FORMULA, Kind::REF_UNIT,      Kind::STATUS_STRING_REF,
+  };
 };
 
 /// A table from numbers to numbers.
-struct VoA2LElementCompuTab final : Block<VoA2LElementCompuTab, Kind::COMPU_TAB> {
+struct VoA2LElementCompuTab final : detail::Block<VoA2LElementCompuTab, ElementKind::COMPU_TAB> {
   std::string_view NAME;
   std::string_view LONG_IDENTIFIER;
-  std::uint32_t CONVERSION_TYPE = 0;
+  TableType CONVERSION_TYPE{};
   std::uint32_t NUMBER_VALUE_PAIRS = 0;  ///< as declared, whatever the number of rows
   List<double> IN_VAL;
   List<double> OUT_VAL;
-  static constexpr auto parameters = Parameters(
-      Identifier(&Self::NAME), Text(&Self::LONG_IDENTIFIER),
-      Choice(&Self::CONVERSION_TYPE, words::kTableType), Unsigned(&Self::NUMBER_VALUE_PAIRS));
-  static constexpr auto rows =
-      Rows(&Self::NUMBER_VALUE_PAIRS, RealColumn(&Self::IN_VAL), RealColumn(&Self::OUT_VAL));
-  static constexpr KindSet accepts = {Kind::DEFAULT_VALUE, Kind::DEFAULT_VALUE_NUMERIC};
-  static constexpr Lines lines{" COMPU_TAB {0} {1}", "{0} {1:d}"};
-  static constexpr std::string_view rowLine = "{0} {1}";
+  static constexpr Parameter parameters[] = {
+      Identifier<&Self::NAME>,
+      Text<&Self::LONG_IDENTIFIER>,
+      NextLine(Word<&Self::CONVERSION_TYPE>),
+      RowCount<&Self::NUMBER_VALUE_PAIRS>,
+  };
+  static constexpr Parameter columns[] = {RealList<&Self::IN_VAL>, RealList<&Self::OUT_VAL>};
+  static constexpr Kind accepts[] = {Kind::DEFAULT_VALUE, Kind::DEFAULT_VALUE_NUMERIC};
 };
 
 /// A table from numbers to texts.
-struct VoA2LElementCompuVtab final : Block<VoA2LElementCompuVtab, Kind::COMPU_VTAB> {
+struct VoA2LElementCompuVtab final : detail::Block<VoA2LElementCompuVtab, ElementKind::COMPU_VTAB> {
   std::string_view NAME;
   std::string_view LONG_IDENTIFIER;
-  std::uint32_t CONVERSION_TYPE = 0;
+  VerbalTableType CONVERSION_TYPE{};
   std::uint32_t NUMBER_VALUE_PAIRS = 0;
   List<double> IN_VAL;
   List<std::string_view> OUT_VAL;
-  static constexpr auto parameters = Parameters(
-      Identifier(&Self::NAME), Text(&Self::LONG_IDENTIFIER),
-      Choice(&Self::CONVERSION_TYPE, words::kVerbalTableType), Unsigned(&Self::NUMBER_VALUE_PAIRS));
-  static constexpr auto rows =
-      Rows(&Self::NUMBER_VALUE_PAIRS, RealColumn(&Self::IN_VAL), TextColumn(&Self::OUT_VAL));
-  static constexpr KindSet accepts = {Kind::DEFAULT_VALUE};
-  static constexpr Lines lines{" COMPU_VTAB {0} {1}", "{0} {1:d}"};
-  static constexpr std::string_view rowLine = "{0} {1}";
+  static constexpr Parameter parameters[] = {
+      Identifier<&Self::NAME>,
+      Text<&Self::LONG_IDENTIFIER>,
+      NextLine(Word<&Self::CONVERSION_TYPE>),
+      RowCount<&Self::NUMBER_VALUE_PAIRS>,
+  };
+  static constexpr Parameter columns[] = {RealList<&Self::IN_VAL>, Texts<&Self::OUT_VAL>};
+  static constexpr Kind accepts[] = {Kind::DEFAULT_VALUE};
 };
 
 /// A table from ranges of numbers to texts.
 struct VoA2LElementCompuVtabRange final
-    : Block<VoA2LElementCompuVtabRange, Kind::COMPU_VTAB_RANGE> {
+    : detail::Block<VoA2LElementCompuVtabRange, ElementKind::COMPU_VTAB_RANGE> {
   std::string_view NAME;
   std::string_view LONG_IDENTIFIER;
   std::uint32_t NUMBER_VALUE_TRIPLES = 0;
   List<double> IN_VAL_MIN;
   List<double> IN_VAL_MAX;
   List<std::string_view> OUT_VAL;
-  static constexpr auto parameters = Parameters(
-      Identifier(&Self::NAME), Text(&Self::LONG_IDENTIFIER), Unsigned(&Self::NUMBER_VALUE_TRIPLES));
-  static constexpr auto rows = Rows(&Self::NUMBER_VALUE_TRIPLES, RealColumn(&Self::IN_VAL_MIN),
-                                    RealColumn(&Self::IN_VAL_MAX), TextColumn(&Self::OUT_VAL));
-  static constexpr KindSet accepts = {Kind::DEFAULT_VALUE};
-  static constexpr Lines lines{" COMPU_VTAB_RANGE {0} {1}", "{0:d}"};
-  static constexpr std::string_view rowLine = "{0} {1} {2}";
+  static constexpr Parameter parameters[] = {
+      Identifier<&Self::NAME>,
+      Text<&Self::LONG_IDENTIFIER>,
+      NextLine(RowCount<&Self::NUMBER_VALUE_TRIPLES>),
+  };
+  static constexpr Parameter columns[] = {RealList<&Self::IN_VAL_MIN>, RealList<&Self::IN_VAL_MAX>,
+                                          Texts<&Self::OUT_VAL>};
+  static constexpr Kind accepts[] = {Kind::DEFAULT_VALUE};
 };
 
-struct VoA2LElementFormula final : Block<VoA2LElementFormula, Kind::FORMULA> {
+struct VoA2LElementFormula final : detail::Block<VoA2LElementFormula, ElementKind::FORMULA> {
   std::string_view FORMULA;
-  static constexpr auto parameters = Parameters(Text(&Self::FORMULA));
-  static constexpr KindSet accepts = {Kind::FORMULA_INV};
-  static constexpr Lines lines{" FORMULA", "{0}"};
+  static constexpr Parameter parameters[] = {NextLine(Text<&Self::FORMULA>)};
+  static constexpr Kind accepts[] = {Kind::FORMULA_INV};
 };
 
 }  // namespace a2l

@@ -10,22 +10,23 @@
 
 namespace a2l {
 
-struct VoA2LElementMeasurement final : Block<VoA2LElementMeasurement, Kind::MEASUREMENT> {
+struct VoA2LElementMeasurement final
+    : detail::Block<VoA2LElementMeasurement, ElementKind::MEASUREMENT> {
   std::string_view NAME;
   std::string_view LONG_IDENTIFIER;
-  DataType DATATYPE = 0;
+  DataType DATATYPE{};
   std::string_view CONVERSION;
   std::uint32_t RESOLUTION = 1;  ///< smallest change of the value, in bits
   double ACCURACY = 0;           ///< in percent
   double LOWER_LIMIT = 0;
   double UPPER_LIMIT = 0;
-  static constexpr auto parameters =
-      Parameters(Identifier(&Self::NAME), Text(&Self::LONG_IDENTIFIER),
-                 Choice(&Self::DATATYPE, words::kDataType), Identifier(&Self::CONVERSION),
-                 Unsigned(&Self::RESOLUTION), Real(&Self::ACCURACY), Real(&Self::LOWER_LIMIT),
-                 Real(&Self::UPPER_LIMIT));
-  static constexpr auto onBadNumber = OnBadNumber::MarkAndGoOn;
-  static constexpr KindSet accepts = {
+  static constexpr Parameter parameters[] = {
+      Identifier<&Self::NAME>,       Text<&Self::LONG_IDENTIFIER>, NextLine(Word<&Self::DATATYPE>),
+      Identifier<&Self::CONVERSION>, Unsigned<&Self::RESOLUTION>,  Real<&Self::ACCURACY>,
+      Real<&Self::LOWER_LIMIT>,      Real<&Self::UPPER_LIMIT>,
+  };
+  static constexpr OnBadNumber onBadNumber = OnBadNumber::MarkAndGoOn;
+  static constexpr Kind accepts[] = {
       Kind::ADDRESS_TYPE,
       Kind::ANNOTATION,
       Kind::ARRAY_SIZE,
@@ -50,13 +51,12 @@ struct VoA2LElementMeasurement final : Block<VoA2LElementMeasurement, Kind::MEAS
       Kind::SYMBOL_LINK,
       Kind::VIRTUAL,
   };
-  static constexpr Lines lines{" MEASUREMENT {0} {1}", "{0} {1} {2:d} {3} {4} {5}"};
 };
 
 /// Shifts and sign extension that are applied to a raw value, in its children.
-struct VoA2LElementBitOperation final : Block<VoA2LElementBitOperation, Kind::BIT_OPERATION> {
-  static constexpr KindSet accepts = {Kind::LEFT_SHIFT, Kind::RIGHT_SHIFT, Kind::SIGN_EXTEND};
-  static constexpr Lines lines{" BIT_OPERATION"};
+struct VoA2LElementBitOperation final
+    : detail::Block<VoA2LElementBitOperation, ElementKind::BIT_OPERATION> {
+  static constexpr Kind accepts[] = {Kind::LEFT_SHIFT, Kind::RIGHT_SHIFT, Kind::SIGN_EXTEND};
 };
 
 }  // namespace a2l

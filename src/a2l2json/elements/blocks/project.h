@@ -12,54 +12,28 @@
 
 namespace a2l {
 
-namespace words {
-
-/// Use of a part of memory; 0 is no word.
-inline constexpr Word kLayoutProgramTypeWords[] = {
-    {1, "PRG_CODE"}, {2, "PRG_DATA"}, {3, "PRG_RESERVED"}};
-inline constexpr WordTable kLayoutProgramType{kLayoutProgramTypeWords, 0};
-
-/// Use of a memory segment. OFFLINE_DATA is never read: DATA comes first and is part of it.
-inline constexpr Word kSegmentProgramTypeWords[] = {
-    {1, "CALIBRATION_VARIABLES"}, {2, "CODE"},     {3, "DATA"},  {4, "EXCLUDE_FROM_FLASH"},
-    {5, "OFFLINE_DATA"},          {6, "RESERVED"}, {7, "SERAM"}, {8, "VARIABLES"}};
-inline constexpr WordTable kSegmentProgramType{kSegmentProgramTypeWords, 0};
-
-inline constexpr Word kMemoryTypeWords[] = {{1, "EEPROM"}, {2, "EPROM"}, {3, "FLASH"},
-                                            {4, "RAM"},    {5, "ROM"},   {6, "REGISTER"}};
-inline constexpr WordTable kMemoryType{kMemoryTypeWords, 0};
-
-inline constexpr Word kMemoryAttributeWords[] = {{1, "INTERN"}, {2, "EXTERN"}};
-inline constexpr WordTable kMemoryAttribute{kMemoryAttributeWords, 0};
-
-}  // namespace words
-
 /// Offsets of the mirrored segments.
 using MirrorOffsets = std::array<std::int32_t, 5>;
 
-struct VoA2LElementProject final : Block<VoA2LElementProject, Kind::PROJECT> {
+struct VoA2LElementProject final : detail::Block<VoA2LElementProject, ElementKind::PROJECT> {
   std::string_view NAME;
   std::string_view LONG_IDENTIFIER;
-  static constexpr auto parameters =
-      Parameters(Identifier(&Self::NAME), Text(&Self::LONG_IDENTIFIER));
-  static constexpr KindSet accepts = {Kind::HEADER, Kind::MODULE};
-  static constexpr Lines lines{" PROJECT {0} {1}"};
+  static constexpr Parameter parameters[] = {Identifier<&Self::NAME>, Text<&Self::LONG_IDENTIFIER>};
+  static constexpr Kind accepts[] = {Kind::HEADER, Kind::MODULE};
 };
 
-struct VoA2LElementHeader final : Block<VoA2LElementHeader, Kind::HEADER> {
+struct VoA2LElementHeader final : detail::Block<VoA2LElementHeader, ElementKind::HEADER> {
   std::string_view COMMENT;
-  static constexpr auto parameters = Parameters(Text(&Self::COMMENT));
-  static constexpr KindSet accepts = {Kind::PROJECT_NO, Kind::VERSION};
-  static constexpr Lines lines{" HEADER {0}"};
+  static constexpr Parameter parameters[] = {Text<&Self::COMMENT>};
+  static constexpr Kind accepts[] = {Kind::PROJECT_NO, Kind::VERSION};
 };
 
 /// The described objects of one control unit.
-struct VoA2LElementModule final : Block<VoA2LElementModule, Kind::MODULE> {
+struct VoA2LElementModule final : detail::Block<VoA2LElementModule, ElementKind::MODULE> {
   std::string_view NAME;
   std::string_view LONG_IDENTIFIER;
-  static constexpr auto parameters =
-      Parameters(Identifier(&Self::NAME), Text(&Self::LONG_IDENTIFIER));
-  static constexpr KindSet accepts = {
+  static constexpr Parameter parameters[] = {Identifier<&Self::NAME>, Text<&Self::LONG_IDENTIFIER>};
+  static constexpr Kind accepts[] = {
       Kind::A2ML,
       Kind::AXIS_PTS,
       Kind::BLOB,
@@ -87,22 +61,21 @@ struct VoA2LElementModule final : Block<VoA2LElementModule, Kind::MODULE> {
       Kind::USER_RIGHTS,
       Kind::VARIANT_CODING,
   };
-  static constexpr Lines lines{" MODULE {0} {1}"};
 };
 
 /// Data of the control unit: who makes it, its processor, its memory.
-struct VoA2LElementModPar final : Block<VoA2LElementModPar, Kind::MOD_PAR> {
+struct VoA2LElementModPar final : detail::Block<VoA2LElementModPar, ElementKind::MOD_PAR> {
   std::string_view COMMENT;
-  static constexpr auto parameters = Parameters(Text(&Self::COMMENT));
-  static constexpr KindSet accepts = {
+  static constexpr Parameter parameters[] = {Text<&Self::COMMENT>};
+  static constexpr Kind accepts[] = {
       Kind::ADDR_EPK,
       Kind::CALIBRATION_METHOD,
       Kind::CPU_TYPE,
       Kind::CUSTOMER,
       Kind::CUSTOMER_NO,
       Kind::ECU,
-      Kind::EPK,
       Kind::ECU_CALIBRATION_OFFSET,
+      Kind::EPK,
       Kind::MEMORY_LAYOUT,
       Kind::MEMORY_SEGMENT,
       Kind::NO_OF_INTERFACES,
@@ -112,14 +85,13 @@ struct VoA2LElementModPar final : Block<VoA2LElementModPar, Kind::MOD_PAR> {
       Kind::USER,
       Kind::VERSION,
   };
-  static constexpr Lines lines{" MOD_PAR {0}"};
 };
 
 /// Defaults for all objects of a module.
-struct VoA2LElementModCommon final : Block<VoA2LElementModCommon, Kind::MOD_COMMON> {
+struct VoA2LElementModCommon final : detail::Block<VoA2LElementModCommon, ElementKind::MOD_COMMON> {
   std::string_view COMMENT;
-  static constexpr auto parameters = Parameters(Text(&Self::COMMENT));
-  static constexpr KindSet accepts = {
+  static constexpr Parameter parameters[] = {Text<&Self::COMMENT>};
+  static constexpr Kind accepts[] = {
       Kind::ALIGNMENT_BYTE,
       Kind::ALIGNMENT_FLOAT16_IEEE,
       Kind::ALIGNMENT_FLOAT32_IEEE,
@@ -132,42 +104,46 @@ struct VoA2LElementModCommon final : Block<VoA2LElementModCommon, Kind::MOD_COMM
       Kind::DEPOSIT,
       Kind::S_REC_LAYOUT,
   };
-  static constexpr Lines lines{" MOD_COMMON {0}"};
 };
 
 /// A part of memory, in the older form; belongs into MOD_PAR.
-struct VoA2LElementMemoryLayout final : Block<VoA2LElementMemoryLayout, Kind::MEMORY_LAYOUT> {
-  std::uint32_t PRG_TYPE = 0;
+struct VoA2LElementMemoryLayout final
+    : detail::Block<VoA2LElementMemoryLayout, ElementKind::MEMORY_LAYOUT> {
+  LayoutProgramType PRG_TYPE{};
   std::uint32_t ADDRESS = 0;
   std::uint32_t SIZE = 0;
   MirrorOffsets OFFSET{};
-  static constexpr auto parameters =
-      Parameters(Choice(&Self::PRG_TYPE, words::kLayoutProgramType), Unsigned(&Self::ADDRESS),
-                 Unsigned(&Self::SIZE), SignedNumbers(&Self::OFFSET));
-  static constexpr KindSet accepts = {Kind::IF_DATA};
-  static constexpr Lines lines{" MEMORY_LAYOUT",
-                               "{0} 0x{1:X} 0x{2:X} {3:d} {4:d} {5:d} {6:d} {7:d}"};
+  static constexpr Parameter parameters[] = {
+      NextLine(Word<&Self::PRG_TYPE>),
+      Hex<&Self::ADDRESS>,
+      Hex<&Self::SIZE>,
+      SignedNumbers<&Self::OFFSET>,
+  };
+  static constexpr Kind accepts[] = {Kind::IF_DATA};
 };
 
 /// A part of memory; belongs into MOD_PAR.
-struct VoA2LElementMemorySegment final : Block<VoA2LElementMemorySegment, Kind::MEMORY_SEGMENT> {
+struct VoA2LElementMemorySegment final
+    : detail::Block<VoA2LElementMemorySegment, ElementKind::MEMORY_SEGMENT> {
   std::string_view NAME;
   std::string_view LONG_IDENTIFIER;
-  std::uint32_t PRG_TYPE = 0;
-  std::uint32_t MEMORY_TYPE = 0;
-  std::uint32_t ATTRIBUTE = 0;
+  SegmentProgramType PRG_TYPE{};
+  MemoryType MEMORY_TYPE{};
+  MemoryAttribute ATTRIBUTE{};
   std::uint32_t ADDRESS = 0;
   std::uint32_t SIZE = 0;
   MirrorOffsets OFFSET{};
-  static constexpr auto parameters =
-      Parameters(Identifier(&Self::NAME), Text(&Self::LONG_IDENTIFIER),
-                 Choice(&Self::PRG_TYPE, words::kSegmentProgramType),
-                 Choice(&Self::MEMORY_TYPE, words::kMemoryType),
-                 Choice(&Self::ATTRIBUTE, words::kMemoryAttribute), Unsigned(&Self::ADDRESS),
-                 Unsigned(&Self::SIZE), SignedNumbers(&Self::OFFSET));
-  static constexpr KindSet accepts = {Kind::IF_DATA};
-  static constexpr Lines lines{" MEMORY_SEGMENT {0} {1}", "{0} {1} {2} 0x{3:X} 0x{4:X}",
-                               "{0:d} {1:d} {2:d} {3:d} {4:d}"};
+  static constexpr Parameter parameters[] = {
+      Identifier<&Self::NAME>,
+      Text<&Self::LONG_IDENTIFIER>,
+      NextLine(Word<&Self::PRG_TYPE>),
+      Word<&Self::MEMORY_TYPE>,
+      Word<&Self::ATTRIBUTE>,
+      Hex<&Self::ADDRESS>,
+      Hex<&Self::SIZE>,
+      NextLine(SignedNumbers<&Self::OFFSET>),
+  };
+  static constexpr Kind accepts[] = {Kind::IF_DATA};
 };
 
 }  // namespace a2l

@@ -9,56 +9,58 @@
 
 namespace a2l {
 
-struct VoA2LElementVariantCoding final : Block<VoA2LElementVariantCoding, Kind::VARIANT_CODING> {
-  static constexpr KindSet accepts = {Kind::VAR_CHARACTERISTIC, Kind::VAR_CRITERION,
-                                      Kind::VAR_FORBIDDEN_COMB, Kind::VAR_NAMING,
-                                      Kind::VAR_SEPARATOR};
-  static constexpr Lines lines{" VARIANT_CODING"};
+struct VoA2LElementVariantCoding final
+    : detail::Block<VoA2LElementVariantCoding, ElementKind::VARIANT_CODING> {
+  static constexpr Kind accepts[] = {
+      Kind::VAR_CHARACTERISTIC, Kind::VAR_CRITERION, Kind::VAR_FORBIDDEN_COMB,
+      Kind::VAR_NAMING,         Kind::VAR_SEPARATOR,
+  };
 };
 
 /// A criterion and the values that it can have.
-struct VoA2LElementVarCriterion final : Block<VoA2LElementVarCriterion, Kind::VAR_CRITERION> {
+struct VoA2LElementVarCriterion final
+    : detail::Block<VoA2LElementVarCriterion, ElementKind::VAR_CRITERION> {
   std::string_view NAME;
   std::string_view LONG_IDENTIFIER;
   List<std::string_view> VALUE;
-  static constexpr auto parameters = Parameters(
-      Identifier(&Self::NAME), Text(&Self::LONG_IDENTIFIER), MoreIdentifiers(&Self::VALUE));
-  static constexpr KindSet accepts = {Kind::VAR_MEASUREMENT, Kind::VAR_SELECTION_CHARACTERISTIC};
-  static constexpr Lines lines{" VAR_CRITERION {0} {1}"};
-  static constexpr std::string_view item = "{0} ";
+  static constexpr Parameter parameters[] = {
+      Identifier<&Self::NAME>,
+      Text<&Self::LONG_IDENTIFIER>,
+      Adding(Identifiers<&Self::VALUE>),
+  };
+  static constexpr Kind accepts[] = {
+      Kind::VAR_MEASUREMENT,
+      Kind::VAR_SELECTION_CHARACTERISTIC,
+  };
 };
 
 /// A variant-coded characteristic and the criteria that its address depends on.
 struct VoA2LElementVarCharacteristic final
-    : Block<VoA2LElementVarCharacteristic, Kind::VAR_CHARACTERISTIC> {
+    : detail::Block<VoA2LElementVarCharacteristic, ElementKind::VAR_CHARACTERISTIC> {
   std::string_view NAME;
   List<std::string_view> CRITERION_NAME;
-  static constexpr auto parameters =
-      Parameters(Identifier(&Self::NAME), MoreIdentifiers(&Self::CRITERION_NAME));
-  static constexpr KindSet accepts = {Kind::VAR_ADDRESS};
-  static constexpr Lines lines{" VAR_CHARACTERISTIC {0}"};
-  static constexpr std::string_view item = "{0} ";
+  static constexpr Parameter parameters[] = {
+      Identifier<&Self::NAME>,
+      Adding(Identifiers<&Self::CRITERION_NAME>),
+  };
+  static constexpr Kind accepts[] = {Kind::VAR_ADDRESS};
 };
 
 /// The addresses of a variant-coded characteristic.
-struct VoA2LElementVarAddress final : Block<VoA2LElementVarAddress, Kind::VAR_ADDRESS> {
+struct VoA2LElementVarAddress final
+    : detail::Block<VoA2LElementVarAddress, ElementKind::VAR_ADDRESS> {
   List<std::uint32_t> VAR_ADDRESS;
-  static constexpr auto parameters = Parameters(MoreUnsigned(&Self::VAR_ADDRESS));
-  static constexpr Lines lines{" VAR_ADDRESS"};
-  static constexpr std::string_view item = "0x{0:X} ";
-  static constexpr bool keepsChildrenSilent = true;
+  static constexpr Parameter parameters[] = {Adding(InHex(UnsignedList<&Self::VAR_ADDRESS>))};
 };
 
 /// A combination of values that cannot occur. A criterion at the end without a value is wrong;
 /// it stays in its list all the same.
 struct VoA2LElementVarForbiddenComb final
-    : Block<VoA2LElementVarForbiddenComb, Kind::VAR_FORBIDDEN_COMB> {
+    : detail::Block<VoA2LElementVarForbiddenComb, ElementKind::VAR_FORBIDDEN_COMB> {
   List<std::string_view> CRITERION_NAME;
   List<std::string_view> VALUE;
-  static constexpr auto parameters = Parameters(PairList(&Self::CRITERION_NAME, &Self::VALUE));
-  static constexpr Lines lines{" VAR_FORBIDDEN_COMB"};
-  static constexpr std::string_view item = "{0}";
-  static constexpr bool keepsChildrenSilent = true;
+  static constexpr Parameter parameters[] = {
+      WithoutBlanks(Adding(NamedValues<&Self::CRITERION_NAME, &Self::VALUE>))};
 };
 
 }  // namespace a2l

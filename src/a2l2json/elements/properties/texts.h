@@ -10,76 +10,69 @@ namespace a2l {
 
 /// Title of an annotation.
 struct VoA2LElementAnnotationLabel final
-    : Property<VoA2LElementAnnotationLabel, Kind::ANNOTATION_LABEL> {
+    : detail::Property<VoA2LElementAnnotationLabel, ElementKind::ANNOTATION_LABEL> {
   std::string_view ANNOTATION_LABEL;
-  static constexpr auto parameters = Parameters(Text(&Self::ANNOTATION_LABEL));
-  static constexpr std::string_view line = "ANNOTATION_LABEL {0}";
+  static constexpr Parameter parameters[] = {Text<&Self::ANNOTATION_LABEL>};
 };
 
 /// Who or what wrote an annotation.
 struct VoA2LElementAnnotationOrigin final
-    : Property<VoA2LElementAnnotationOrigin, Kind::ANNOTATION_ORIGIN> {
+    : detail::Property<VoA2LElementAnnotationOrigin, ElementKind::ANNOTATION_ORIGIN> {
   std::string_view ANNOTATION_ORIGIN;
-  static constexpr auto parameters = Parameters(Text(&Self::ANNOTATION_ORIGIN));
-  static constexpr std::string_view line = "ANNOTATION_ORIGIN {0}";
+  static constexpr Parameter parameters[] = {Text<&Self::ANNOTATION_ORIGIN>};
 };
 
 /// Text that goes with the handles of a calibration method. It is written under the keyword
 /// CALIBRATION_ACCESS, the form in which it has always been handed on.
 struct VoA2LElementCalibrationHandleText final
-    : Property<VoA2LElementCalibrationHandleText, Kind::CALIBRATION_HANDLE_TEXT> {
+    : detail::Property<VoA2LElementCalibrationHandleText, ElementKind::CALIBRATION_HANDLE_TEXT> {
   std::string_view HANDLE_TEXT;
-  static constexpr auto parameters = Parameters(Text(&Self::HANDLE_TEXT));
-  static constexpr std::string_view line = "CALIBRATION_ACCESS {0}";
+  static constexpr Parameter parameters[] = {Text<&Self::HANDLE_TEXT>};
+  static constexpr Kind writtenAs = Kind::CALIBRATION_ACCESS;
 };
 
 /// Processor of the control unit.
-struct VoA2LElementCPUType final : Property<VoA2LElementCPUType, Kind::CPU_TYPE> {
+struct VoA2LElementCPUType final : detail::Property<VoA2LElementCPUType, ElementKind::CPU_TYPE> {
   std::string_view CPU_TYPE;
-  static constexpr auto parameters = Parameters(Text(&Self::CPU_TYPE));
-  static constexpr std::string_view line = "CPU_TYPE {0}";
+  static constexpr Parameter parameters[] = {Text<&Self::CPU_TYPE>};
 };
 
 /// Name of the customer.
-struct VoA2LElementCustomer final : Property<VoA2LElementCustomer, Kind::CUSTOMER> {
+struct VoA2LElementCustomer final : detail::Property<VoA2LElementCustomer, ElementKind::CUSTOMER> {
   std::string_view CUSTOMER;
-  static constexpr auto parameters = Parameters(Text(&Self::CUSTOMER));
-  static constexpr std::string_view line = "CUSTOMER {0}";
+  static constexpr Parameter parameters[] = {Text<&Self::CUSTOMER>};
 };
 
 /// Customer's number.
-struct VoA2LElementCustomerNo final : Property<VoA2LElementCustomerNo, Kind::CUSTOMER_NO> {
+struct VoA2LElementCustomerNo final
+    : detail::Property<VoA2LElementCustomerNo, ElementKind::CUSTOMER_NO> {
   std::string_view CUSTOMER_NO;
-  static constexpr auto parameters = Parameters(Text(&Self::CUSTOMER_NO));
-  static constexpr std::string_view line = "CUSTOMER_NO {0}";
+  static constexpr Parameter parameters[] = {Text<&Self::CUSTOMER_NO>};
 };
 
 /// Text for values that a conversion table does not list.
-struct VoA2LElementDefaultValue final : Property<VoA2LElementDefaultValue, Kind::DEFAULT_VALUE> {
+struct VoA2LElementDefaultValue final
+    : detail::Property<VoA2LElementDefaultValue, ElementKind::DEFAULT_VALUE> {
   std::string_view DEFAULT_VALUE;
-  static constexpr auto parameters = Parameters(Text(&Self::DEFAULT_VALUE));
-  static constexpr std::string_view line = "DEFAULT_VALUE {0}";
+  static constexpr Parameter parameters[] = {Text<&Self::DEFAULT_VALUE>};
 };
 
 /// Name of the control unit.
-struct VoA2LElementECU final : Property<VoA2LElementECU, Kind::ECU> {
+struct VoA2LElementECU final : detail::Property<VoA2LElementECU, ElementKind::ECU> {
   std::string_view ECU;
-  static constexpr auto parameters = Parameters(Text(&Self::ECU));
-  static constexpr std::string_view line = "ECU {0}";
+  static constexpr Parameter parameters[] = {Text<&Self::ECU>};
 };
 
 /// Identification of the program version.
-struct VoA2LElementEPK final : Property<VoA2LElementEPK, Kind::EPK> {
+struct VoA2LElementEPK final : detail::Property<VoA2LElementEPK, ElementKind::EPK> {
   std::string_view EPK;
-  static constexpr auto parameters = Parameters(Text(&Self::EPK));
-  static constexpr std::string_view line = "EPK {0}";
+  static constexpr Parameter parameters[] = {Text<&Self::EPK>};
 };
 
 /// Display format of values. An empty one is wrong.
-struct VoA2LElementFormat final : Property<VoA2LElementFormat, Kind::FORMAT> {
+struct VoA2LElementFormat final : detail::Property<VoA2LElementFormat, ElementKind::FORMAT> {
   std::string_view FORMAT;
-  static constexpr auto parameters = Parameters(Text(&Self::FORMAT));
-  static constexpr std::string_view line = "FORMAT {0}";
+  static constexpr Parameter parameters[] = {Text<&Self::FORMAT>};
 
   bool ParseParameters(std::string_view& text) override {
     return Property::ParseParameters(text) && !FORMAT.empty();
@@ -87,86 +80,78 @@ struct VoA2LElementFormat final : Property<VoA2LElementFormat, Kind::FORMAT> {
 };
 
 /// Formula from physical to raw values.
-struct VoA2LElementFormulaInv final : Property<VoA2LElementFormulaInv, Kind::FORMULA_INV> {
+struct VoA2LElementFormulaInv final
+    : detail::Property<VoA2LElementFormulaInv, ElementKind::FORMULA_INV> {
   std::string_view FORMULA_INV;
-  static constexpr auto parameters = Parameters(Text(&Self::FORMULA_INV));
-  static constexpr std::string_view line = "FORMULA_INV {0}";
+  static constexpr Parameter parameters[] = {Text<&Self::FORMULA_INV>};
 };
 
 /// Version of a function.
 struct VoA2LElementFunctionVersion final
-    : Property<VoA2LElementFunctionVersion, Kind::FUNCTION_VERSION> {
+    : detail::Property<VoA2LElementFunctionVersion, ElementKind::FUNCTION_VERSION> {
   std::string_view FUNCTION_VERSION;
-  static constexpr auto parameters = Parameters(Text(&Self::FUNCTION_VERSION));
-  static constexpr std::string_view line = "FUNCTION_VERSION {0}";
+  static constexpr Parameter parameters[] = {Text<&Self::FUNCTION_VERSION>};
 };
 
 /// Place of an object in the model it comes from.
-struct VoA2LElementModelLink final : Property<VoA2LElementModelLink, Kind::MODEL_LINK> {
+struct VoA2LElementModelLink final
+    : detail::Property<VoA2LElementModelLink, ElementKind::MODEL_LINK> {
   std::string_view MODEL_LINK;
-  static constexpr auto parameters = Parameters(Text(&Self::MODEL_LINK));
-  static constexpr std::string_view line = "MODEL_LINK {0}";
-  static constexpr auto revision = kRevision171;
+  static constexpr Parameter parameters[] = {Text<&Self::MODEL_LINK>};
+  static constexpr std::uint32_t revision = kRevision171;
 };
 
 /// Telephone number of the calibration engineer.
-struct VoA2LElementPhoneNo final : Property<VoA2LElementPhoneNo, Kind::PHONE_NO> {
+struct VoA2LElementPhoneNo final : detail::Property<VoA2LElementPhoneNo, ElementKind::PHONE_NO> {
   std::string_view PHONE_NO;
-  static constexpr auto parameters = Parameters(Text(&Self::PHONE_NO));
-  static constexpr std::string_view line = "PHONE_NO {0}";
+  static constexpr Parameter parameters[] = {Text<&Self::PHONE_NO>};
 };
 
 /// Physical unit of the values.
-struct VoA2LElementPhysUnit final : Property<VoA2LElementPhysUnit, Kind::PHYS_UNIT> {
+struct VoA2LElementPhysUnit final : detail::Property<VoA2LElementPhysUnit, ElementKind::PHYS_UNIT> {
   std::string_view PHYS_UNIT;
-  static constexpr auto parameters = Parameters(Text(&Self::PHYS_UNIT));
-  static constexpr std::string_view line = "PHYS_UNIT {0}";
+  static constexpr Parameter parameters[] = {Text<&Self::PHYS_UNIT>};
 };
 
 /// Name of the supplier.
-struct VoA2LElementSupplier final : Property<VoA2LElementSupplier, Kind::SUPPLIER> {
+struct VoA2LElementSupplier final : detail::Property<VoA2LElementSupplier, ElementKind::SUPPLIER> {
   std::string_view SUPPLIER;
-  static constexpr auto parameters = Parameters(Text(&Self::SUPPLIER));
-  static constexpr std::string_view line = "SUPPLIER {0}";
+  static constexpr Parameter parameters[] = {Text<&Self::SUPPLIER>};
 };
 
 /// Name of the type in the linker map.
 struct VoA2LElementSymbolTypeLink final
-    : Property<VoA2LElementSymbolTypeLink, Kind::SYMBOL_TYPE_LINK> {
+    : detail::Property<VoA2LElementSymbolTypeLink, ElementKind::SYMBOL_TYPE_LINK> {
   std::string_view SYMBOL_TYPE_LINK;
-  static constexpr auto parameters = Parameters(Text(&Self::SYMBOL_TYPE_LINK));
-  static constexpr std::string_view line = "SYMBOL_TYPE_LINK {0}";
-  static constexpr auto revision = kRevision171;
+  static constexpr Parameter parameters[] = {Text<&Self::SYMBOL_TYPE_LINK>};
+  static constexpr std::uint32_t revision = kRevision171;
 };
 
 /// Name of the user.
-struct VoA2LElementUser final : Property<VoA2LElementUser, Kind::USER> {
+struct VoA2LElementUser final : detail::Property<VoA2LElementUser, ElementKind::USER> {
   std::string_view USER;
-  static constexpr auto parameters = Parameters(Text(&Self::USER));
-  static constexpr std::string_view line = "USER {0}";
+  static constexpr Parameter parameters[] = {Text<&Self::USER>};
 };
 
 /// Separator in the names of variant-coded objects.
-struct VoA2LElementVarSeparator final : Property<VoA2LElementVarSeparator, Kind::VAR_SEPARATOR> {
+struct VoA2LElementVarSeparator final
+    : detail::Property<VoA2LElementVarSeparator, ElementKind::VAR_SEPARATOR> {
   std::string_view VAR_SEPARATOR;
-  static constexpr auto parameters = Parameters(Text(&Self::VAR_SEPARATOR));
-  static constexpr std::string_view line = "VAR_SEPARATOR {0}";
+  static constexpr Parameter parameters[] = {Text<&Self::VAR_SEPARATOR>};
 };
 
 /// Version of the described data.
-struct VoA2LElementVersion final : Property<VoA2LElementVersion, Kind::VERSION> {
+struct VoA2LElementVersion final : detail::Property<VoA2LElementVersion, ElementKind::VERSION> {
   std::string_view VERSION;
-  static constexpr auto parameters = Parameters(Text(&Self::VERSION));
-  static constexpr std::string_view line = "VERSION {0}";
+  static constexpr Parameter parameters[] = {Text<&Self::VERSION>};
 };
 
 /// A constant of the control unit: its name and its value, both texts.
 struct VoA2LElementSystemConstant final
-    : Property<VoA2LElementSystemConstant, Kind::SYSTEM_CONSTANT> {
+    : detail::Property<VoA2LElementSystemConstant, ElementKind::SYSTEM_CONSTANT> {
   std::string_view NAME;
   std::string_view VALUE;
-  static constexpr auto parameters = Parameters(Text(&Self::NAME), Text(&Self::VALUE));
-  static constexpr std::string_view line = "SYSTEM_CONSTANT {0} {1}";
+  static constexpr Parameter parameters[] = {Text<&Self::NAME>, Text<&Self::VALUE>};
 };
 
 }  // namespace a2l
