@@ -2,67 +2,27 @@
 #
 # Everything this build takes from outside stands in this one file:
 #
-#   {fmt}                 number and text formatting     always
 #   json11::json11        the document as a json11       where it is installed; with
 #                         value, tests                   A2L2JSON_JSON11 and for tests,
 #                                                        benchmarks and fuzz targets always
 #   GTest::gtest_main     unit tests                     with A2L2JSON_BUILD_TESTS
 #   benchmark::benchmark  benchmarks                     with A2L2JSON_BUILD_BENCH
+#   {fmt}                 text of the generator there    with A2L2JSON_BUILD_BENCH
+#
+# The program and the library by themselves need nothing but the C++ standard library.
 #
 # `make deps` installs all of them once; configuring needs no network after that.
 
 include_guard(GLOBAL)
 include("${CMAKE_CURRENT_LIST_DIR}/InstalledJson11.cmake")
 
-# What is installed was compiled for the system that builds. For another one, the headers of {fmt}
-# and the sources of GoogleTest and json11 will do, which Debian has as well.
+# What is installed was compiled for the system that builds. For another one, the sources of
+# GoogleTest and json11 will do, which Debian has as well.
 option(A2L2JSON_LIBRARIES_FROM_SOURCE
-       "Compile {fmt}, GoogleTest and json11 from headers and sources, as cross compiling asks for"
-       OFF)
+       "Compile GoogleTest and json11 from sources, as cross compiling asks for" OFF)
 
 # ---------------------------------------------------------------------------------------------
-# {fmt}
-#
-# What is used of it is compiled in, so that neither the program nor the installed library needs
-# it on the machine where they are used. Whoever prefers the shared library, as distributions do,
-# says so.
-
-option(A2L2JSON_SHARED_FMT "Link the library of {fmt} instead of compiling in what is used of it"
-       OFF)
-
-# fmt::fmt-header-only from the headers of the system that builds. They are reached through a link,
-# because the folder that they are in has the C library's headers as well.
-function(a2l2json_take_fmt_headers)
-  find_path(A2L2JSON_FMT_HEADERS fmt/format.h PATHS /usr/include NO_CMAKE_FIND_ROOT_PATH)
-  mark_as_advanced(A2L2JSON_FMT_HEADERS)
-  if(NOT A2L2JSON_FMT_HEADERS)
-    return()
-  endif()
-  set(folder "${PROJECT_BINARY_DIR}/libraries/fmt")
-  file(MAKE_DIRECTORY "${folder}")
-  file(CREATE_LINK "${A2L2JSON_FMT_HEADERS}/fmt" "${folder}/fmt" SYMBOLIC)
-  add_library(fmt::fmt-header-only INTERFACE IMPORTED GLOBAL)
-  target_include_directories(fmt::fmt-header-only SYSTEM INTERFACE "${folder}")
-  target_compile_definitions(fmt::fmt-header-only INTERFACE FMT_HEADER_ONLY=1)
-endfunction()
-
-if(A2L2JSON_LIBRARIES_FROM_SOURCE)
-  a2l2json_take_fmt_headers()
-else()
-  find_package(fmt 9 CONFIG QUIET)
-endif()
-if(A2L2JSON_SHARED_FMT)
-  set(A2L2JSON_FMT fmt::fmt)
-else()
-  set(A2L2JSON_FMT fmt::fmt-header-only)
-endif()
-if(NOT TARGET ${A2L2JSON_FMT})
-  message(FATAL_ERROR "{fmt} 9 or newer was not found; run `make deps`, or install the "
-                      "development package of {fmt} (libfmt-dev on Debian).")
-endif()
-
-# ---------------------------------------------------------------------------------------------
-# GoogleTest and Google Benchmark
+# GoogleTest, Google Benchmark and {fmt}
 
 # GTest::gtest and GTest::gtest_main from the sources that the system that builds has.
 function(a2l2json_take_googletest)
@@ -99,6 +59,12 @@ if(A2L2JSON_BUILD_TESTS)
 endif()
 
 if(A2L2JSON_BUILD_BENCH)
+  find_package(fmt 9 CONFIG QUIET)
+  if(NOT TARGET fmt::fmt)
+    message(FATAL_ERROR "{fmt} 9 or newer was not found; run `make deps`, or install the "
+                        "development package of {fmt} (libfmt-dev on Debian), or configure with "
+                        "-DA2L2JSON_BUILD_BENCH=OFF.")
+  endif()
   find_package(benchmark CONFIG QUIET)
   if(NOT TARGET benchmark::benchmark)
     message(FATAL_ERROR "Google Benchmark was not found; run `make deps`, or install its "

@@ -34,9 +34,6 @@ a2l2json_archive(a2l2json_library a2l2json a2l2json_text a2l2json_model a2l2json
                  a2l2json_reader a2l2json_export)
 add_library(a2l2json::a2l2json ALIAS a2l2json_library)
 set_target_properties(a2l2json_library PROPERTIES EXPORT_NAME a2l2json)
-if(A2L2JSON_SHARED_FMT)
-  target_link_libraries(a2l2json_library PRIVATE fmt::fmt)
-endif()
 
 # json11 itself is not part of it: the installed CMake package looks for it anew and links it then.
 if(TARGET a2l2json_export_json11)
@@ -136,12 +133,6 @@ if(A2L2JSON_LIBRARY)
       DESTINATION "${headers}/${room}"
       COMPONENT library)
   endforeach()
-
-  if(A2L2JSON_SHARED_FMT)
-    # The names in the library of {fmt} change with its version.
-    set(A2L2JSON_CONFIG_FMT "find_dependency(fmt ${fmt_VERSION} EXACT)")
-    set(A2L2JSON_PC_FMT "fmt = ${fmt_VERSION}")
-  endif()
 
   install(TARGETS a2l2json_library EXPORT a2l2json-targets COMPONENT library)
   install(
