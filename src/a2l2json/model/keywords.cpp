@@ -16,8 +16,6 @@ constexpr std::array kKeywords = {
 #include "a2l2json/model/keywords.def"
 };
 
-static_assert(kKeywords.size() == kKeywordCount);
-
 constexpr bool StandsAtItsIndex() {
   for (std::size_t i = 0; i < kKeywords.size(); ++i) {
     if (KindIndex(kKeywords[i].kind) != i) return false;

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <iterator>
 #include <string_view>
 
 // A keyword of the format, and on some platforms a macro that <cstdlib> brings along.
@@ -23,8 +24,51 @@ enum class ElementKind : std::int32_t {
 inline constexpr ElementKind KIND_ROOT = ElementKind::KIND_ROOT;
 inline constexpr ElementKind KIND_UNKNOWN = ElementKind::KIND_UNKNOWN;
 
+namespace detail {
+
+/// Keywords with numbers that follow each other, and the place of the first in the keyword list.
+struct KeywordGroup {
+  std::int32_t first = 0;
+  std::int32_t last = 0;
+  std::size_t index = 0;
+
+  [[nodiscard]] constexpr bool Has(std::int32_t number) const {
+    return number >= first && number <= last;
+  }
+  [[nodiscard]] constexpr std::size_t IndexOf(std::int32_t number) const {
+    return static_cast<std::size_t>(number - first) + index;
+  }
+};
+
+inline constexpr std::int32_t kKeywordNumbers[] = {
+#define A2L_KEYWORD(number, keyword, Class) number,
+#include "a2l2json/model/keywords.def"
+};
+
+/// The group at `place`, counted from 0; an empty one behind the last.
+consteval KeywordGroup GroupAt(std::size_t place) {
+  KeywordGroup group;
+  for (std::size_t i = 0; i < std::size(kKeywordNumbers); ++i) {
+    const std::int32_t number = kKeywordNumbers[i];
+    if (i == 0 || number != kKeywordNumbers[i - 1] + 1) {
+      if (i != 0 && place-- == 0) return group;
+      group = {number, number, i};
+    }
+    group.last = number;
+  }
+  return place == 0 ? group : KeywordGroup{};
+}
+
+inline constexpr KeywordGroup kMainBlocks = GroupAt(0);
+inline constexpr KeywordGroup kFurtherBlocks = GroupAt(1);
+inline constexpr KeywordGroup kProperties = GroupAt(2);
+static_assert(GroupAt(3).first == 0,
+              "keywords.def has more than three groups: a number is missing, or out of order");
+
+}  // namespace detail
+
 /// Number of keywords that the format defines.
-inline constexpr std::size_t kKeywordCount = 205;
+inline constexpr std::size_t kKeywordCount = std::size(detail::kKeywordNumbers);
 
 /// The kind of a keyword. The comparison is exact: upper case, no surrounding blanks. Any other
 /// text, the empty one included, gives KIND_UNKNOWN.
@@ -37,21 +81,22 @@ inline constexpr std::size_t kKeywordCount = 205;
 /// True for the keywords that are written between /begin and /end.
 [[nodiscard]] constexpr bool IsBlock(ElementKind kind) {
   const auto number = static_cast<std::int32_t>(kind);
-  return (number >= 1 && number <= 20) || (number >= 100 && number <= 141);
+  return detail::kMainBlocks.Has(number) || detail::kFurtherBlocks.Has(number);
 }
 
-/// True for the keywords that are written without /begin, on a line of their own.
+/// True for the keywords that are written without /begin, on a line of their own: every kind from
+/// that of the first property on.
 [[nodiscard]] constexpr bool IsProperty(ElementKind kind) {
-  return static_cast<std::int32_t>(kind) > 1000 && kind != KIND_UNKNOWN;
+  return static_cast<std::int32_t>(kind) >= detail::kProperties.first && kind != KIND_UNKNOWN;
 }
 
 /// A dense number for tables indexed by kind: 0 to kKeywordCount - 1 in the order of the
 /// keyword list, kKeywordCount for KIND_UNKNOWN, kKeywordCount + 1 for everything else.
 [[nodiscard]] constexpr std::size_t KindIndex(ElementKind kind) {
-  const auto number = static_cast<std::size_t>(kind);
-  if (number >= 1 && number <= 20) return number - 1;
-  if (number >= 100 && number <= 141) return number - 100 + 20;
-  if (number >= 1001 && number <= 1143) return number - 1001 + 62;
+  const auto number = static_cast<std::int32_t>(kind);
+  if (detail::kMainBlocks.Has(number)) return detail::kMainBlocks.IndexOf(number);
+  if (detail::kFurtherBlocks.Has(number)) return detail::kFurtherBlocks.IndexOf(number);
+  if (detail::kProperties.Has(number)) return detail::kProperties.IndexOf(number);
   return kind == KIND_UNKNOWN ? kKeywordCount : kKeywordCount + 1;
 }
 
