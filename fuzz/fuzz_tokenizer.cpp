@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-#include "a2l2json/elements/fields.h"
+#include "a2l2json/elements/parameter_text.h"
 #include "a2l2json/reader/comments.h"
 #include "a2l2json/reader/line_source.h"
 #include "a2l2json/text/tokenizer.h"
@@ -40,7 +40,7 @@ void CheckTokens(std::string_view text) {
     CheckSame(token, expected, "NextToken");
     CheckSame(rest, naiveRest, "the rest behind a token");
     CheckUnquote(token);
-    CheckSame(ReadText(store, forReadText), naive::Unquote(expected), "ReadText");
+    CheckSame(detail::ReadText(store, forReadText), naive::Unquote(expected), "ReadText");
     CheckSame(forReadText, naiveRest, "the rest behind a text");
     if (token.empty()) break;
   }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "a2l2json/elements/fields.h"
+#include "a2l2json/elements/parameter_text.h"
 
 #include <string>
 #include <string_view>
@@ -11,6 +11,9 @@
 
 namespace a2l::test {
 namespace {
+
+using detail::ReadIdentifier;
+using detail::ReadText;
 
 TEST(ReadIdentifier, CutsTheTokenTo1024Bytes) {
   const std::string name1024(1024, 'a');

@@ -172,14 +172,16 @@ TEST_F(JsonWriterTest, WritesAFullTreeAsJson11Does) {
 
 TEST_F(JsonWriterTest, WritesWordsThatReadingNeverGives) {
   auto* characteristic = Add<VoA2LElementCharacteristic>(*module_);
-  Add<VoA2LElementCalibrationAccess>(*characteristic)->CALIBRATION_ACCESS = 4;
+  Add<VoA2LElementCalibrationAccess>(*characteristic)->CALIBRATION_ACCESS =
+      CalibrationAccess::OFFLINE_CALIBRATION;
   auto* blob = Add<VoA2LElementBlob>(*module_);
-  Add<VoA2LElementAddressType>(*blob)->ADDRESS_TYPE = 3;
+  Add<VoA2LElementAddressType>(*blob)->ADDRESS_TYPE = AddrType::PLONGLONG;
   auto* transformer = Add<VoA2LElementTransformer>(*module_);
   transformer->TIMEOUT = 500;
-  transformer->TRIGGER = 2;
+  transformer->TRIGGER = TransformerTrigger::ON_USER_REQUEST;
   transformer->INVERSE_TRANSFORMER = "I";
-  Add<VoA2LElementMemorySegment>(*Add<VoA2LElementModPar>(*module_))->PRG_TYPE = 5;
+  Add<VoA2LElementMemorySegment>(*Add<VoA2LElementModPar>(*module_))->PRG_TYPE =
+      SegmentProgramType::OFFLINE_DATA;
 
   const json11::Json document = FirstModule();
   EXPECT_EQ(document["FCHARACTERISTIC"][0]["FCALIBRATION_ACCESS"].string_value(),
@@ -192,8 +194,9 @@ TEST_F(JsonWriterTest, WritesWordsThatReadingNeverGives) {
 }
 
 TEST_F(JsonWriterTest, WritesACodeWithoutAWordAsEmptyText) {
-  Add<VoA2LElementMeasurement>(*module_)->DATATYPE = 10;
-  Add<VoA2LElementCharacteristic>(*module_)->CHARACTERISTIC_TYPE = 9;
+  Add<VoA2LElementMeasurement>(*module_)->DATATYPE = static_cast<DataType>(10);
+  Add<VoA2LElementCharacteristic>(*module_)->CHARACTERISTIC_TYPE =
+      static_cast<CharacteristicType>(9);
   const json11::Json document = FirstModule();
   EXPECT_EQ(document["FMEASUREMENT"][0]["FDATATYPE"], json11::Json(""));
   EXPECT_EQ(document["FCHARACTERISTIC"][0]["FCHARACTERISTIC_TYPE"], json11::Json(""));

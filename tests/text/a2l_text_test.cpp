@@ -34,6 +34,12 @@ TEST(Quote, PutsABackslashBeforeSixBytes) {
   for (const Row& row : kRows) EXPECT_EQ(Quote(row.text), row.quoted);
 }
 
+TEST(AppendQuoted, LeavesWhatStandsBefore) {
+  std::string line = "a\" ";
+  AppendQuoted(line, "b\"");
+  EXPECT_EQ(line, R"(a" "b\"")");
+}
+
 TEST(Quote, LeavesEveryOtherByteAsItIs) {
   constexpr std::string_view kEscaped = "\\\"'\n\r\t";
   for (int byte = 0; byte < 256; ++byte) {
@@ -52,36 +58,25 @@ TEST(Quote, IsUndoneByUnquote) {
   }
 }
 
-TEST(Format, FillsThePlaces) {
-  struct Row {
-    std::string_view format;
-    Arguments arguments;
-    std::string_view text;
-  };
-  const Row rows[] = {
-      {"AXIS_PTS {0} {1}", {std::string("a"), std::string("\"b\"")}, "AXIS_PTS a \"b\""},
-      {"{0} ", {std::string()}, " "},
-      {"ROOT", {}, "ROOT"},
-      {"0x{0:X}", {std::uint32_t{0}}, "0x0"},
-      {"0x{0:X}", {std::uint32_t{0x1a2b}}, "0x1A2B"},
-      {"0x{0:X}", {std::numeric_limits<std::uint32_t>::max()}, "0xFFFFFFFF"},
-      {"0x{0:X}", {std::numeric_limits<std::uint64_t>::max()}, "0xFFFFFFFFFFFFFFFF"},
-      {"0x{0:X}", {std::int32_t{26}}, "0x1A"},
-      {"0x{0:X}", {std::int32_t{-26}}, "0x-1A"},
-      {"0x{0:X}", {std::numeric_limits<std::int32_t>::min()}, "0x-80000000"},
-      {"{0:d}", {std::numeric_limits<std::uint32_t>::max()}, "4294967295"},
-      {"{0:d} {1:d}", {std::int32_t{-7}, std::int32_t{7}}, "-7 7"},
-      {"{0} {1} {2:d}", {std::int32_t{-5}, std::int32_t{2}, std::uint32_t{7}}, "-5 2 7"},
-      // What an argument holds is no format.
-      {"{0}", {std::string("{1} {} %d")}, "{1} {} %d"},
-  };
-  for (const Row& row : rows) EXPECT_EQ(Format(row.format, row.arguments), row.text) << row.format;
+template <class Number>
+std::string Hex(Number number) {
+  std::string line = "a ";
+  AppendHex(line, number);
+  return line;
 }
 
-TEST(CountPlaces, CountsBraces) {
-  EXPECT_EQ(CountPlaces(""), 0U);
-  EXPECT_EQ(CountPlaces("ROOT"), 0U);
-  EXPECT_EQ(CountPlaces("{0} 0x{1:X} {2:d}"), 3U);
+TEST(AppendHex, WritesUpperCaseDigitsBehindTheSign) {
+  EXPECT_EQ(Hex(std::uint32_t{0}), "a 0x0");
+  EXPECT_EQ(Hex(std::uint32_t{9}), "a 0x9");
+  EXPECT_EQ(Hex(std::uint32_t{0x10}), "a 0x10");
+  EXPECT_EQ(Hex(std::uint32_t{0x1a2b}), "a 0x1A2B");
+  EXPECT_EQ(Hex(std::numeric_limits<std::uint32_t>::max()), "a 0xFFFFFFFF");
+  EXPECT_EQ(Hex(std::uint64_t{0x123456789}), "a 0x123456789");
+  EXPECT_EQ(Hex(std::numeric_limits<std::uint64_t>::max()), "a 0xFFFFFFFFFFFFFFFF");
+  EXPECT_EQ(Hex(std::int32_t{0}), "a 0x0");
+  EXPECT_EQ(Hex(std::int32_t{26}), "a 0x1A");
+  EXPECT_EQ(Hex(std::int32_t{-26}), "a 0x-1A");
+  EXPECT_EQ(Hex(std::numeric_limits<std::int32_t>::min()), "a 0x-80000000");
 }
 
 // A stream buffer that knows how often it was flushed.

@@ -102,6 +102,10 @@ constexpr WordForm WordForm::Of() {
           *detail::kWordTable<Type>};
 }
 
+/// The kinds of a class.
+template <class Class>
+inline constexpr std::span<const ElementKind> kKindsOf = Class::kinds;
+
 /// Its address stands for a field.
 template <auto kMember>
 inline constexpr char kFieldMark = 0;

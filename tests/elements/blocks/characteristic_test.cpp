@@ -24,13 +24,14 @@ TEST(Characteristic, KnowsItsTypes) {
     ++code;
     for (const std::string& word : {type, type + "_X", "X" + type}) {
       const Made<VoA2LElementCharacteristic> made("K \"\" " + word + " 0 D 0 C 0 0");
-      EXPECT_EQ(made->CHARACTERISTIC_TYPE, code) << word;
+      EXPECT_EQ(made->CHARACTERISTIC_TYPE, static_cast<CharacteristicType>(code)) << word;
       EXPECT_EQ(made.Written(), Block("CHARACTERISTIC K \"\"", "\n  " + type + " 0x0 D 0 C 0 0\n"));
     }
   }
   EXPECT_EQ(Made<VoA2LElementCharacteristic>("K \"\" VALUE_MAP 0 D 0 C 0 0")->CHARACTERISTIC_TYPE,
-            3U);
-  EXPECT_EQ(Made<VoA2LElementCharacteristic>("K \"\" TABLE 0 D 0 C 0 0")->CHARACTERISTIC_TYPE, 0U);
+            CharacteristicType::MAP);
+  EXPECT_EQ(Made<VoA2LElementCharacteristic>("K \"\" TABLE 0 D 0 C 0 0")->CHARACTERISTIC_TYPE,
+            CharacteristicType::UNKNOWN);
 }
 
 TEST(Objects, ReadAllParametersWhateverIsWrong) {
@@ -88,7 +89,7 @@ TEST(AxisDescr, StopsAtTheFirstWrongNumber) {
   };
   ExpectParse(rows);
   const Made<VoA2LElementAxisDescr> axis("FIX_AXIS Q C x 1 2");
-  EXPECT_EQ(axis->ATTRIBUTE, 3U);
+  EXPECT_EQ(axis->ATTRIBUTE, AxisAttribute::FIX_AXIS);
   EXPECT_EQ(axis->valid, 1) << "its own validity is nobody's";
 }
 

@@ -35,10 +35,14 @@ TEST(CompuMethod, TakesFiveParameters) {
   for (const std::string& kind :
        Words("IDENTICAL FORM LINEAR RAT_FUNC TAB_INTP TAB_NOINTP TAB_VERB")) {
     ++code;
-    EXPECT_EQ(Made<VoA2LElementCompuMethod>("C \"\" " + kind)->CONVERSION_TYPE, code) << kind;
-    EXPECT_EQ(Made<VoA2LElementCompuMethod>("C \"\" " + kind + "_X")->CONVERSION_TYPE, code);
+    EXPECT_EQ(Made<VoA2LElementCompuMethod>("C \"\" " + kind)->CONVERSION_TYPE,
+              static_cast<ConversionType>(code))
+        << kind;
+    EXPECT_EQ(Made<VoA2LElementCompuMethod>("C \"\" " + kind + "_X")->CONVERSION_TYPE,
+              static_cast<ConversionType>(code));
   }
-  EXPECT_EQ(Made<VoA2LElementCompuMethod>("C \"\" TAB_VERB_IDENTICAL")->CONVERSION_TYPE, 1U);
+  EXPECT_EQ(Made<VoA2LElementCompuMethod>("C \"\" TAB_VERB_IDENTICAL")->CONVERSION_TYPE,
+            ConversionType::IDENTICAL);
 }
 
 TEST(Formula, TakesAText) {

@@ -37,7 +37,7 @@ TEST(Measurement, IsNotValidWithoutItsNumbers) {
   EXPECT_EQ(good->valid, 1);
   EXPECT_EQ(good->NAME, "M");
   EXPECT_EQ(good->LONG_IDENTIFIER, "d");
-  EXPECT_EQ(good->DATATYPE, 5U);
+  EXPECT_EQ(good->DATATYPE, DataType::SLONG);
   EXPECT_EQ(good->CONVERSION, "C");
   EXPECT_EQ(good->RESOLUTION, 2U);
   EXPECT_EQ(good->ACCURACY, 0.5);

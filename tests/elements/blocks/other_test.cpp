@@ -99,13 +99,13 @@ TEST(Transformer, ForgetsWhatFollowsTheExecutables) {
   ExpectParse(rows);
   Made<VoA2LElementTransformer> transformer(R"(T "1" "2" "3" 500 ON_CHANGE INV)");
   EXPECT_EQ(transformer->TIMEOUT, 0U);
-  EXPECT_EQ(transformer->TRIGGER, 0U);
+  EXPECT_EQ(transformer->TRIGGER, TransformerTrigger::UNKNOWN);
   EXPECT_EQ(transformer->INVERSE_TRANSFORMER, "");
   transformer->TIMEOUT = 500;
-  transformer->TRIGGER = 2;
+  transformer->TRIGGER = TransformerTrigger::ON_USER_REQUEST;
   transformer->INVERSE_TRANSFORMER = "INV";
   EXPECT_EQ(transformer.Written(), Block("TRANSFORMER T", "  1 2 3 500 ON_USER_REQUEST INV\n"));
-  transformer->TRIGGER = 1;
+  transformer->TRIGGER = TransformerTrigger::ON_CHANGE;
   EXPECT_EQ(transformer.Written(), Block("TRANSFORMER T", "  1 2 3 500 ON_CHANGE INV\n"));
 }
 
@@ -122,7 +122,7 @@ TEST(Unit, TakesFourParameters) {
       {"UNIT", "", true, "", Block("UNIT  \"\"", "  \"\" \n")},
   };
   ExpectParse(rows);
-  EXPECT_EQ(Made<VoA2LElementUnit>(R"(m "" "" EXTENDED_SI)")->UNIT_TYPE, 2U);
+  EXPECT_EQ(Made<VoA2LElementUnit>(R"(m "" "" EXTENDED_SI)")->UNIT_TYPE, UnitType::EXTENDED_SI);
 }
 
 TEST(Unit, WritesItsChildrenOneLevelDeeper) {

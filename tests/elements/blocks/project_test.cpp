@@ -79,7 +79,7 @@ TEST(MemoryLayout, TakesATypeAndSevenNumbers) {
 
 TEST(MemoryLayout, StoresItsFields) {
   const Made<VoA2LElementMemoryLayout> layout("PRG_DATA 1 2 3 4 5 6 -7");
-  EXPECT_EQ(layout->PRG_TYPE, 2U);
+  EXPECT_EQ(layout->PRG_TYPE, LayoutProgramType::PRG_DATA);
   EXPECT_EQ(layout->ADDRESS, 1U);
   EXPECT_EQ(layout->SIZE, 2U);
   EXPECT_EQ(layout->OFFSET, (MirrorOffsets{3, 4, 5, 6, -7}));
@@ -129,9 +129,9 @@ TEST(MemorySegment, TakesItsParametersInOrder) {
   };
   ExpectParse(rows);
   const Made<VoA2LElementMemorySegment> segment(R"(S "" DATA REGISTER EXTERN 1 2 3 4 5 6 7)");
-  EXPECT_EQ(segment->PRG_TYPE, 3U);
-  EXPECT_EQ(segment->MEMORY_TYPE, 6U);
-  EXPECT_EQ(segment->ATTRIBUTE, 2U);
+  EXPECT_EQ(segment->PRG_TYPE, SegmentProgramType::DATA);
+  EXPECT_EQ(segment->MEMORY_TYPE, MemoryType::REGISTER);
+  EXPECT_EQ(segment->ATTRIBUTE, MemoryAttribute::EXTERN);
   EXPECT_EQ(segment->valid, 1);
   EXPECT_EQ(Made<VoA2LElementMemorySegment>("S \"\" DATA ROM EXTERN x")->valid, 1)
       << "only objects have a validity to lose";
@@ -139,9 +139,9 @@ TEST(MemorySegment, TakesItsParametersInOrder) {
 
 TEST(MemorySegment, WritesATypeThatReadingNeverGives) {
   Made<VoA2LElementMemorySegment> segment("S \"\" DATA ROM INTERN 0 0 0 0 0 0 0");
-  segment->PRG_TYPE = 5;
+  segment->PRG_TYPE = SegmentProgramType::OFFLINE_DATA;
   EXPECT_EQ(segment.Written(), Segment("OFFLINE_DATA ROM INTERN"));
-  segment->PRG_TYPE = 9;
+  segment->PRG_TYPE = static_cast<SegmentProgramType>(9);
   EXPECT_EQ(segment.Written(), Segment(" ROM INTERN"));
 }
 

@@ -79,38 +79,40 @@ TEST(Choices, AreWrongWithoutAWordWhereOneMustBe) {
 }
 
 TEST(Choices, HaveDefaultsUntilTheyAreRead) {
-  EXPECT_EQ(Made<VoA2LElementByteOrder>()->BYTE_ORDER, 0U);
-  EXPECT_EQ(Made<VoA2LElementCalibrationAccess>()->CALIBRATION_ACCESS, 0U);
-  EXPECT_EQ(Made<VoA2LElementDeposit>()->DEPOSIT, 0U);
-  EXPECT_EQ(Made<VoA2LElementLayout>()->LAYOUT, 1U);
-  EXPECT_EQ(Made<VoA2LElementMonotony>()->MONOTONY, 0U);
-  EXPECT_EQ(Made<VoA2LElementVarNaming>()->VAR_NAMING, 0U);
-  EXPECT_EQ(Made<VoA2LElementAddressType>()->ADDRESS_TYPE, 4U);
+  EXPECT_EQ(Made<VoA2LElementByteOrder>()->BYTE_ORDER, ByteOrder::UNKNOWN);
+  EXPECT_EQ(Made<VoA2LElementCalibrationAccess>()->CALIBRATION_ACCESS, CalibrationAccess::UNKNOWN);
+  EXPECT_EQ(Made<VoA2LElementDeposit>()->DEPOSIT, Deposit::UNKNOWN);
+  EXPECT_EQ(Made<VoA2LElementLayout>()->LAYOUT, Layout::ROW_DIR);
+  EXPECT_EQ(Made<VoA2LElementMonotony>()->MONOTONY, Monotony::UNKNOWN);
+  EXPECT_EQ(Made<VoA2LElementVarNaming>()->VAR_NAMING, VarNaming::UNKNOWN);
+  EXPECT_EQ(Made<VoA2LElementAddressType>()->ADDRESS_TYPE, AddrType::DIRECT);
 }
 
 TEST(Choices, AreStoredAsCodes) {
-  EXPECT_EQ(Made<VoA2LElementByteOrder>("MSB_FIRST")->BYTE_ORDER, 4U);
-  EXPECT_EQ(Made<VoA2LElementCalibrationAccess>("NO_CALIBRATION")->CALIBRATION_ACCESS, 1U);
-  EXPECT_EQ(Made<VoA2LElementCalibrationAccess>("NOT_IN_MCD_SYSTEM")->CALIBRATION_ACCESS, 3U);
-  EXPECT_EQ(Made<VoA2LElementDeposit>("DIFFERENCE")->DEPOSIT, 2U);
-  EXPECT_EQ(Made<VoA2LElementLayout>("COLUMN_DIR")->LAYOUT, 2U);
-  EXPECT_EQ(Made<VoA2LElementLayout>("")->LAYOUT, 0U);
-  EXPECT_EQ(Made<VoA2LElementMonotony>("NOT_MON")->MONOTONY, 7U);
-  EXPECT_EQ(Made<VoA2LElementVarNaming>("NUMERIC")->VAR_NAMING, 1U);
-  EXPECT_EQ(Made<VoA2LElementAddressType>("PLONGLONG")->ADDRESS_TYPE, 2U);
+  EXPECT_EQ(Made<VoA2LElementByteOrder>("MSB_FIRST")->BYTE_ORDER, ByteOrder::MSB_FIRST);
+  EXPECT_EQ(Made<VoA2LElementCalibrationAccess>("NO_CALIBRATION")->CALIBRATION_ACCESS,
+            CalibrationAccess::CALIBRATION);
+  EXPECT_EQ(Made<VoA2LElementCalibrationAccess>("NOT_IN_MCD_SYSTEM")->CALIBRATION_ACCESS,
+            CalibrationAccess::NOT_IN_MCD_SYSTEM);
+  EXPECT_EQ(Made<VoA2LElementDeposit>("DIFFERENCE")->DEPOSIT, Deposit::DIFFERENCE_);
+  EXPECT_EQ(Made<VoA2LElementLayout>("COLUMN_DIR")->LAYOUT, Layout::COLUMN_DIR);
+  EXPECT_EQ(Made<VoA2LElementLayout>("")->LAYOUT, Layout::UNKNOWN);
+  EXPECT_EQ(Made<VoA2LElementMonotony>("NOT_MON")->MONOTONY, Monotony::NOT_MON);
+  EXPECT_EQ(Made<VoA2LElementVarNaming>("NUMERIC")->VAR_NAMING, VarNaming::NUMERIC);
+  EXPECT_EQ(Made<VoA2LElementAddressType>("PLONGLONG")->ADDRESS_TYPE, AddrType::PLONG);
 }
 
 // Words that reading never gives can still be set by code, and are written.
 TEST(Choices, WriteCodesThatReadingNeverGives) {
   Made<VoA2LElementCalibrationAccess> access;
-  access->CALIBRATION_ACCESS = 4;
+  access->CALIBRATION_ACCESS = CalibrationAccess::OFFLINE_CALIBRATION;
   EXPECT_EQ(access.Written(), "CALIBRATION_ACCESS OFFLINE_CALIBRATION\n");
-  access->CALIBRATION_ACCESS = 2;
+  access->CALIBRATION_ACCESS = CalibrationAccess::NO_CALIBRATION;
   EXPECT_EQ(access.Written(), "CALIBRATION_ACCESS NO_CALIBRATION\n");
-  access->CALIBRATION_ACCESS = 5;
+  access->CALIBRATION_ACCESS = static_cast<CalibrationAccess>(5);
   EXPECT_EQ(access.Written(), "CALIBRATION_ACCESS \n");
   Made<VoA2LElementAddressType> type;
-  type->ADDRESS_TYPE = 3;
+  type->ADDRESS_TYPE = AddrType::PLONGLONG;
   EXPECT_EQ(type.Written(), "ADDRESS_TYPE PLONGLONG\n");
 }
 

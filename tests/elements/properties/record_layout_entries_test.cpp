@@ -81,29 +81,29 @@ TEST(LayoutEntries, AreWrongOnlyWithoutTheirNumbers) {
 TEST(LayoutEntries, StoreCodes) {
   const Made<VoA2LElementAxisRescaleX> rescale("2 UWORD 5 INDEX_DECR PLONG");
   EXPECT_EQ(rescale->POSITION, 2U);
-  EXPECT_EQ(rescale->DATA_TYPE, 2U);
+  EXPECT_EQ(rescale->DATA_TYPE, DataType::UWORD);
   EXPECT_EQ(rescale->MAX_NUMBER_OF_RESCALE_PAIRS, 5U);
-  EXPECT_EQ(rescale->INDEX_INCR, 1U);
-  EXPECT_EQ(rescale->ADDRESSING, 2U);
+  EXPECT_EQ(rescale->INDEX_INCR, IndexOrder::INDEX_DECR);
+  EXPECT_EQ(rescale->ADDRESSING, AddrType::PLONG);
   EXPECT_EQ(rescale.Written(1), "  AXIS_RESCALE_X 2 UWORD 5 INDEX_DECR PLONG\n");
   const Made<VoA2LElementFncValues> values("1 SWORD COLUMN_DIR DIRECT");
   EXPECT_EQ(values->POSITION, 1U);
-  EXPECT_EQ(values->DATA_TYPE, 3U);
-  EXPECT_EQ(values->INDEX_MODE, 4U);
-  EXPECT_EQ(values->ADDRESSING, 4U);
+  EXPECT_EQ(values->DATA_TYPE, DataType::SWORD);
+  EXPECT_EQ(values->INDEX_MODE, IndexMode::COLUMN_DIR);
+  EXPECT_EQ(values->ADDRESSING, AddrType::DIRECT);
   const Made<VoA2LElementReserved> reserved("5 LONG");
   EXPECT_EQ(reserved->POSITION, 5U);
-  EXPECT_EQ(reserved->DATA_SIZE, 2U);
+  EXPECT_EQ(reserved->DATA_SIZE, DataSize::LONG);
 }
 
 TEST(LayoutEntries, WriteNothingForACodeWithoutAWord) {
   Made<VoA2LElementAxisPtsX> points("1 UBYTE INDEX_INCR DIRECT");
-  points->DATA_TYPE = 10;
-  points->INDEX_INCR = 2;
-  points->ADDRESSING = 5;
+  points->DATA_TYPE = static_cast<DataType>(10);
+  points->INDEX_INCR = static_cast<IndexOrder>(2);
+  points->ADDRESSING = static_cast<AddrType>(5);
   EXPECT_EQ(points.Written(), "AXIS_PTS_X 1   \n");
   Made<VoA2LElementReserved> reserved("1 BYTE");
-  reserved->DATA_SIZE = 3;
+  reserved->DATA_SIZE = static_cast<DataSize>(3);
   EXPECT_EQ(reserved.Written(), "RESERVED 1 \n");
 }
 
