@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // A word of a field that holds none.
-// Expected: the class declares no words for this field
+// Expected: has no words|declares no words
 #include "a2l2json/elements/elements.h"
 #include "a2l2json/export/forms.h"
 

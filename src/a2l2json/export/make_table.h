@@ -132,24 +132,27 @@ struct ChildNamedInVain {
                 "MakeTable is told of a child without a row that has one or is not accepted");
 };
 
+// Ends the build where the rows are not right for the class.
+template <class Class, const auto& kRows, ElementKind... kWithoutKey>
+consteval void Check() {
+  static_assert(IsSortedWithoutDoubles(kRows), "the keys of a table are not in ascending order");
+  static_assert(HasNoFieldTwice(kRows), "two rows of a table take the same field");
+  constexpr std::array<ElementKind, sizeof...(kWithoutKey)> kWithout = {kWithoutKey...};
+  constexpr Faults kFaults = FindFaults(FirstKind<Class>(), Children<Class>(), kRows, kWithout);
+  static_cast<void>(FieldOfAnotherClass<kFaults.ownerOfField>());
+  static_cast<void>(ChildNotAccepted<kFaults.notAccepted>());
+  static_cast<void>(ChildInTwoRows<kFaults.inTwoRows>());
+  static_cast<void>(ChildWithoutRow<kFaults.withoutRow>());
+  static_cast<void>(ChildNamedInVain<kFaults.hasRow>());
+}
+
 }  // namespace table_checks
 
 /// The table of the objects that elements of `Class` become. `kWithoutKey` are the children that
 /// the class accepts and no key shows.
 template <class Class, const auto& kRows, ElementKind... kWithoutKey>
 consteval ObjectTable MakeTable() {
-  using namespace table_checks;
-  static_assert(IsSortedWithoutDoubles(kRows), "the keys of a table are not in ascending order");
-  static_assert(HasNoFieldTwice(kRows), "two rows of a table take the same field");
-  constexpr std::array<ElementKind, sizeof...(kWithoutKey)> kWithout = {kWithoutKey...};
-  constexpr Faults kFaults =
-      FindFaults(FirstKind<Class>(), table_checks::Children<Class>(), kRows, kWithout);
-  static_cast<void>(FieldOfAnotherClass<kFaults.ownerOfField>());
-  static_cast<void>(ChildNotAccepted<kFaults.notAccepted>());
-  static_cast<void>(ChildInTwoRows<kFaults.inTwoRows>());
-  static_cast<void>(ChildWithoutRow<kFaults.withoutRow>());
-  static_cast<void>(ChildNamedInVain<kFaults.hasRow>());
-
+  table_checks::Check<Class, kRows, kWithoutKey...>();
   ObjectTable table{{}, kRows, kKeysOf<kRows>, {}};
   if constexpr (!std::is_same_v<Class, VoA2LElement>) table.kinds = Class::kinds;
   for (std::size_t i = 0; i < table.rows.size(); ++i) {
