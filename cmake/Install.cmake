@@ -71,12 +71,13 @@ install(
   DESTINATION "${CMAKE_INSTALL_DATADIR}/a2l2json"
   COMPONENT shared)
 
-# The pages for users, with plain text in the place of links to what is not installed.
+# The pages for users. Links to what is not installed become plain text, and the names of test cases
+# go.
 set(not_installed "(\\.\\./)?(tests/|CONTRIBUTING|docs/(adding|design|performance))")
 foreach(page README.md docs/json.md docs/reading-a2l.md docs/recipes.md)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${page}")
   file(READ "${PROJECT_SOURCE_DIR}/${page}" text)
-  string(REGEX REPLACE "\n\\[[^]\n]+\\]: ${not_installed}[^\n]*" "" text "${text}")
+  string(REGEX REPLACE "[ \n]+<!-- cases: [^>]* -->" "" text "${text}")
   string(REGEX REPLACE "\\[([^]]+)\\]\\(${not_installed}[^)]*\\)" "\\1" text "${text}")
   file(WRITE "${generated}/pages/${page}" "${text}")
 endforeach()
