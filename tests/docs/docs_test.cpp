@@ -194,6 +194,20 @@ TEST(Docs, CasesThatAreNamedExist) {
   }
 }
 
+// It begins with an A2L file, the command, and a part of the document.
+TEST(Readme, ExampleIsThatOfItsFiles) {
+  const fs::path top = kDocs.parent_path();
+  const std::vector<Block> blocks = Page(top / "README.md").blocks;
+  ASSERT_GE(blocks.size(), 3U);
+  std::string a2l;
+  for (const std::string& line : blocks[0].lines) a2l += line + "\n";
+  EXPECT_EQ(a2l, ReadFile(top / "examples" / "small.a2l"));
+  std::string json;
+  for (const std::string& line : blocks[2].lines) json += line + " ";
+  json.resize(json.rfind("..."));
+  EXPECT_TRUE(IsExcerpt(json, ReadFile(top / "examples" / "small.json"))) << json;
+}
+
 TEST(ReadingPage, EveryStatementNamesACase) {
   std::size_t count = 0;
   for (const std::string& statement : Statements(Page(kDocs / "reading-a2l.md"))) {
