@@ -10,11 +10,11 @@
 
 namespace {
 
-// What the process returns; scripts tell the situations apart by it.
+// What the process returns. Scripts rely on these values.
 enum ExitCode { kSuccess = 0, kUsage = -1, kNotRead = -2, kNotWritten = -3 };
 
-// Where a conversion fails, the process ends without destroying the tree: the system takes the
-// memory back faster than we could, and every text was flushed when it was printed.
+// If a conversion fails, the process ends without destroying the tree: the system takes the memory
+// back faster than we could, and every text was flushed when it was printed.
 int Convert(const std::string& a2lPath, const std::string& jsonPath) {
   a2l::A2LReader reader;
   a2l::JsonWriter writer;

@@ -16,7 +16,7 @@
 namespace a2l {
 namespace {
 
-// Empty, and so the name of no file, where `text` is no Unicode.
+// Empty if `text` is not valid Unicode; no file has an empty name.
 std::string Utf8(const wchar_t* text) {
   const auto convert = [text](char* to, int size) {
     return WideCharToMultiByte(CP_UTF8, WC_ERR_INVALID_CHARS, text, -1, to, size, nullptr, nullptr);
@@ -28,7 +28,8 @@ std::string Utf8(const wchar_t* text) {
   return utf8;
 }
 
-// The arguments that main gets are in a code page without most letters, with wildcards expanded.
+// The arguments of main are in a code page that lacks most characters, and wildcards in them are
+// expanded.
 void TakeWideArguments(int& argc, char**& argv) {
   static std::vector<std::string> texts;
   static std::vector<char*> pointers;
@@ -43,7 +44,7 @@ void TakeWideArguments(int& argc, char**& argv) {
   argv = pointers.data();
 }
 
-UINT consoleCodePage = 0;  // as it was found
+UINT consoleCodePage = 0;  // as it was before
 
 void RestoreConsole() {
   if (consoleCodePage != 0) SetConsoleOutputCP(consoleCodePage);

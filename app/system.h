@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
 //
-// Where a process begins and ends differently from system to system.
+// The beginning and the end of a process, which differ from system to system.
 #pragma once
 
 namespace a2l {
 
-/// Called first in main. From here on the arguments are UTF-8 where the system has wide
-/// characters, and the same as before elsewhere; standard output passes every byte on as it is,
-/// and a console takes it as UTF-8. A pipe at standard output that nobody reads any more does not
-/// end the process.
+/// To be called first in main. Afterwards, on systems with wide characters, the arguments are
+/// UTF-8; on others they stay as they are. Standard output passes every byte on unchanged, and a
+/// console shows the bytes as UTF-8. If standard output is a pipe that nobody reads any more, the
+/// process goes on.
 void BeginProcess(int& argc, char**& argv);
 
-/// Ends the process without tearing anything down. Only texts that were flushed come out.
+/// Ends the process without destroying anything. Output that was not flushed is lost.
 [[noreturn]] void EndAtOnce(int code);
 
 }  // namespace a2l

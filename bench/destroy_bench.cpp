@@ -17,7 +17,7 @@ void Destroy(benchmark::State& state) {
   }
   ReportInput(state, input);
 }
-// Reading, which is not timed, takes a hundred times as long: hence the fixed numbers of runs.
+// The numbers of runs are fixed because reading, which is not timed, takes a hundred times as long.
 BENCHMARK(Destroy)->Arg(1)->Iterations(100)->Unit(benchmark::kMillisecond);
 BENCHMARK(Destroy)->Arg(8)->Iterations(20)->Unit(benchmark::kMillisecond);
 BENCHMARK(Destroy)->Arg(64)->Iterations(3)->Unit(benchmark::kMillisecond);

@@ -7,9 +7,8 @@
 
 namespace a2l::bench {
 
-/// What is wrong with the document of `root` in the file at `path`; empty when nothing is: its
-/// bytes are those of the document, and a reader of JSON that shares no code with the export
-/// accepts them.
+/// Says what is wrong with the document of `root` in the file at `path`. Empty if its bytes are
+/// those of the document, and a JSON reader that shares no code with the export accepts them.
 std::string Complaint(const std::string& path, const VoA2LElement& root);
 
 }  // namespace a2l::bench

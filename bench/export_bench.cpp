@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Export: tree to JSON text that goes nowhere, and the same by way of json11 values.
+// Export: from a tree to JSON text that is thrown away, directly and by way of json11 values.
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -28,8 +28,8 @@ std::size_t ExportNowhere(const VoA2LElement& root) {
   return bytes;
 }
 
-// True when both ways give the same document. Where json11 would take gigabytes, a reader of JSON
-// has to accept the text.
+// True if both ways give the same document. If json11 would take gigabytes, a JSON reader must
+// accept the text instead.
 bool IsRight(benchmark::State& state, const VoA2LElement& root) {
   constexpr std::int64_t kMostForJson11 = 8;
   const std::string json = ToJson(root);

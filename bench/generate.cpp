@@ -95,9 +95,9 @@ block "IF_DATA" taggedunion if_data {
 };
 )";
 
-// A sequence of numbers that is the same everywhere, unlike the distributions of the standard
-// library. Each object has a sequence of its own, from the seed, its family and its index: what
-// one object says about another, such as its name, can so be found without keeping the other.
+// A sequence of numbers that is the same on every system, unlike the distributions of the standard
+// library. Each object has its own sequence, made from the seed, its family and its index. So what
+// one object says about another, such as its name, can be worked out without keeping the other.
 class Random {
  public:
   Random(std::uint64_t seed, std::uint64_t family, std::uint64_t index)
@@ -152,7 +152,7 @@ struct Conversion {
   [[nodiscard]] double Physical(double raw) const { return raw * factor + offset; }
 };
 
-// How many objects of each family a text holds, all following from the number of measurements.
+// How many objects of each family a text holds. All numbers follow from that of the measurements.
 struct Plan {
   std::size_t measurements;
   std::size_t characteristics;
@@ -263,7 +263,7 @@ class Generator {
   [[nodiscard]] std::string FunctionName(std::size_t i) const { return Name(kFunction, i, "_FC"); }
   [[nodiscard]] std::string GroupName(std::size_t i) const { return Name(kGroup, i, "_GR"); }
 
-  // Another half of the sequence than the name is made of.
+  // The name is made of the other half of the sequence.
   [[nodiscard]] Random BodyOf(Family family, std::size_t index) const {
     return {~options_.seed, family, index};
   }
@@ -324,7 +324,7 @@ class Generator {
       phrase += ' ';
       phrase += random.Of(kWords);
     }
-    // The seldom things that cost a converter its short cuts.
+    // Rare things for which a converter cannot take its short cuts.
     if (random.Percent(1)) phrase += R"( (""nominal""))";
     if (random.Percent(1)) phrase += R"( \"learned\")";
     if (random.Percent(1)) phrase += " // see /* above */";
@@ -336,7 +336,7 @@ class Generator {
     return phrase;
   }
 
-  // Tools write most limits with a point, and whole numbers where nothing is converted.
+  // Tools write most limits with a point, but as whole numbers if there is no conversion.
   static std::string Number(double value) {
     const bool whole = std::floor(value) == value && std::abs(value) < 1e15;
     return whole ? fmt::format("{:.1f}", value) : fmt::format("{}", value);
@@ -386,7 +386,7 @@ class Generator {
     End(keyword);
   }
 
-  // The objects of one family that belong to a function: an equal share for each.
+  // The objects of one family that belong to a function. All functions have equal shares.
   [[nodiscard]] std::pair<std::size_t, std::size_t> Share(std::size_t function,
                                                           std::size_t count) const {
     return {count * function / plan_.functions, count * (function + 1) / plan_.functions};
@@ -581,7 +581,7 @@ class Generator {
     End("COMPU_METHOD");
   }
 
-  // The table of a conversion method that has one.
+  // The table of a conversion method, if it has one.
   void ConversionTable(std::size_t index) {
     Random random = BodyOf(kConversion, index);
     const Conversion conversion = ConversionAt(index);
@@ -673,7 +673,7 @@ class Generator {
   Contents contents_;
 };
 
-// Counts bytes and keeps none.
+// Counts bytes and keeps none of them.
 class CountingBuffer : public std::streambuf {
  public:
   [[nodiscard]] std::size_t Count() const { return count_; }
@@ -695,8 +695,8 @@ std::size_t SizeWith(std::size_t measurements, const GenerateOptions& options) {
   return buffer.Count();
 }
 
-// The number of measurements that gives the wanted size, on the line through two samples of about
-// a twentieth and a tenth of it.
+// The number of measurements for the wanted size, on the line through two samples of about a
+// twentieth and a tenth of it.
 std::size_t MeasurementsFor(const GenerateOptions& options) {
   constexpr std::size_t kRoughBytes = 900;  // of a measurement and what comes with it
   const std::size_t few = std::max<std::size_t>(1, options.size / kRoughBytes / 20);

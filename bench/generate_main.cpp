@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Writes A2L text for measurements to a file, and tells on standard output what it holds.
+// Writes A2L text for benchmarks to a file, and says on standard output what it holds.
 #include <algorithm>
 #include <charconv>
 #include <cstdint>

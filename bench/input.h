@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What all benchmarks share: texts and trees that are checked before anything is timed.
+// All benchmarks use these texts and trees, which are checked before anything is timed.
 #pragma once
 
 #include <cstdint>
@@ -22,7 +22,7 @@ struct Input {
   Contents contents;
 };
 
-/// The generated text of so many million bytes; made at the first call.
+/// The generated text of that many million bytes. The first call makes it.
 const Input& InputOf(std::int64_t megabytes);
 
 /// A stream over a text that is not copied.
@@ -41,12 +41,12 @@ class ViewStream : public std::istream {
   Buffer buffer_;
 };
 
-/// The tree of a text. Ends the benchmark with an error, and gives null, when the text cannot be
-/// read, gives a message, or does not give every object that the generator says it holds.
+/// The tree of a text. If the text cannot be read, gives a message, or lacks an object that the
+/// generator says it holds, this ends the benchmark with an error and gives null.
 Tree ReadChecked(const Input& input, benchmark::State& state);
 
-/// A file that is removed in the end, in a folder that lies in memory where the system has one:
-/// no figure should depend on a disk.
+/// A file that is removed in the end. It lies in a folder in memory, if the system has one: no
+/// figure should depend on a disk.
 class MemoryFile {
  public:
   explicit MemoryFile(std::string_view name);
@@ -55,14 +55,15 @@ class MemoryFile {
   MemoryFile& operator=(const MemoryFile&) = delete;
 
   [[nodiscard]] const std::string& Path() const { return path_; }
-  /// So that every write finds the same: no file. Emptying one takes time in proportion to it.
+  /// Removes the file, so that every write begins with the same: no file. Emptying a file takes
+  /// time in proportion to its size.
   void Remove() const;
 
  private:
   std::string path_;
 };
 
-/// To be called behind the timed loop: bytes per second of input, and time per object.
+/// Adds bytes of input per second, and time per object. To be called after the timed loop.
 void ReportInput(benchmark::State& state, const Input& input);
 
 }  // namespace a2l::bench

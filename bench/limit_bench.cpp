@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The physical limit beside the whole conversion.
+// The physical limit, to compare the whole conversion with.
 #include <filesystem>
 #include <fstream>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Runs the benchmarks; or, for a comparison of whole processes, the plain copy alone, or a check of
+// Runs the benchmarks. To compare whole processes, it can also run the plain copy alone, or check
 // what the program has written.
 #include <charconv>
 #include <cstddef>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Reading: lines alone, and text to tree.
+// Reading: only lines, and from text to tree.
 #include <algorithm>
 #include <cstddef>
 #include <string_view>
@@ -33,7 +33,7 @@ void Lines(benchmark::State& state) {
 }
 BENCHMARK(Lines)->Arg(1)->Arg(8)->Arg(64)->Unit(benchmark::kMillisecond);
 
-// The tree is released outside of the timed part; Destroy has that.
+// The tree is released outside of the timed part. The benchmark Destroy times that.
 void Read(benchmark::State& state) {
   const Input& input = InputOf(state.range(0));
   if (ReadChecked(input, state).get() == nullptr) return;

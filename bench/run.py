@@ -4,9 +4,9 @@
 
     bench/run.py --bench PROGRAM --program PROGRAM --generate PROGRAM [--rounds N] [--sizes 1,8]
 
-Every round measures everything once, one after the other, so that whatever else the machine does
-meets all of it alike; the table has the medians of the rounds. Nothing is built here, and no
-figure makes it fail: times depend on the machine.
+Every round measures everything once, one after the other, so that other work of the machine affects
+everything alike. The table shows the medians of the rounds. Nothing is built here, and no figure
+makes the run fail, because times depend on the machine.
 """
 
 import argparse
@@ -26,7 +26,7 @@ SMALL_RUNS = 21  # conversions of the smallest file per round
 
 
 def run(command, output=os.devnull):
-    """Runs a program to its end; gives processor time and wall clock in seconds, and peak bytes."""
+    """Runs a program. Gives processor time and wall clock in seconds, and peak memory in bytes."""
     flags = os.O_WRONLY | os.O_CREAT | os.O_TRUNC
     begin = time.perf_counter()
     actions = [(os.POSIX_SPAWN_OPEN, 1, output, flags, 0o600)]
@@ -44,7 +44,7 @@ def run(command, output=os.devnull):
 
 
 class Samples:
-    """All that was measured, by name and size; gives medians."""
+    """All measured values, by name and size, and their medians."""
 
     def __init__(self):
         self.values = {}
@@ -58,7 +58,7 @@ class Samples:
 
 
 def make_files(generate, folder, sizes):
-    """The input files, and how many objects and bytes they have."""
+    """The input files, and their numbers of objects and bytes."""
     inputs = {}
     for size in sizes + ["1k"]:
         path = os.path.join(folder, f"{size}.a2l")
@@ -71,7 +71,7 @@ def make_files(generate, folder, sizes):
 
 
 def measure_stages(bench, folder, sizes, samples):
-    """Reading, export and release in memory, each checked by the program before it is timed."""
+    """Reading, export and release in memory. The program checks each before it times it."""
     names = "|".join(STAGES)
     wanted = "|".join(str(size) for size in sizes)
     output = os.path.join(folder, "stages.json")
@@ -101,7 +101,7 @@ def measure_stages(bench, folder, sizes, samples):
 
 
 def measure_processes(bench, program, folder, inputs, samples):
-    """The program, and right after it the physical limit for the same bytes."""
+    """The program, and directly after it the physical limit for the same bytes."""
     output = os.path.join(folder, "out.json")
     for size, data in inputs.items():
         for _ in range(SMALL_RUNS if size == "1k" else 1):
@@ -149,7 +149,7 @@ def report(sizes, inputs, samples):
     def milliseconds(seconds, _):
         return seconds * 1e3
 
-    # The system counts a new process from the size of the one that started it.
+    # For a new process, the system counts the peak from the size of the process that starts it.
     floor = resource.getrusage(resource.RUSAGE_SELF).ru_maxrss * 1024
 
     def peak(value, data):
@@ -238,7 +238,7 @@ def main():
             measure_processes(bench, program, folder, inputs, samples)
             measure_stages(bench, folder, sizes, samples)
         print(f"{machine()} at the end; medians of {arguments.rounds} rounds")
-        print("1 MB is 1,000,000 bytes of input; the load above is what else ran, and these runs\n")
+        print("1 MB is 1,000,000 bytes of input; the load above is that of other programs and these runs\n")
         report(sizes, inputs, samples)
     finally:
         shutil.rmtree(folder)

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The tokenizer alone, over the parameter text of a file: its lines without those of /begin and
-// /end.
+// Only the tokenizer, on the parameter text of a file: all lines but those with /begin and /end.
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -35,7 +34,7 @@ std::size_t TakeTokens(std::string_view line) {
 
 std::size_t Count(std::string_view line) { return CountTokens(line); }
 
-// Line by line as the reader does it while it collects parameters.
+// Line by line, as the reader does while it collects parameters.
 std::size_t CountGrowing(std::string_view line) {
   TokenCounter counter;
   counter.Continue(line);

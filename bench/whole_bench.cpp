@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// File to file, as the program does it.
+// From file to file, as the program does it.
 #include <filesystem>
 #include <fstream>
 #include <string>

@@ -15,7 +15,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-// Each with its line end.
+// The lines, each with its line end.
 Lines Split(std::string_view text) {
   Lines lines;
   while (!text.empty()) {
@@ -95,7 +95,7 @@ class Mutation {
     return test::GenerateLines(random_.Pick(test::Grammar()).text, random_.Next());
   }
 
-  // One line, which opens, closes or says something.
+  // One line, which begins or ends a block, or is a property.
   std::string AnyLine() {
     const test::Keyword& keyword = random_.Pick(test::Grammar());
     constexpr const char* kMarkers[] = {"/begin ", "/end ", "", "/begin", "/end"};
@@ -153,7 +153,7 @@ class Mutation {
     }
     const std::size_t begin = random_.Pick(words);
     const std::size_t size = std::min(line.find_first_of(" \r\n", begin), line.size()) - begin;
-    // In place of the word, or before it, with or without a blank.
+    // Instead of the word, or before it, with or without a blank.
     const bool replaces = random_.OneIn(2);
     line.replace(begin, replaces ? size : 0,
                  AnyToken() + (replaces || random_.OneIn(3) ? "" : " "));

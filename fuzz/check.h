@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What the fuzz targets check with. A failed check says what it saw and ends the process, in every
-// kind of build: that is what a fuzzer, and a test that replays its findings, takes as a finding.
+// The checks of the fuzz targets. In every kind of build, a failed check says what it saw and ends
+// the process. A fuzzer, and a test that replays its findings, takes that as a finding.
 #pragma once
 
 #include <algorithm>
@@ -19,7 +19,7 @@ inline std::string_view Input(const std::uint8_t* data, std::size_t size, std::s
   return {reinterpret_cast<const char*>(data), std::min(size, mostBytes)};
 }
 
-/// `text` in one line, other than printable bytes as \xNN.
+/// `text` in one line, with \xNN for bytes that are not printable.
 inline std::string Shown(std::string_view text) {
   std::string shown;
   for (const char c : text) {
@@ -43,7 +43,7 @@ inline void Check(bool ok, const char* what) {
   if (!ok) Fail(what);
 }
 
-/// Two texts that must be the same; shows the place where they part.
+/// Checks that two texts are the same. If not, shows the first place at which they differ.
 inline void CheckSame(std::string_view actual, std::string_view expected, const char* what) {
   if (actual == expected) return;
   const auto parting = std::ranges::mismatch(actual, expected);

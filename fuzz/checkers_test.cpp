@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What the fuzz targets check with is itself checked here, by values stated by hand.
+// Checks the checks of the fuzz targets, with values worked out by hand.
 #include <cstddef>
 #include <cstdint>
 #include <deque>
@@ -37,7 +37,7 @@ TEST(NaiveTokenizer, TellsTheRules) {
   EXPECT_EQ(naive::WithoutComments("/*", lines), std::nullopt);
 }
 
-// One reason after the other why a text may change; everything but the reason round-trips.
+// Every reason why a text may change, one after the other. All but the reason makes the round trip.
 TEST(RoundTrips, IsNotPromisedForWhatChanges) {
   const auto module = [](const std::string& content) {
     Reading reading = Read("/begin PROJECT p \"\"\n/begin MODULE m \"\"\n" + content +
@@ -100,7 +100,7 @@ TEST(RoundTrips, IsNotPromisedForWhatChanges) {
   EXPECT_FALSE(RoundTrips(*Read("ASAP2_VERSION 1 2\nASAP2_VERSION 1 3").root));
 }
 
-// What stands against the round trip goes, with all that is in it; everything else stays.
+// Elements that prevent the round trip are removed, with everything in them. All others stay.
 TEST(RoundTrips, KeepsTheRest) {
   Reading reading = Read(R"(ASAP2_VERSION 1 2
 ASAP2_VERSION 1 3
@@ -158,7 +158,7 @@ std::size_t CountElements(const VoA2LElement& root) {
   return static_cast<std::size_t>(std::ranges::distance(all));
 }
 
-// Most of a file is held against the promise, even where the file holds something of everything.
+// Most of a file takes part in the check, even if the file holds something of everything.
 TEST(RoundTrips, KeepMostOfGeneratedFiles) {
   std::size_t all = 0;
   std::size_t kept = 0;

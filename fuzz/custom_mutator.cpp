@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Has libFuzzer use the changes of a2l_mutator beside its own. Part of the libFuzzer programs only.
+// Lets libFuzzer use the changes of a2l_mutator in addition to its own. Only libFuzzer programs
+// hold this file.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -9,7 +10,7 @@
 
 #include "fuzz/a2l_mutator.h"
 
-// Of libFuzzer: one of its own changes.
+// A function of libFuzzer: makes one of its own changes.
 extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t maxSize);
 
 extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size,

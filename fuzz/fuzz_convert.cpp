@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Any bytes through the whole conversion: the reader ends, its diagnostics agree with its result
-// and with each other, and whatever tree it leaves behind becomes a well-formed document.
+// Converts any bytes. The reader must come to an end, its diagnostics must agree with its result
+// and with each other, and its tree, whatever it holds, must give a well-formed document.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The JSON text against json11, byte for byte: of the tree that the input is read into, and of
-// single values made of its raw bytes.
+// Compares the JSON text with that of json11, byte by byte: for the tree of the input, and for
+// single values made of its bytes.
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -36,10 +36,10 @@ void CheckString(std::string_view bytes) {
             "a string");
 }
 
-// Texts are escaped in pieces and pass through a buffer: the same bytes again and again, at any
-// place of a text that is longer than both (which are small in the libFuzzer programs).
+// Texts are escaped in pieces and go through a buffer. This repeats the same bytes at every place
+// of a text that is longer than both pieces and buffer (which are small in the libFuzzer programs).
 void CheckLongString(std::string_view bytes) {
-  // Which bytes meet at an edge is a matter of a few; long inputs are for the document.
+  // Only a few bytes meet at an edge, so short inputs will do. Long ones are for the document.
   if (bytes.size() < 2 || bytes.size() > 64) return;
   const auto first = static_cast<unsigned char>(bytes[0]);
   std::string text(first, 'x');
@@ -47,7 +47,7 @@ void CheckLongString(std::string_view bytes) {
   CheckString(text);
 }
 
-// The bytes as numbers, one behind the other, each made of the bytes in memory.
+// The bytes as numbers, one after the other, each with these bytes in memory.
 template <class Number, class Write>
 void CheckNumbers(std::string_view bytes, Write write) {
   Json::array numbers;
@@ -65,7 +65,7 @@ void CheckNumbers(std::string_view bytes, Write write) {
   CheckSame(text, Json(numbers).dump(), "an array of numbers");
 }
 
-// Each line a key, and its value.
+// Each line is a key, and its value.
 void CheckMembers(std::string_view bytes) {
   std::map<std::string, Json> members;
   while (!bytes.empty()) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// A tree, written as A2L text, and read again: the same text comes of it, and the same document,
-// wherever that is promised. From every other tree, what stands against it is taken out first.
+// Writes a tree as A2L text and reads that again. The second tree must give the same text and the
+// same document. Elements for which this is not promised are removed first.
 #include <cstddef>
 #include <cstdint>
 #include <string>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Lines, comments and tokens against the naive telling of the same rules.
+// Compares lines, comments and tokens with those of the naive implementation.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -51,9 +51,9 @@ void CheckCount(std::string_view text) {
   CheckSame(CountTokens(text), count, "CountTokens");
 }
 
-// As the reader does it: each line is put behind those before, with a blank between.
+// As the reader does it: each line is appended to those before it, after a blank.
 void CheckCounter(const std::deque<std::string>& lines) {
-  // The naive count begins anew with every line.
+  // The naive implementation counts from the beginning for every line.
   constexpr std::size_t kMostLines = 40;
   TokenCounter counter;
   std::string text;
@@ -83,7 +83,7 @@ void CheckComments(const std::deque<std::string>& lines) {
   std::deque<std::string> following = lines;
   std::size_t next = 0;
   CommentRemover remover;
-  // The line before the next one need not stay readable: it lies in memory of its own.
+  // A line need not stay readable when the next one comes, so each lies in memory of its own.
   std::optional<std::vector<char>> current;
   const CommentRemover::NextLine nextLine = [&](std::string_view& line) {
     if (next == lines.size()) return false;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// A second telling of how a file falls into lines, comments and tokens, to hold the reader's own
-// against: as plain as can be, on owned strings, byte by byte, taking quadratic time where that is
-// clearer. Shares no code with the reader.
+// A second implementation of lines, comments and tokens, to compare the reader with. It is as plain
+// as possible: it owns its strings, goes byte by byte, and takes quadratic time if that is clearer.
+// It shares no code with the reader.
 #pragma once
 
 #include <cstddef>
@@ -21,7 +21,7 @@ inline std::string Trim(std::string text) {
   return text;
 }
 
-/// Position of the quote that closes the quoted text whose opening quote stands at `open`.
+/// The position of the quote that closes the quoted text that begins at `open`.
 inline std::optional<std::size_t> ClosingQuote(const std::string& text, std::size_t open) {
   std::size_t i = open + 1;
   while (i < text.size()) {
@@ -95,8 +95,8 @@ inline std::string Unquote(const std::string& token) {
   return text;
 }
 
-/// The physical lines of a file: each ends with a line feed; the last one may do without, if there
-/// is anything in it.
+/// The physical lines of a file. Each ends with a line feed, except that the last one need not if
+/// it is not empty.
 inline std::deque<std::string> Lines(const std::string& bytes) {
   std::deque<std::string> lines;
   std::string line;
@@ -112,8 +112,8 @@ inline std::deque<std::string> Lines(const std::string& bytes) {
   return lines;
 }
 
-/// A line without its comments; nothing when the file ends inside a comment. Lines that a comment
-/// goes on in are taken off `following`.
+/// A line without its comments, or nothing if the file ends inside a comment. If a comment goes on
+/// in further lines, these are removed from `following`.
 inline std::optional<std::string> WithoutComments(std::string line,
                                                   std::deque<std::string>& following) {
   std::size_t i = 0;

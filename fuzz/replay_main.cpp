@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The main of the fuzz targets in ordinary builds: runs the target once on every file that it is
-// given, and on every file below the folders that it is given. A failed check ends it; so does a
-// path that cannot be read, and having had nothing to run.
+// The main function of the fuzz targets in ordinary builds. Runs the target once on every file that
+// is named, and on every file below the folders that are named. It fails if a check fails, a path
+// cannot be read, or there is no file.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -35,10 +35,10 @@ void Replay(const fs::path& file) {
   std::ifstream in(file, std::ios::binary);
   const std::string bytes{std::istreambuf_iterator<char>(in), {}};
   if (!in.is_open() || in.bad()) throw std::runtime_error("cannot read " + file.string());
-  // Told before the run, so that the last line of a run that fails names its input.
+  // Printed before the run, so that the last line names the input if the run fails.
   std::printf("%s\n", file.string().c_str());
   std::fflush(stdout);
-  // An array of the exact size, so that a sanitizer sees a read behind its end.
+  // An array of the exact size, so that a sanitizer notices a read beyond its end.
   const std::vector<std::uint8_t> data(bytes.begin(), bytes.end());
   LLVMFuzzerTestOneInput(data.data(), data.size());
 }

@@ -56,7 +56,7 @@ bool SurvivesAsRawText(std::string_view text) {
   return true;
 }
 
-// What is written as 0x-1A is read as 0.
+// A number that is written as 0x-1A is read as 0.
 template <class Number>
 bool SurvivesAsNumber(const Parameter& parameter, Number number) {
   return !parameter.isHex || number >= 0;
@@ -124,7 +124,7 @@ bool RowsSurvive(const Declaration& declaration, const VoA2LElement& element) {
 }
 
 bool ElementSurvives(const VoA2LElement& element) {
-  if (element.kind == KIND_UNKNOWN) return true;  // leaves no trace
+  if (element.kind == KIND_UNKNOWN) return true;  // is not written
   if (const auto* data = As<VoA2LElementIfData>(element)) {
     const std::string_view firstLine = data->NAME.substr(0, data->NAME.find('\n'));
     if (HasMarker(data->NAME) || (!firstLine.empty() && IsTrimmed(firstLine.back()))) return false;
