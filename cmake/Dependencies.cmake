@@ -1,30 +1,30 @@
 # SPDX-License-Identifier: MIT
 #
-# Everything this build takes from outside stands in this one file:
+# This file has everything that the build takes from outside:
 #
-#   json11::json11        the document as a json11       where it is installed; with
-#                         value, tests                   A2L2JSON_JSON11 and for tests,
-#                                                        benchmarks and fuzz targets always
+#   json11::json11        the document as a json11       if it is installed; always with
+#                         value, tests                   A2L2JSON_JSON11, and for tests,
+#                                                        benchmarks and fuzz targets
 #   GTest::gtest_main     unit tests                     with A2L2JSON_BUILD_TESTS
 #   benchmark::benchmark  benchmarks                     with A2L2JSON_BUILD_BENCH
 #   {fmt}                 text of the generator there    with A2L2JSON_BUILD_BENCH
 #
-# The program and the library by themselves need nothing but the C++ standard library.
+# The program and the library need only the C++ standard library.
 #
 # `make deps` installs all of them once; configuring needs no network after that.
 
 include_guard(GLOBAL)
 include("${CMAKE_CURRENT_LIST_DIR}/InstalledJson11.cmake")
 
-# What is installed was compiled for the system that builds. For another one, the sources of
-# GoogleTest and json11 will do, which Debian has as well.
+# Installed libraries are compiled for the system that builds. For another system, the sources of
+# GoogleTest and json11 will do; Debian has these as well.
 option(A2L2JSON_LIBRARIES_FROM_SOURCE
        "Compile GoogleTest and json11 from sources, as cross compiling asks for" OFF)
 
 # ---------------------------------------------------------------------------------------------
 # GoogleTest, Google Benchmark and {fmt}
 
-# GTest::gtest and GTest::gtest_main from the sources that the system that builds has.
+# GTest::gtest and GTest::gtest_main from the sources on the system that builds.
 function(a2l2json_take_googletest)
   find_path(A2L2JSON_GTEST_SOURCES src/gtest-all.cc PATHS /usr/src/googletest/googletest
             NO_CMAKE_FIND_ROOT_PATH)
@@ -78,11 +78,11 @@ endif()
 #
 # Looked for in this order:
 #   1. an installed CMake package      3. .deps/json11, filled by an earlier run of step 4 or 5
-#   2. an installed pkg-config module  4. cmake/fetch_json11.sh, where apt-get exists
-#                                      5. upstream's repository, where git can reach it
+#   2. an installed pkg-config module  4. cmake/fetch_json11.sh, if apt-get exists
+#                                      5. upstream's repository, if git can reach it
 #
-# Sources that come by way of 3, 4 or 5 are compiled only if their SHA-256 is listed here.
-# cmake/fetch_json11.sh reads these two lists as well, so keep the plain set(...) form.
+# Sources from 3, 4 or 5 are compiled only if their SHA-256 is listed here. cmake/fetch_json11.sh
+# reads these two lists as well, so keep the plain set(...) form.
 
 set(A2L2JSON_JSON11_CPP_SHA256
     c96b3a0d7c1beec6062d232c6779a8cc2ef4e425aa82beddc69d34582a6ce940 # as carried by nextpnr 0.4
@@ -101,7 +101,7 @@ mark_as_advanced(A2L2JSON_JSON11_EXTRA_SHA256 A2L2JSON_FETCH_JSON11)
 set(A2L2JSON_JSON11_HINT
     "run `make deps`, or install json11 (header, library and its pkg-config file)")
 
-# Stops unless the file's checksum is one of the given ones.
+# Stops unless the checksum of the file is one of those given.
 function(a2l2json_check_sha256 file)
   file(SHA256 "${file}" actual)
   set(accepted ${ARGN} ${A2L2JSON_JSON11_EXTRA_SHA256})
@@ -148,7 +148,7 @@ function(a2l2json_clone_json11 folder)
     message(FATAL_ERROR "json11 was not found; ${A2L2JSON_JSON11_HINT}.")
   endif()
   include(FetchContent)
-  # The folder named by SOURCE_SUBDIR does not exist on purpose: only the files are wanted.
+  # The folder in SOURCE_SUBDIR does not exist, on purpose: only the files are wanted.
   FetchContent_Declare(
     json11_sources
     GIT_REPOSITORY "${repository}"
@@ -159,7 +159,7 @@ function(a2l2json_clone_json11 folder)
   FetchContent_MakeAvailable(json11_sources)
 endfunction()
 
-# Leaves json11::json11 behind, or stops with the hint.
+# Defines json11::json11, or stops with the hint.
 function(a2l2json_take_json11)
   set(folder "${CMAKE_CURRENT_FUNCTION_LIST_DIR}/../.deps/json11")
   cmake_path(NORMAL_PATH folder)

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 #
-# How this project's own code is compiled. Three INTERFACE targets:
+# How the code of this project is compiled. There are three INTERFACE targets:
 #
 #   a2l2json_flags       language level, warnings and instrumentation; every own target links it
 #   a2l2json_sanitizers  the instrumentation alone, for code that is not ours
@@ -33,7 +33,7 @@ add_library(a2l2json_fuzzer INTERFACE)
 if(A2L2JSON_FUZZ)
   target_compile_options(a2l2json_sanitizers INTERFACE -fsanitize=fuzzer-no-link)
   target_link_options(a2l2json_fuzzer INTERFACE -fsanitize=fuzzer)
-  # Buffers so small that inputs of a few bytes go over their edges.
+  # Buffers so small that inputs of a few bytes reach their edges.
   target_compile_definitions(a2l2json_sanitizers INTERFACE A2L2JSON_SMALL_BUFFERS)
 endif()
 

@@ -1,11 +1,12 @@
 # SPDX-License-Identifier: MIT
 #
-# The library as other projects link it, a2l2json::a2l2json, and what `cmake --install` installs:
-# the program with its manual page, shell completions, documentation and the JSON Schema of its
-# documents and, with A2L2JSON_LIBRARY, the library with its headers, CMake package and pkg-config file.
+# The library as other projects link it, a2l2json::a2l2json, and everything that `cmake --install`
+# installs: the program with its manual page, shell completions, documentation and the JSON Schema
+# of its documents, and, with A2L2JSON_LIBRARY, the library with its headers, CMake package and
+# pkg-config file.
 #
-# The components are there for the packages (packaging/packages.cmake); `debian` and `static` hold
-# what a plain installation has in another form.
+# The packages use the components (packaging/packages.cmake). `debian` and `static` hold files that
+# a plain installation has in another form.
 
 include_guard(GLOBAL)
 include(GNUInstallDirs)
@@ -35,7 +36,7 @@ a2l2json_archive(a2l2json_library a2l2json a2l2json_text a2l2json_model a2l2json
 add_library(a2l2json::a2l2json ALIAS a2l2json_library)
 set_target_properties(a2l2json_library PROPERTIES EXPORT_NAME a2l2json)
 
-# json11 itself is not part of it: the installed CMake package looks for it anew and links it then.
+# json11 itself is not part of it: the installed CMake package looks for it and links it.
 if(TARGET a2l2json_export_json11)
   a2l2json_archive(a2l2json_json11 a2l2json-json11 a2l2json_export_json11)
   add_library(a2l2json::json11 ALIAS a2l2json_json11)
@@ -71,8 +72,8 @@ install(
   DESTINATION "${CMAKE_INSTALL_DATADIR}/a2l2json"
   COMPONENT shared)
 
-# The pages for users. Links to what is not installed become plain text, and the names of test cases
-# go.
+# The pages for users. Links to files that are not installed become plain text, and the names of
+# test cases are removed.
 set(not_installed "(\\.\\./)?(tests/|CONTRIBUTING|docs/(adding|design|performance))")
 foreach(page README.md docs/json.md docs/reading-a2l.md docs/recipes.md)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${page}")
@@ -116,7 +117,7 @@ if(A2L2JSON_LIBRARY)
   set(package "${CMAKE_INSTALL_LIBDIR}/cmake/a2l2json")
   set(version_file "${generated}/a2l2json-config-version.cmake")
 
-  # What a user includes, and what that includes.
+  # The headers that a user includes, and those that these include.
   set(sources "${PROJECT_SOURCE_DIR}/src/a2l2json")
   install(
     DIRECTORY "${sources}/text" "${sources}/model" "${sources}/elements"
@@ -167,7 +168,8 @@ if(A2L2JSON_LIBRARY)
     DESTINATION "${package}"
     COMPONENT library)
 
-  # The pkg-config file finds everything from where it lies, so the whole may be moved.
+  # The pkg-config file finds everything relative to its own place, so the installation may be
+  # moved.
   file(RELATIVE_PATH A2L2JSON_PC_PREFIX "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig"
        "${CMAKE_INSTALL_PREFIX}")
   string(REGEX REPLACE "/$" "" A2L2JSON_PC_PREFIX "${A2L2JSON_PC_PREFIX}")

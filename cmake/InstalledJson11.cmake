@@ -1,10 +1,10 @@
 # SPDX-License-Identifier: MIT
 #
-# json11 as this system has it installed: the build looks for it here, and so does the CMake
-# package that the build installs, which carries a copy of this file.
+# Finds json11 if it is installed. The build uses this file, and so does the CMake package that the
+# build installs, which has a copy of it.
 
-# Gives the target json11::json11 when json11 is installed, as a CMake package or as a pkg-config
-# module, and nothing otherwise. A target of that name that is there already is left alone.
+# Defines the target json11::json11 if json11 is installed, as a CMake package or as a pkg-config
+# module, and nothing otherwise. If the target exists already, it stays as it is.
 function(a2l2json_find_installed_json11)
   if(TARGET json11::json11)
     return()

@@ -5,12 +5,12 @@ include_guard(GLOBAL)
 # a2l2json_room(<name> SOURCES <file>... [LINKS <target>...] [PRIVATE_LINKS <target>...])
 #
 # One static library per folder ("room") of the program. Headers are included by their path from
-# the top of the repository, as in #include "a2l2json/model/element.h". LINKS are visible to whoever links
-# the room, PRIVATE_LINKS only to the room's own sources.
+# the top of the repository, as in #include "a2l2json/model/element.h". LINKS are visible to whoever
+# links the room, PRIVATE_LINKS only to the room's own sources.
 #
-# Rooms that end up in the installed library are compiled without interprocedural optimisation,
-# whose intermediate code only the very same compiler can link, and as position independent code,
-# so that the library also fits into a shared one.
+# Rooms of the installed library are compiled without interprocedural optimisation, because only the
+# very same compiler could link its intermediate code, and as position independent code, so that a
+# shared library may hold them.
 function(a2l2json_room name)
   cmake_parse_arguments(PARSE_ARGV 1 room "" "" "SOURCES;LINKS;PRIVATE_LINKS")
   if(room_UNPARSED_ARGUMENTS OR NOT room_SOURCES)

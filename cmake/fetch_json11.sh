@@ -3,11 +3,11 @@
 #
 # usage: cmake/fetch_json11.sh [folder]
 #
-# Puts json11.cpp and json11.hpp (and the licence, where it is a file of its own) into `folder`,
-# by default .deps/json11. For distributions that have no json11 package but do have a source
-# package that carries the two files. Only the machine's own package sources are asked, through a
-# private copy of their list with "deb" turned into "deb-src"; apt's own lists, caches and settings
-# stay as they are, and root is not needed.
+# Puts json11.cpp and json11.hpp (and the licence, if it is a separate file) into `folder`, by
+# default .deps/json11. For distributions without a json11 package, but with a source package that
+# holds the two files. Asks only the package sources of the machine, through a private copy of their
+# list with "deb" turned into "deb-src". The lists, caches and settings of apt stay as they are, and
+# root is not needed.
 
 set -eu
 
@@ -30,7 +30,7 @@ if [ -f "$folder/json11.cpp" ] && [ -f "$folder/json11.hpp" ] &&
 fi
 
 if ! command -v apt-get >/dev/null 2>&1; then
-  say "there is no apt-get here; install json11 by the means of this system"
+  say "there is no apt-get here; install json11 with the package manager of this system"
   exit 1
 fi
 
@@ -51,7 +51,7 @@ for list in /etc/apt/sources.list.d/*.sources; do
   sed -E 's/^[Tt][Yy][Pp][Ee][Ss]:.*/Types: deb-src/' "$list" >"$work/parts/$(basename "$list")"
 done
 
-# The private state. Hooks of the system's own configuration are left out.
+# The private state, without the hooks of the system's configuration.
 cat >"$work/apt.conf" <<CONF
 #clear APT::Update::Pre-Invoke;
 #clear APT::Update::Post-Invoke;
@@ -85,7 +85,7 @@ take() {
   done
   for file in json11.cpp json11.hpp; do
     if ! accepted "$work/out/$file"; then
-      say "the $file of $1 has the SHA-256 $sum, which is not an accepted one; not used"
+      say "not used: the $file of $1 has the SHA-256 $sum, which is not an accepted one"
       return 1
     fi
   done
@@ -101,7 +101,7 @@ if take nextpnr 3rdparty/json11 || take yosys libs/json11; then
   say "json11 is in $folder"
 else
   grep -E '^(E|W): ' "$work/log" | head -n 4 >&2 || true
-  say "no source package with an accepted json11 could be had; is the network there, and do this"
+  say "found no source package with an accepted json11; is there a network, and do this"
   say "machine's package sources serve source packages?"
   exit 1
 fi

@@ -1,12 +1,13 @@
 # SPDX-License-Identifier: MIT
 #
-# Toolchain file: programs for Windows (x86-64) made with MinGW-w64, for the preset `windows`. They
-# are linked statically and stripped, so that an .exe runs alone. Where Wine is installed, tests run under it.
+# Toolchain file of the preset `windows`: makes programs for Windows (x86-64) with MinGW-w64. They
+# are linked statically and stripped, so that an .exe needs no other file. If Wine is installed,
+# tests run under it.
 
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 
-# Debian has two of them; the one with the threads of POSIX has all of the C++ library.
+# Debian has two of these compilers. The one with POSIX threads has the whole C++ library.
 set(triplet x86_64-w64-mingw32)
 find_program(A2L2JSON_MINGW_CXX NAMES ${triplet}-g++-posix ${triplet}-g++ REQUIRED)
 mark_as_advanced(A2L2JSON_MINGW_CXX)

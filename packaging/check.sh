@@ -4,13 +4,12 @@
 # usage: packaging/check.sh
 #
 # Builds the packages and tries them as a user would: the Debian package in a clean system, the
-# statically linked program in an empty one, and programs against the installed library, among them
-# examples/consumer, with CMake and with pkg-config. Stops at the first thing that is not as it
-# should be.
+# statically linked program in an empty system, and programs that use the installed library (among
+# them examples/consumer) with CMake and with pkg-config. Stops at the first failure.
 #
-# As root, the clean system is made by debootstrap from the package sources of this machine. Where
-# that cannot be done, it is the unpacked package with the shared libraries of this machine. What
-# is left of it all lies in build/package-check.
+# As root, debootstrap makes the clean system from the package sources of this machine. Without root
+# or debootstrap, it is the unpacked package with the shared libraries of this machine. All files
+# stay in build/package-check.
 
 set -euo pipefail
 shopt -s globstar nullglob
@@ -51,13 +50,13 @@ try_consumer() {
   grep -q '^EngineSpeed at ' "$work/consumer.txt" || die "the consumer lists no measurement"
 }
 
-# The only file that the pattern names.
+# the_only <file>...: prints the file if there is exactly one
 the_only() {
   (($# == 1)) && [[ -f $1 ]] || die "expected one file, found: $*"
   printf '%s\n' "$1"
 }
 
-# A system with nothing but what every Debian has, of the release of this one.
+# A minimal Debian system of the same release as this one.
 clean_system() {
   local release mirror
   ((EUID == 0)) && command -v debootstrap >/dev/null || return 1
@@ -105,7 +104,7 @@ if wait "$system"; then
   say "$deb is installed in a clean system made by debootstrap"
 else
   unpack_with_libraries
-  say "no debootstrap here: $deb is unpacked beside the shared libraries that it needs"
+  say "no debootstrap here: $deb is unpacked together with the shared libraries that it needs"
 fi
 try_program "$root" /usr/bin/a2l2json
 say "the installed program converts $demo to $expected, byte for byte"
@@ -132,18 +131,18 @@ say 'examples/consumer works with pkg-config'
 cmake -S packaging/check -B "$work/check" -DCMAKE_PREFIX_PATH="$root/usr" \
   -DJSON11="$PWD/.deps/json11" >"$work/check.log"
 cmake --build "$work/check" >>"$work/check.log"
-version=$("$work/check/check" examples/small.a2l examples/small.json) || die 'the library does not do as it should'
+version=$("$work/check/check" examples/small.a2l examples/small.json) || die 'the library gives a wrong result'
 say 'the library reads, writes and converts bytes in memory, also to a json11 value'
 
-# What the README shows.
+# The program in the README.
 sed -n '/^```cpp$/,/^```$/{/^```/d;p}' README.md >"$work/check/readme.cpp"
 g++ -std=c++20 "$work/check/readme.cpp" "${flags[@]}" -o "$work/check/readme"
 "$work/check/readme" "$demo" >"$work/check/readme.json" 2>"$work/check/readme.txt"
 cmp "$work/check/readme.json" "$expected"
-[[ $(<"$work/check/readme.txt") == EngineSpeed ]] || die 'the README shows something else'
+[[ $(<"$work/check/readme.txt") == EngineSpeed ]] || die 'the program in the README prints something else'
 say 'so does the program in the README'
 
-# Every header on its own.
+# Every header compiles without another one before it.
 find "$root/usr/include/a2l2json" -name '*.h' ! -name 'json11*' -printf '%P\0' |
   xargs -0 -P "${JOBS:-2}" -I{} \
     g++ -std=c++20 -Wall -Wextra -Werror -fsyntax-only "${flags[@]}" -include a2l2json/{} -x c++ /dev/null ||
@@ -157,7 +156,7 @@ say 'each of the installed headers compiles by itself'
   die "the versions differ from $version"
 say "everything has the version $version"
 
-# What programs look for by its name, in the package and where `cmake --install` puts it.
+# Files that programs look for by name, in the package and in an installation by `cmake --install`.
 cmake --install build/package --prefix "$work/installed" >"$work/installed.log"
 for prefix in "$root/usr" "$work/installed"; do
   for file in bin/a2l2json share/a2l2json/json.schema.json 'share/man/man1/a2l2json.1*' \
@@ -168,7 +167,7 @@ for prefix in "$root/usr" "$work/installed"; do
     compgen -G "$prefix/$file" >/dev/null || die "there is no $prefix/$file"
   done
 done
-# completed <word>...: what bash proposes for the last of these words behind "a2l2json"
+# completed <word>...: the proposals of bash for the last of these words after "a2l2json"
 completed() (
   source "$root/usr/share/bash-completion/completions/a2l2json"
   COMP_WORDS=(a2l2json "$@") COMP_CWORD=$#
@@ -177,11 +176,11 @@ completed() (
 )
 [[ $(completed examples/) == 'examples/consumer examples/demo.a2l examples/small.a2l' &&
   $(completed "$demo" examples/d) == 'examples/demo.a2l examples/demo.json' &&
-  $(completed "$demo" demo.json '') == '' ]] || die 'bash does not complete as it should'
+  $(completed "$demo" demo.json '') == '' ]] || die 'bash completes wrongly'
 cmp "$(pkg-config --variable=schema a2l2json)" docs/json.schema.json
-say 'program, library, manual page, completions and schema are where they are looked for'
+say 'program, library, manual page, completions and schema are in their places'
 
-# dead_links <folder>: what the pages there link to and is not there
+# dead_links <folder>: the links of the pages there that lead nowhere
 dead_links() {
   local page target
   for page in "$1"/**/*.md; do
@@ -197,7 +196,7 @@ for folder in "$root/usr" "$work/installed" "$work/static"; do
 done
 say 'no link of an installed page leads nowhere'
 
-# Intermediate code would tie the library to one compiler.
+# With intermediate code, only one compiler could link the library.
 if readelf --section-headers --wide "${pc%/*/*}/liba2l2json.a" | grep -q '\.gnu\.lto_'; then
   die 'the library holds intermediate code of link time optimisation'
 fi

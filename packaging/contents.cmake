@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 #
-# The components that go into each package; cpack reads this once per package.
+# The components of each package. cpack reads this file once per package.
 
 if(CPACK_GENERATOR STREQUAL "DEB")
   set(components program library shared debian)

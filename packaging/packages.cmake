@@ -1,7 +1,8 @@
 # SPDX-License-Identifier: MIT
 #
-# What `make packages` packs, with the preset `package`: a Debian package of everything that is
-# installed, and an archive with the statically linked program. Included by cmake/Install.cmake.
+# The packages that `make packages` makes with the preset `package`: a Debian package with
+# everything that is installed, and an archive with the statically linked program.
+# cmake/Install.cmake includes this file.
 
 include_guard(GLOBAL)
 
@@ -36,7 +37,7 @@ set(CPACK_PROJECT_CONFIG_FILE "${packaging}/contents.cmake")
 install(TARGETS a2l2json_static COMPONENT static EXCLUDE_FROM_ALL)
 
 # ---------------------------------------------------------------------------------------------
-# The Debian package. Some files have other names there, and two are compressed.
+# The Debian package. In it, some files have other names, and two are compressed.
 
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER "${CPACK_PACKAGE_CONTACT}")
@@ -48,7 +49,7 @@ set(CPACK_DEBIAN_PACKAGE_SUGGESTS "g++, cmake | pkgconf")
 find_program(A2L2JSON_GZIP gzip REQUIRED)
 mark_as_advanced(A2L2JSON_GZIP)
 
-# The licence in the form of the file `copyright`: indented, with a full stop for an empty line.
+# The licence as the file `copyright` must have it: indented, with a full stop for an empty line.
 file(READ "${PROJECT_SOURCE_DIR}/LICENSE" licence)
 string(REGEX MATCH "Copyright \\(c\\) ([^\n]+)" copyright "${licence}")
 set(A2L2JSON_COPYRIGHT "${CMAKE_MATCH_1}")

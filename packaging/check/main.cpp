@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Calls what is in the installed library: reads bytes in memory, writes them as A2L text, reads
-// that, and prints the version where all documents are the one that is expected.
+// Uses the installed library: reads bytes in memory, writes them as A2L text, and reads that.
+// Prints the version if all documents are the expected one.
 //
 //   check <A2L file> <JSON file>
 #include <fstream>

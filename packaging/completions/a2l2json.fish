@@ -1,12 +1,12 @@
 # SPDX-License-Identifier: MIT
 # fish completion: a2l2json <A2L file> <JSON file>
 
-# Succeeds when the word that is being typed has that number, the first one being 1.
+# Succeeds if the word that is being typed has that number; the first word is 1.
 function __a2l2json_word
     test (count (commandline -opc)) -eq $argv[1]
 end
 
-# The A2L files and the folders among the files that fit.
+# The A2L files and folders among the matching files.
 function __a2l2json_a2l_files
     complete -C "'' "(commandline -ct) | string match --regex --ignore-case '.*(?:\.a2l|/)$'
 end
