@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Files as users have them, which lie beside the repository where there are any. Their README
-// has a table with the exit code and the number of messages that each must give.
+// Files as users have them, if they lie beside the repository. The table in their README says which
+// exit code and how many messages each must give.
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
@@ -43,7 +43,7 @@ std::vector<std::string> Cells(const std::string& row) {
   return cells;
 }
 
-// The rows of the table, by file name; the columns are found by their headings.
+// The rows of the table, by file name. The headings say which column is which.
 std::map<std::string, Expectation> ReadTable() {
   std::map<std::string, Expectation> table;
   std::vector<std::string> headings;
@@ -109,7 +109,7 @@ TEST_F(Corpus, IsConvertedAsItsTableSays) {
   }
 }
 
-// The document is that of the reference writer, and well-formed.
+// The document is well-formed, and the same as that of json11.
 TEST_F(Corpus, GivesTheDocumentOfJson11) {
   for (const auto& entry : fs::directory_iterator(kCorpus)) {
     if (entry.path().extension() != ".a2l") continue;

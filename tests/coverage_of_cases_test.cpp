@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The golden cases speak for the program only as far as they go: every keyword must be read in
-// one of them and show in its document, and every message must be given in one of them. What
-// cannot be is listed here with the reason, and an entry that is no longer needed is a failure.
+// The golden cases must cover the program: a case must read each keyword and show it in its
+// document, and a case must give each message. Exceptions are listed here with their reasons. An
+// exception that is no longer needed is a failure.
 #include <algorithm>
 #include <cstddef>
 #include <filesystem>
@@ -24,13 +24,13 @@ namespace {
 namespace fs = std::filesystem;
 
 struct GoldenFiles {
-  std::set<std::string> keywords;     // read in cases that succeed, where a keyword may stand
-  std::set<std::string> keys;         // of their documents, with a value that says something
+  std::set<std::string> keywords;     // read in cases that succeed, at places for keywords
+  std::set<std::string> keys;         // of their documents, with a value other than the default
   std::vector<std::string> consoles;  // the lines of all console texts
 };
 
-// The words of a file that stand where the reader looks for a keyword: first on their line, or
-// behind "/begin".
+// The words of a file at which the reader looks for a keyword: the first word of a line, and the
+// word behind "/begin".
 void AddKeywords(const std::string& a2l, std::set<std::string>& keywords) {
   std::istringstream lines(a2l);
   for (std::string line; std::getline(lines, line);) {
@@ -43,7 +43,7 @@ void AddKeywords(const std::string& a2l, std::set<std::string>& keywords) {
   }
 }
 
-// The keys of a document whose value is more than the default of something absent.
+// The keys of a document whose value is not the default for something absent.
 void AddKeys(const std::string& json, std::set<std::string>& keys) {
   constexpr std::string_view kBehindKey = "\": ";
   for (std::size_t end = json.find(kBehindKey); end != std::string::npos;
@@ -71,7 +71,7 @@ GoldenFiles ReadGoldenFiles() {
   return files;
 }
 
-// Keywords whose content stands under another key than their own.
+// Keywords whose content is not under the key of the same name.
 struct OtherKey {
   std::string_view keyword, key;
 };
@@ -123,15 +123,15 @@ TEST(GoldenCases, ExemptOnlyKeywords) {
     EXPECT_NE(KeywordToKind(keyword), KIND_UNKNOWN) << keyword;
 }
 
-// Messages that no file can bring about: the content of a raw block is never wrong, and nothing
-// that the reader itself attached is without a parent.
+// Messages that no file can cause: the content of a raw block is never wrong, and every element
+// that the reader attaches has a parent.
 constexpr DiagnosticKind kNeverGiven[] = {
     DiagnosticKind::WrongRawContent,
     DiagnosticKind::NoParentAtEnd,
     DiagnosticKind::NoParent,
 };
 
-// True when `line` is a message of the same kind as `message`, which names line 0.
+// True if `line` is a message of the same kind as `message`, which names line 0.
 bool IsSameMessage(std::string_view line, std::string_view message) {
   constexpr std::string_view kLineNumber = "Line(";
   const std::size_t number = message.find(kLineNumber) + kLineNumber.size();

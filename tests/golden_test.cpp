@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The golden cases: tests/cases/<topic>/<name>.a2l with what must come of it beside it.
+// The golden cases: tests/cases/<topic>/<name>.a2l with its expected files beside it.
 //
 // The name begins with ok_ (exit code 0, no message), warn_ (0, with warnings) or fail_ (-2).
 //
@@ -9,9 +9,9 @@
 //                   tests/support/golden_document.h
 //   <name>.written  optional: the tree, written back as A2L text
 //
-// A new case needs no code. With A2L2JSON_UPDATE_CASES=1 in the environment, what the program
-// makes of the cases replaces the expected files, for a look at the difference; never to make a
-// test pass.
+// A new case needs no code. With A2L2JSON_UPDATE_CASES=1 in the environment, the output of the
+// program replaces the expected files. That is for reading the difference, never for making a test
+// pass.
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>

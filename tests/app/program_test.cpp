@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The program as scripts use it: arguments in, texts, exit codes and files out.
+// The program as scripts use it: from arguments to texts, exit codes and files.
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -43,7 +43,7 @@ class Program : public testing::Test {
 
   void SetUp() override { WriteFile(a2l_, kInput); }
 
-  /// `script`, of the shell, may run the program as `"$0" "$@"`.
+  /// Runs `script` in the shell. It may run the program as `"$0" "$@"`.
   static RunResult Run(const std::vector<fs::path>& arguments, const std::string& script = {}) {
     const std::vector<fs::path> shell = {"sh", "-c", script};
     RunResult result = RunProgram(arguments, script.empty() ? std::vector<fs::path>{} : shell);
@@ -86,7 +86,7 @@ TEST_F(Program, ShowsItsUsageForAnyOtherNumberOfArguments) {
   EXPECT_EQ(ReadFile(a2l_), kInput);
 }
 
-// The usage is one that the user can type again.
+// The usage shows the program name as the user typed it.
 TEST_F(Program, CallsItselfAsItWasCalled) {
 #ifdef _WIN32
   GTEST_SKIP() << "links are for administrators on this system";
@@ -146,7 +146,7 @@ TEST_F(Program, FailsWhereTheInputIsALinkToAFileThatIsGone) {
 #endif
 }
 
-// This file can be opened, but there is nothing at its beginning that could be read.
+// This file can be opened, but not be read at its beginning.
 TEST_F(Program, FailsWhereTheInputCannotBeReadOn) {
   const fs::path memory = "/proc/self/mem";
   if (!fs::exists(memory)) GTEST_SKIP() << "there is no such file on this system";
@@ -170,7 +170,7 @@ TEST_F(Program, FailsWithAllMessagesWhereTheInputIsWrong) {
 }
 
 TEST_F(Program, FailsWhereTheOutputCannotBeOpened) {
-  // The warning is not shown: what counts is the failure.
+  // The warning is not shown, because the conversion failed.
   WriteFile(a2l_, "WORD\n");
   for (const fs::path& output : {folder_ / "missing/out.json", folder_.Path(), fs::path(),
                                  a2l_ / "out.json", folder_ / std::string(1000, 'n')}) {
@@ -270,14 +270,14 @@ TEST_F(Program, DoesNotNoticeAFullDisk) {
   EXPECT_EQ(run.out, "Success.\n\n");
 }
 
-// Nobody may be there to read the texts: the exit codes and the files are the same. Without a
-// standard output its number is free for the files, which must not get the texts.
+// If nobody reads the texts, the exit codes and the files are the same. If there is no standard
+// output, a file may get its descriptor, but must not get the texts.
 TEST_F(Program, DoesItsWorkWithoutAStandardOutput) {
 #ifdef _WIN32
   GTEST_SKIP() << "the shell of this system cannot close it";
 #else
   WriteFile(a2l_, "WORD\nASAP2_VERSION 1 71\n");
-  // The pipe's only reader has opened it, and has gone before the program begins.
+  // The only reader of the pipe has opened it, and closes it before the program begins.
   const std::string pipe = "'" + (folder_ / "pipe").string() + "'";
   const std::string toPipe =
       "rm -f " + pipe + "; mkfifo " + pipe + "; (exec 4<" + pipe + ")& exec 3>" + pipe + "; wait; ";

@@ -52,7 +52,7 @@ class FileWriter {
     atLineStart_ = false;
   }
 
-  // Something without a meaning that ends no line of the reader: it may take several lines.
+  // Something without a meaning that does not end a line for the reader. It may take several lines.
   void PutComment() {
     constexpr const char* kComments[] = {"/* c */",         "/**/",
                                          "/***/",           "/* // \" */",
@@ -76,8 +76,8 @@ class FileWriter {
     }
   }
 
-  // Ends the line that was begun, if any. `mayAddLines` is false where an empty line would be
-  // taken as text.
+  // Ends the current line, if there is one. `mayAddLines` is false if an empty line would count as
+  // text.
   void EndLine(bool mayAddLines = true) {
     if (!atLineStart_) {
       if (hasComments_ && random_.OneIn(10)) Put(" // \" /* /begin X");
@@ -98,7 +98,7 @@ class FileWriter {
     atLineStart_ = true;
   }
 
-  // What the reader says about a line names its last physical one.
+  // A message about a line names the last of its physical lines.
   void TellPending() {
     for (const std::string& body : pending_) {
       const bool isError = body.starts_with("Error");
@@ -116,7 +116,7 @@ class FileWriter {
     Put(random_.Pick(kIndents));
   }
 
-  // A new line, or none: between parameters.
+  // Between parameters: a new line, or none.
   void SeparateParameters(bool& isOneLine) {
     if (breaksLines_ && random_.OneIn(6)) {
       EndLine();
@@ -128,7 +128,7 @@ class FileWriter {
   }
 
   // -------------------------------------------------------------------------------------------
-  // What is reported
+  // Messages
 
   void Warn(const std::string& text) { pending_.push_back("Warning: " + text); }
   void Fail(const std::string& text) {
@@ -136,7 +136,7 @@ class FileWriter {
     stopped_ = true;
   }
 
-  // Wrong parameters, reported while `current` is the open element.
+  // Reports wrong parameters while `current` is the open element.
   void WarnOfWrongParameters(Node& current) {
     Warn("wrong parameters " + (current.keyword == "?" ? "" : current.keyword));
     Invalidate(current.parent);
@@ -145,7 +145,7 @@ class FileWriter {
     if (object != nullptr && IsTracked(*object)) object->valid = false;
   }
 
-  // What is being collected, and what is said, if anything, when a marker or a keyword ends it.
+  // The collection in progress, and the message, if any, when a marker or a keyword ends it.
   struct Collection {
     Node* node = nullptr;
     bool isList = false;
@@ -226,12 +226,12 @@ class FileWriter {
         const bool wrong = CanBeWrong(parameter) && Breaks(24);
         made.push_back(wrong ? MakeWrongValue(parameter, random_) : MakeValue(parameter, random_));
       }
-      // A text may be the empty one, which is wrong in its place.
+      // A text may be empty, which is wrong here.
       if (mayBreak_ || Evaluate(keyword, made).ok) return made;
     }
   }
 
-  // The tokens, each behind a blank or on a new line; true when it is still the same line.
+  // Writes the tokens, each behind a blank or on a new line. True if the line is still the same.
   bool PutTokens(const std::vector<MadeValue>& made) {
     bool isOneLine = true;
     for (const MadeValue& value : made) {
@@ -273,13 +273,13 @@ class FileWriter {
       return;
     }
     if (!evaluation.ok) {
-      // On its own line it is the block that the warning names.
+      // If it is on one line, the warning names the block.
       WarnOfWrongParameters(isOneLine ? *node.parent : node);
     }
     PutSurplus();
   }
 
-  // The items of an open list, whose first word of a line is never a keyword.
+  // The items of an open list. No line of it begins with a keyword.
   bool WriteItems(const Keyword& keyword, Node& node, bool isOneLine) {
     for (std::size_t i = random_.Below(8); i > 0; --i) {
       for (const Parameter& parameter : keyword.list) {
@@ -288,7 +288,7 @@ class FileWriter {
         const MadeValue made =
             wrong ? MakeWrongValue(parameter, random_) : MakeValue(parameter, random_);
         Put(made.token);
-        // The list ends where an item is wrong, which stays in some lists as 0.
+        // A wrong item ends the list. In some lists it stays as 0.
         const bool keepsWrong =
             keyword.text == "FIX_AXIS_PAR_LIST" || keyword.text == "CALIBRATION_HANDLE";
         if (!node.isBroken && (!wrong || keepsWrong)) node.items.push_back(made.value);
@@ -320,7 +320,7 @@ class FileWriter {
     open_ = node.parent;
   }
 
-  // False when parameters are missing, so that nothing but a marker may follow.
+  // False if parameters are missing, so that only a marker may follow.
   bool WriteParameters(const Keyword& keyword, Node& node) {
     std::vector<MadeValue> made = MakeValues(keyword);
     const std::size_t needed = made.size();
@@ -349,7 +349,7 @@ class FileWriter {
     return isComplete;
   }
 
-  // A small number, in one of the ways to write it; a wrong one stays as it is.
+  // A small number, written in one of several ways. A wrong one stays as it is.
   MadeValue MakeRowCount(const MadeValue& made) {
     if (!made.ok) return made;
     const std::size_t count = random_.Below(6);
@@ -370,7 +370,7 @@ class FileWriter {
       const bool isWrong = missing == 0 && CanBeWrong(column) && Breaks(40);
       const MadeValue made = isWrong ? MakeWrongValue(column, random_) : MakeValue(column, random_);
       Put(made.token);
-      // Rows that are not all there are not read; a wrong number, which counts as 0, is the last.
+      // If rows are missing, none is read. A wrong number counts as 0 and is the last.
       if (missing == 0 && !wrong) node.items.push_back(made.value);
       wrong = wrong || isWrong;
     }
@@ -428,7 +428,7 @@ class FileWriter {
         put("text before /begin Nested 1 2");
         ++depth;
       } else if (choice == 2) {
-        // What follows a second marker is a line of its own.
+        // A second marker begins a new line.
         put("/begin Nested \"x\" ");
         kept += '\n';
         put("/end Nested");
@@ -484,7 +484,7 @@ class FileWriter {
 
   void Finish() {
     if (!stopped_ && piecesToError_ > 0 && random_.OneIn(2)) {
-      // An /end too many.
+      // One /end too many.
       PutMarkedKeyword("/end", random_.OneIn(2) ? "PROJECT" : "nothing");
       Fail("/end don't equal /begin ");
     }
@@ -492,7 +492,7 @@ class FileWriter {
       EndLine();
       Put("/begin MODULE not_read \"\"");
       if (commentIsOpen_) {
-        // The one error that calls itself a warning; found at the end of the file.
+        // The only error that calls itself a warning. It is found at the end of the file.
         file_.message +=
             "Warning: Line(" + std::to_string(line_) + ") Cannot find comment end */ \n";
         file_.ok = false;
@@ -502,7 +502,7 @@ class FileWriter {
       EndLine();
     }
     TellPending();
-    // What is still being collected at the end never reaches its element.
+    // A collection that is still in progress at the end of the file never reaches its element.
     if (collection_.has_value()) {
       Node& node = *collection_->node;
       node.isRead = false;
@@ -520,7 +520,7 @@ class FileWriter {
 
   void WriteChildren(const Keyword& keyword) {
     std::vector<const Keyword*> planned;
-    // In a module nearly everything, elsewhere a part of what may stand there.
+    // In a module nearly everything that it accepts, elsewhere a part of that.
     const std::size_t share = keyword.text == "MODULE" ? 2 : keyword.children.size() > 12 ? 4 : 2;
     for (const std::string_view child : keyword.children) {
       if (keyword.text != "PROJECT" && !random_.OneIn(share)) continue;
@@ -547,7 +547,7 @@ class FileWriter {
     if (random_.OneIn(2)) WriteOthers();
   }
 
-  // What may stand everywhere: unknown blocks, and unknown words, where no list takes them.
+  // Things that may stand everywhere: unknown blocks, and unknown words if no list takes them.
   void WriteOthers() {
     if (random_.OneIn(16)) WriteUnknownBlock();
     if (!collection_.has_value() && Breaks(16)) {
@@ -572,7 +572,7 @@ class FileWriter {
         if (keyword.isBlock == isBlock && !accepted) return std::string(keyword.text);
       }
     };
-    // A line without a marker would be taken as parameters, where some are missing.
+    // If parameters are missing, a line without a marker would count as parameters.
     const bool needsMarker = collection_.has_value() && !collection_->isList;
     switch (random_.Below(needsMarker ? 4 : 6)) {
       case 0: {
@@ -637,7 +637,7 @@ class FileWriter {
   bool atLineStart_ = true;
   bool markerMayFollow_ = false;
   bool markerMustFollow_ = false;
-  std::vector<std::string> pending_;  // to be reported with the number of the line being written
+  std::vector<std::string> pending_;  // to be reported with the number of the current line
   std::optional<Collection> collection_;
   Node* open_ = nullptr;
 };

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Random files against what the generator says must come of them: the tree, the document and
+// Compares random files with the results that the generator expects: the tree, the document, and
 // every message with its line.
 #include "tests/generator/generator.h"
 
@@ -42,7 +42,8 @@ Json ToJson11(const Value& value) {
   return nullptr;
 }
 
-// Texts with the bytes of any character set: compared as JSON text, so that a failure shows them.
+// Texts may have the bytes of any character set. They are compared as JSON text, so that a failure
+// can show them.
 void ExpectJson(const Json& actual, const Json& expected, const std::string& what) {
   EXPECT_EQ(actual.dump(), expected.dump()) << what;
 }
@@ -94,8 +95,8 @@ void ExpectParameters(const Json& json, const Node& node, const std::string& her
 }
 
 bool HasMemberOfItsOwn(const Node& node, std::string_view property) {
-  // The record layout of an axis hides the other DEPOSIT; identifications go under another key;
-  // the rest is put together from several values or properties.
+  // The record layout of an axis hides the keyword DEPOSIT. Identifications stand under another
+  // key. The others are put together from several values or properties.
   static const std::set<std::string_view> kOthers = {
       "COEFFS",          "COEFFS_LINEAR",           "ADDR_EPK",
       "SYSTEM_CONSTANT", "IDENTIFICATION",          "RESERVED",
@@ -143,12 +144,12 @@ void ExpectProperty(const Json& json, const Keyword& property, const Node* first
   }
 }
 
-// Numbers without a sign as they stand in a list that is one text.
+// Unsigned numbers as in a list that is one text.
 std::string InDecimal(const Value& number) {
   return std::to_string(static_cast<std::uint32_t>(std::get<std::int32_t>(number)));
 }
 
-// Reals with commas between them, each in a text that reads back to it.
+// Reals with commas between them, each as a text that reads back to the same real.
 void ExpectReals(const Json& actual, const std::vector<Value>& reals, const std::string& here) {
   ASSERT_TRUE(actual.is_string()) << here;
   std::istringstream texts(actual.string_value());
@@ -168,14 +169,14 @@ void ExpectReals(const Json& actual, const std::vector<Value>& reals, const std:
   EXPECT_TRUE(reals.empty() ? actual.string_value().empty() : texts.eof()) << here;
 }
 
-// The first child of the keyword; null where there is none.
+// The first child of the keyword, or null.
 const Node* FirstOf(const Node& node, std::string_view keyword) {
   const std::vector<const Node*> children = ChildrenOf(node, keyword);
   return children.empty() ? nullptr : children.front();
 }
 
-// What stands under the keys of the layout's alignment of words: an identification that comes
-// first takes its place.
+// The value under the key of the word alignment of a layout. If an identification comes first, it
+// takes the place of the alignment.
 void ExpectIdentification(const Json& json, const Node& node, const std::string& here) {
   for (const auto& child : node.children) {
     if (child->keyword == "ALIGNMENT_WORD") {
@@ -190,7 +191,7 @@ void ExpectIdentification(const Json& json, const Node& node, const std::string&
   ExpectJson(json["FALIGNMENT_WORD"], nullptr, here);
 }
 
-// What stands in objects of several kinds under a key that is put together.
+// The value under a key of several kinds of objects that is put together from others.
 void ExpectSpecialKeys(const Json& json, const Node& node, const std::string& here) {
   const auto handle = [](const Value& item) {
     return std::to_string(std::get<std::int32_t>(item));
@@ -239,7 +240,7 @@ void ExpectSpecialKeys(const Json& json, const Node& node, const std::string& he
   } else if (node.keyword == "OVERWRITE") {
     EXPECT_FALSE(json.object_items().contains("FCONVERSION")) << here;
   }
-  // Lists that are arrays, here or one level further down, wherever they occur.
+  // Lists that are arrays in all objects, here or one level below.
   for (const char* list : {"MAP_LIST", "TRANSFORMER_IN_OBJECTS", "TRANSFORMER_OUT_OBJECTS",
                            "FRAME_MEASUREMENT", "DEPENDENT_CHARACTERISTIC",
                            "VIRTUAL_CHARACTERISTIC", "FIX_AXIS_PAR_LIST", "AR_COMPONENT"}) {
@@ -272,7 +273,7 @@ void ExpectSpecialKeys(const Json& json, const Node& node, const std::string& he
   }
 }
 
-// The keys of an annotation are there only where its properties are.
+// An annotation has a key only if it has the property.
 void ExpectAnnotation(const Json& json, const Node& node, const std::string& here) {
   Json::object expected;
   for (const char* property : {"ANNOTATION_LABEL", "ANNOTATION_ORIGIN", "ANNOTATION_TEXT"}) {
@@ -286,7 +287,7 @@ void ExpectAnnotation(const Json& json, const Node& node, const std::string& her
   ExpectJson(json, expected, here);
 }
 
-// Of a criterion that is named twice the first value counts.
+// If a criterion is named twice, its first value counts.
 void ExpectCombinations(const Json& json, const Node& node, const std::string& here) {
   Json::array expected;
   for (const Node* child : ChildrenOf(node, "VAR_FORBIDDEN_COMB")) {
@@ -403,7 +404,7 @@ void ExpectModule(const Json& json, const Node& module) {
   }
 }
 
-// What stands at the top of the document about the project: of each key what comes first.
+// The keys of the document about the project. The first value in the file counts for each key.
 void ExpectProject(const Json& document, const Node& root) {
   Json::object expected = {{"FBaseA2LName", nullptr}};
   const auto enter = [&expected](const std::string& key, const Node* node, std::size_t parameter) {
@@ -482,7 +483,7 @@ TEST(Generator, FilesAreReadAsTheyWereMeant) {
   }
 }
 
-// A generator that makes the same file again and again would test nothing.
+// A generator that always makes the same file would test nothing.
 TEST(Generator, FilesHoldEveryKeywordAndEveryMessage) {
   std::set<std::string> keywords;
   std::set<std::string> broken;
@@ -519,7 +520,7 @@ TEST(Generator, FilesHoldEveryKeywordAndEveryMessage) {
     hasCarriageReturns = hasCarriageReturns || file.text.find('\r') != std::string::npos;
   }
   for (const NumberedKeyword& keyword : AllKeywords()) {
-    if (keyword.keyword == "ENCODING") continue;  // which becomes no element, but a message
+    if (keyword.keyword == "ENCODING") continue;  // which gives a message instead of an element
     EXPECT_TRUE(keywords.contains(keyword.keyword)) << keyword.keyword;
     if (std::ranges::any_of(Find(keyword.keyword).parameters, CanBeWrong)) {
       EXPECT_TRUE(broken.contains(keyword.keyword)) << keyword.keyword;
@@ -549,8 +550,8 @@ TEST(Generator, GivesTheSameFileForTheSameSeed) {
   EXPECT_NE(Generate(7).text, Generate(8).text);
 }
 
-// The reader has a piece of the file in memory at a time. A comment in front changes nothing but
-// the place where a piece ends, within the lines that follow.
+// The reader has one piece of the file in memory at a time. A comment in front only changes the
+// places in the following lines at which pieces end.
 TEST(Generator, FilesAreReadTheSameWhereverTheirPiecesEnd) {
   for (std::uint64_t seed = 0; seed < 60; ++seed) {
     SCOPED_TRACE("seed " + std::to_string(seed));
@@ -572,7 +573,7 @@ TEST(Generator, FilesAreReadTheSameWhereverTheirPiecesEnd) {
   }
 }
 
-// The lines of every keyword, read where they may stand.
+// Reads the lines of every keyword at a place where it may stand.
 TEST(Generator, LinesOfEveryKeywordAreReadWithoutAWord) {
   const auto parentOf = [](std::string_view child) {
     for (const Keyword& keyword : Grammar()) {

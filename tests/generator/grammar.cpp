@@ -60,7 +60,7 @@ std::vector<std::string_view> Split(std::string_view text) {
   return words;
 }
 
-// "NAME:n": a name and a type, the letter of which is the first of its own, or a set of words.
+// "NAME:n": a name, and a type by its first letter or a set of words.
 Parameter ReadParameter(std::string_view text) {
   const std::size_t colon = text.find(':');
   const std::string_view type = text.substr(colon + 1);
@@ -255,7 +255,7 @@ constexpr BlockRow kBlocks[] = {
 };
 
 struct PropertyRow {
-  std::string_view keywords;  // all of which have these parameters
+  std::string_view keywords;  // all have these parameters
   std::string_view parameters;
 };
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The keywords of the format as the generator of test files knows them: what parameters they have
-// and what stands inside them. Written out a second time, independently of the program's tables.
+// The keywords of the format for the generator of test files: their parameters, and what may stand
+// inside them. They are written out a second time, independently of the program's tables.
 #pragma once
 
 #include <string>
@@ -14,9 +14,9 @@ namespace a2l::test {
 struct WordSet {
   std::string_view name;
   std::vector<std::string_view> words;
-  /// What any other word counts as.
+  /// The word that any other word counts as.
   std::string_view fallback;
-  /// Set where any other word is wrong.
+  /// Set if any other word is wrong.
   bool required = false;
 };
 
@@ -39,7 +39,7 @@ struct Parameter {
   const WordSet* words = nullptr;
 };
 
-/// What a wrong number among the fixed parameters does.
+/// The effect of a wrong number among the fixed parameters.
 enum class OnWrongNumber { Stop, MarkAndGoOn };
 
 struct Keyword {
@@ -47,11 +47,11 @@ struct Keyword {
   bool isBlock = false;
   std::vector<Parameter> parameters;
   OnWrongNumber onWrongNumber = OnWrongNumber::Stop;
-  /// The types of the items of the open list at the end, repeated; empty without one.
+  /// The types of the items of the open list at the end, repeated. Empty if there is no list.
   std::vector<Parameter> list;
-  /// The columns of the rows behind the parameters, the last of which is their number.
+  /// The columns of the rows that follow the parameters. The last parameter is their number.
   std::vector<Parameter> columns;
-  /// Set for blocks whose content is kept as text.
+  /// Set for blocks that keep their content as text.
   bool isRaw = false;
   std::vector<std::string_view> children;
 
@@ -61,7 +61,7 @@ struct Keyword {
 /// All keywords but ENCODING, which no file may hold.
 const std::vector<Keyword>& Grammar();
 
-/// The keyword with this text; it must be one.
+/// The keyword with this text, which must be a keyword.
 const Keyword& Find(std::string_view text);
 
 }  // namespace a2l::test

@@ -6,8 +6,8 @@
 
 namespace a2l::test {
 
-/// Random numbers that are the same for a seed on every platform, which those of the standard
-/// library's distributions are not.
+/// Random numbers that are the same for a seed on every platform. The distributions of the standard
+/// library do not promise that.
 class Random {
  public:
   explicit Random(std::uint64_t seed) : state_(seed) {}

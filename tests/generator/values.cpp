@@ -18,7 +18,7 @@ std::string Printed(const char* format, unsigned long long number) {
   return {buffer.data(), static_cast<std::size_t>(size)};
 }
 
-// The signed number with these bits.
+// The signed number that has these bits.
 std::int32_t Narrowed(std::uint64_t bits) {
   return static_cast<std::int32_t>(static_cast<std::uint32_t>(bits));
 }
@@ -56,7 +56,7 @@ MadeValue MakeName(Random& random) {
 }
 
 MadeValue MakeText(Random& random) {
-  // How a piece of text is written, and what it means.
+  // How a piece of text is written, and its meaning.
   struct Piece {
     std::string_view written;
     std::string_view meant;
@@ -88,7 +88,7 @@ MadeValue MakeText(Random& random) {
   std::string text;
   for (std::size_t i = random.Below(6); i > 0; --i) {
     if (random.OneIn(6)) {
-      made.token += "\"\"x";  // a doubled quote, and something that keeps it from being four
+      made.token += "\"\"x";  // a doubled quote, and a letter so that four never stand in a row
       text += "\"x";
       continue;
     }
@@ -101,7 +101,7 @@ MadeValue MakeText(Random& random) {
   return made;
 }
 
-// A magnitude with a base of its own, and now and then something behind it that is ignored.
+// A magnitude in one of the bases, sometimes with characters behind it that are ignored.
 std::string Written(std::uint64_t number, Random& random) {
   switch (random.Below(8)) {
     case 0:
@@ -174,7 +174,7 @@ MadeValue MakeReal(Random& random) {
 MadeValue MakeWord(const WordSet& set, Random& random) {
   if (!set.required && random.OneIn(8)) return {"other_word", std::string(set.fallback)};
   const std::string word(random.Pick(set.words));
-  // A word is found inside another one, too.
+  // A word is also found inside another one.
   return {random.OneIn(4) ? "my_" + word + "_word" : word, word};
 }
 
@@ -221,7 +221,7 @@ bool CanBeWrong(const Parameter& parameter) {
 
 namespace {
 
-// What a parameter has when nothing could be read for it.
+// The value of a parameter for which nothing could be read.
 Value Missing(const Parameter& parameter) {
   switch (parameter.type) {
     case ParameterType::Name:
@@ -239,8 +239,8 @@ Value Missing(const Parameter& parameter) {
   }
 }
 
-// What a parameter has when it was never looked at: a word is then the first of its enumeration,
-// where that counts from 0.
+// The value of a parameter that was never read. A word is then the first of its enumeration, if
+// that counts from 0.
 Value Untouched(const Parameter& parameter) {
   const bool isAddressType =
       parameter.type == ParameterType::Word && parameter.words->name == "AddrType";

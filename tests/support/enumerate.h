@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Small inputs, all of them, for tests.
+// All small inputs, for tests.
 #pragma once
 
 #include <cstddef>

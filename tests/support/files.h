@@ -9,12 +9,12 @@
 
 namespace a2l::test {
 
-/// The bytes of a file; a test failure and the empty text when it cannot be read.
+/// The bytes of a file. If it cannot be read, the test fails, and the text is empty.
 std::string ReadFile(const std::filesystem::path& path);
 
 void WriteFile(const std::filesystem::path& path, std::string_view bytes);
 
-/// A folder of its own for one test, removed with everything in it.
+/// A folder for one test, which is removed with everything in it.
 class TemporaryFolder {
  public:
   TemporaryFolder();
@@ -23,7 +23,7 @@ class TemporaryFolder {
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
   [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
-  /// Something in the folder; the name is UTF-8 (see FilePath).
+  /// The path of something in the folder. The name is UTF-8 (see FilePath).
   [[nodiscard]] std::filesystem::path operator/(std::string_view name) const;
 
  private:

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// A reader for JSON text that knows the form of the document and accepts nothing else: one value
-// on one line, a blank behind every comma and colon and none elsewhere, the keys of every object
-// in ascending order of their bytes and none twice. Bytes from 0x80 up pass as they are, since
-// texts are in whatever character set the file has. Independent of the code that writes JSON.
+// A reader for JSON text that accepts only the form of the document: one value on one line, a blank
+// behind every comma and colon and nowhere else, the keys of every object in ascending order of
+// their bytes, and no key twice. It accepts all bytes from 0x80 up, because texts may have any
+// character set. It is independent of the code that writes JSON.
 #pragma once
 
 #include <cstddef>
@@ -16,7 +16,7 @@ namespace a2l::test {
 
 class JsonCheck {
  public:
-  /// What is wrong with `text` and where; empty when nothing is.
+  /// Says what is wrong with `text` and where. Empty if nothing is wrong.
   static std::string Complaint(std::string_view text) {
     JsonCheck check(text);
     if (check.Document()) return {};
@@ -31,7 +31,7 @@ class JsonCheck {
 
   explicit JsonCheck(std::string_view text) : text_(text) {}
 
-  // The brackets that are open are kept here and not on the call stack, however many there are.
+  // The open brackets are kept here and not on the call stack, because there may be any number.
   bool Document() {
     while (true) {
       if (Take('{')) {
@@ -48,7 +48,7 @@ class JsonCheck {
       } else if (!Scalar()) {
         return false;
       }
-      // Behind a value: brackets that end with it, then the next one or the end.
+      // Behind a value: closing brackets, then the next value or the end.
       while (!open_.empty() && Take(open_.back().isObject ? '}' : ']')) open_.pop_back();
       if (open_.empty()) return position_ == text_.size() || Complain("text behind the value");
       if (!Take(", ")) return Complain("expected a comma or a bracket");
@@ -144,7 +144,7 @@ class JsonCheck {
     return true;
   }
 
-  // NUL at the end of the text; it is no part of JSON anywhere.
+  // NUL at the end of the text. It never occurs in JSON.
   [[nodiscard]] char Peek() const { return position_ < text_.size() ? text_[position_] : '\0'; }
   bool Take(char c) {
     if (position_ == text_.size() || text_[position_] != c) return false;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The kinds of elements as the format numbers them, for tests: written out independently of the
+// The kinds of elements with their numbers, for tests. They are written out independently of the
 // program's own table.
 #pragma once
 
@@ -14,7 +14,7 @@
 
 namespace a2l::test {
 
-/// Keywords that take consecutive numbers.
+/// Keywords with consecutive numbers.
 struct KeywordGroup {
   std::int32_t first;
   std::int32_t last;
@@ -62,8 +62,8 @@ inline constexpr KeywordGroup kKeywordGroups[] = {
      "VAR_SELECTION_CHARACTERISTIC VERSION"},
 };
 
-/// The words of `text`. A word that ends in "_*" stands for the five keywords of a family: those
-/// of the axes X, Y, Z, 4 and 5.
+/// The words of `text`. A word that ends in "_*" stands for the five keywords of a family, those
+/// for the axes X, Y, Z, 4 and 5.
 inline std::vector<std::string> Words(std::string_view text) {
   std::istringstream in{std::string(text)};
   std::vector<std::string> words;
@@ -93,8 +93,7 @@ inline std::vector<NumberedKeyword> AllKeywords() {
   return all;
 }
 
-/// The kinds that elements can be made of: those of the keywords but ENCODING, and
-/// KIND_UNKNOWN.
+/// The kinds that have elements: those of all keywords except ENCODING, and KIND_UNKNOWN.
 inline std::vector<ElementKind> KindsWithAClass() {
   std::vector<ElementKind> kinds;
   for (const NumberedKeyword& keyword : AllKeywords()) {

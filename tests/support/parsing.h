@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Elements with their parameters, without a file around them, for tests.
+// Elements with their parameters, without a file, for tests.
 #pragma once
 
 #include <cstddef>
@@ -12,16 +12,16 @@
 
 namespace a2l::test {
 
-/// What an element makes of its parameters.
+/// The result of giving an element its parameters.
 struct ParseRow {
   std::string keyword;
-  std::string text;     ///< what follows the keyword
-  bool ok;              ///< what ParseParameters gives
-  std::string rest;     ///< what it leaves in the text
+  std::string text;     ///< the text behind the keyword
+  bool ok;              ///< the result of ParseParameters
+  std::string rest;     ///< the rest that it leaves of the text
   std::string written;  ///< the element as A2L text, at level 0
 };
 
-/// Checks a row; element and text are freshly made.
+/// Checks a row with a new element and a new text.
 void ExpectParse(const ParseRow& row);
 
 template <std::size_t kSize>
@@ -29,13 +29,13 @@ void ExpectParse(const ParseRow (&rows)[kSize]) {
   for (const ParseRow& row : rows) ExpectParse(row);
 }
 
-/// An element of a class in a tree of its own. Parameters come from a text that does not outlive
-/// the call, so that an element that kept a view into it is found out.
+/// An element of a class in a tree of its own. The text of the parameters does not outlive the
+/// call. So an element that keeps a view into it is found.
 template <class Class>
 class Made {
  public:
   Made() = default;
-  /// Made and read; see `ok` and `rest`.
+  /// Makes the element and gives it its parameters; see `ok` and `rest`.
   explicit Made(std::string_view text) { Parse(text); }
 
   bool Parse(std::string_view text) {

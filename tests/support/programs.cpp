@@ -20,7 +20,7 @@ namespace fs = std::filesystem;
 
 #ifdef _WIN32
 
-// `text` as one argument in a command line: quotes, and the backslashes before them, are escaped.
+// `text` as one argument of a command line. Quotes, and the backslashes before them, are escaped.
 std::wstring Quoted(const std::wstring& text) {
   std::wstring quoted = L"\"";
   std::size_t backslashes = 0;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Programs and what they leave behind, for tests.
+// Runs of programs and their results, for tests.
 #pragma once
 
 #include <filesystem>
@@ -9,15 +9,15 @@
 
 namespace a2l::test {
 
-/// What a run of the program left behind.
+/// The result of a run of the program.
 struct RunResult {
-  int exitCode;  ///< its low eight bits, which every system reports: -1 is 255
+  int exitCode;  ///< the low eight bits, which every system reports: -1 is 255
   std::string out;
   std::string err;
 };
 
-/// Runs the built program; where there is a `launcher`, a program with its arguments, by that. The
-/// arguments, which may be any texts, are paths so that each is in the characters of the system.
+/// Runs the built program. `launcher` is empty, or a program with its arguments that runs it. The
+/// arguments may be any texts. They are paths so that each has the characters of the system.
 RunResult RunProgram(const std::vector<std::filesystem::path>& arguments,
                      const std::vector<std::filesystem::path>& launcher = {});
 

@@ -13,7 +13,7 @@
 
 namespace a2l::test {
 
-/// Gives a text in pieces of a few bytes, however many are asked for.
+/// Gives a text in pieces of a few bytes, even if more are asked for.
 class DrippingBuffer : public std::streambuf {
  public:
   DrippingBuffer(std::string text, std::size_t piece) : text_(std::move(text)), piece_(piece) {}
@@ -34,7 +34,7 @@ class DrippingBuffer : public std::streambuf {
   std::size_t given_ = 0;
 };
 
-/// Gives the first bytes of a text, then fails as a broken device does.
+/// Gives the first bytes of a text, then fails like a broken device.
 class FailingBuffer : public std::streambuf {
  public:
   FailingBuffer(std::string text, std::size_t good) : text_(std::move(text)), good_(good) {}

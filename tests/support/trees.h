@@ -11,7 +11,7 @@
 
 namespace a2l::test {
 
-/// What the reader made of a text.
+/// The result of reading a text.
 struct Reading {
   bool ok;
   Tree root;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Large texts that are made while they are read.
+// Large texts, made while they are read.
 #pragma once
 
 #include <array>
@@ -18,8 +18,8 @@
 
 namespace a2l::test {
 
-/// What unoptimised and instrumented builds divide the sizes by, so that the tests take seconds
-/// there, too.
+/// Unoptimised and instrumented builds divide the sizes by this, so that the tests take only
+/// seconds there, too.
 #if defined(__SANITIZE_ADDRESS__) || !defined(NDEBUG)
 inline constexpr std::size_t kScaleDown = 16;
 #elif defined(__has_feature)
@@ -35,7 +35,7 @@ inline constexpr std::size_t kScaleDown = 1;
 inline constexpr std::size_t kMillion = 1000000 / kScaleDown;
 inline constexpr std::size_t kMegabyte = std::size_t{1024} * 1024 / kScaleDown;
 
-/// A text, `times` over.
+/// A text, repeated `times` times.
 struct Part {
   Part(const char* bytes) : text(bytes) {}  // NOLINT(google-explicit-constructor)
   Part(std::string_view bytes, std::size_t count) : text(bytes), times(count) {}
@@ -68,7 +68,7 @@ class GeneratedBuffer : public std::streambuf {
   }
 
  private:
-  // Sees to it that `text_` holds what comes next; false at the end.
+  // Fills `text_` with the next bytes. False at the end.
   bool FindText() {
     while (text_.empty()) {
       if (part_ == parts_.size()) return false;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// A conversion takes memory and time in proportion to its input: for every shape of input that
-// some part of the program could take too much work for, its cost is compared with the cost of an
-// input sixteen times as long. No clock is read. Steps of growth (buffers that double) even out
-// over two quadruplings, so the cost may grow by 25, which is five for each of them.
+// A conversion takes memory and time in proportion to its input. For every shape of input that
+// might cause some part of the program too much work, this compares the cost with that of an input
+// sixteen times as long. It does not read a clock. Growth in steps (of buffers that double) evens
+// out over two quadruplings. So the cost may grow by 25, that is, by five for each of them.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -32,11 +32,11 @@ struct Shape {
   Parts before;
   Part repeated;
   Parts after;
-  /// Set where the number of repetitions stands between the parts before them and those.
+  /// Set if the number of repetitions stands between the parts before them and the repetitions.
   bool isCounted = false;
 };
 
-// What stands around the content of a module.
+// The text around the content of a module.
 Shape InModule(const char* name, std::string_view open, Part repeated, const char* close) {
   return {name,
           {"/begin PROJECT p \"\"\n/begin MODULE m \"\"\n", Part(open, 1)},
@@ -123,7 +123,7 @@ std::vector<Shape> Shapes() {
   };
 }
 
-// Everything that a user does with a text of the shape, `times` over.
+// Everything that a user does with a text that repeats the shape `times` times.
 std::function<void()> Work(const Shape& shape, std::size_t times) {
   return [&shape, times] {
     Parts parts = shape.before;
@@ -141,10 +141,10 @@ std::function<void()> Work(const Shape& shape, std::size_t times) {
 
 using Meter = std::optional<std::uint64_t> (*)(const std::function<void()>& work);
 
-// True unless the meter does not work here.
+// True if the meter works here.
 bool ExpectProportion(Meter meter, std::size_t times) {
   return std::ranges::all_of(Shapes(), [&](const Shape& shape) {
-    Work(shape, times)();  // what is made once and for all does not count
+    Work(shape, times)();  // one-time initialisation does not count
     const std::optional<std::uint64_t> less = meter(Work(shape, times));
     if (!less.has_value()) return false;
     const std::optional<std::uint64_t> more = meter(Work(shape, kFactor * times));
@@ -166,7 +166,8 @@ TEST(Linear, WorkGrowsWithTheInput) {
   }
 }
 
-// A line that does not fit into the buffer is searched once, however often the buffer grows for it.
+// A line that does not fit into the buffer is searched only once, even if the buffer grows several
+// times.
 TEST(Linear, WorkGrowsWithALine) {
   const auto search = [](std::size_t size, std::size_t pieceSize) {
     return ExecutedInstructions([=] {
@@ -184,7 +185,7 @@ TEST(Linear, WorkGrowsWithALine) {
   EXPECT_LE(search(kFactor * size, pieceSize), kMostGrowth * *less);
 }
 
-// The meters themselves: they see the work that is done, and four times as much of it.
+// Tests the meters: they measure work, and four times as much work.
 TEST(Meters, CountWhatIsAllocated) {
   const auto allocate = [](std::size_t size) {
     return AllocatedBytes([size] { EXPECT_EQ(std::string(size, 'x').size(), size); });

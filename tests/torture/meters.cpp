@@ -19,7 +19,7 @@
 #include <unistd.h>
 #endif
 
-// The sanitizers have an operator new of their own, which knows more than this one.
+// The sanitizers have their own operator new, which knows more than this one.
 #if defined(__SANITIZE_ADDRESS__)
 #define A2L_OWN_OPERATOR_NEW 0
 #elif defined(__has_feature)
@@ -39,7 +39,7 @@ thread_local std::uint64_t allocated = 0;
 }  // namespace
 
 #if A2L_OWN_OPERATOR_NEW
-// Weak, so that another test may bring its own, strong ones; nothing is counted then.
+// These are weak, so that another test may define strong ones. Nothing is counted then.
 // NOLINTBEGIN(cppcoreguidelines-no-malloc)
 __attribute__((weak)) void* operator new(std::size_t size) {
   allocated += size;
@@ -68,7 +68,7 @@ std::optional<std::uint64_t> AllocatedBytes(const std::function<void()>& work) {
 
 namespace {
 
-// A counter of this process' instructions outside of the kernel.
+// Counts the instructions of this process outside of the kernel.
 class InstructionCounter {
  public:
   InstructionCounter() {
@@ -130,7 +130,7 @@ std::optional<std::uint64_t> CountedBySystem(const std::function<void()>& /*work
 
 namespace {
 
-// Each call has Callgrind write a file of its own, the number of which is appended to the name.
+// With each call Callgrind writes another file, whose number it appends to the name.
 std::optional<std::uint64_t> CountedByCallgrind(const std::function<void()>& work) {
   static int files = 0;
   // NOLINTNEXTLINE(concurrency-mt-unsafe): the tests have one thread

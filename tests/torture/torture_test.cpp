@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Inputs of extreme size or shape. What must come of them is stated by hand, sizes included; that
-// they end at all is the other half of what is tested, since anything that grows faster than the
-// input would not.
+// Inputs of extreme size or shape. Their results, including sizes, were worked out by hand. That
+// the tests end at all is also a result: work that grows faster than the input would not end.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -45,7 +44,7 @@ void ExpectClean(const Reading& reading) {
   EXPECT_EQ(reading.reader.message, "");
 }
 
-// Exactly one thing reported, and the result that goes with it.
+// Exactly one message, and the result that belongs to it.
 void ExpectOne(const Reading& reading, DiagnosticKind kind, std::size_t line,
                std::string_view subject) {
   ASSERT_EQ(reading.reader.diagnostics.size(), 1U);
@@ -93,7 +92,7 @@ TEST(Torture, ATextWithoutClosingQuoteTakesTheRestOfItsBlock) {
   const Reading reading =
       ReadParts({kHead, "/begin MOD_COMMON \"", {"a b\n", count}, "/end MOD_COMMON\n", kTail});
   ExpectOne(reading, DiagnosticKind::NeedMoreParameters, count + 3, "1");
-  // Lines are joined by a blank; the white space at the end goes.
+  // Lines are joined by a blank. The white space at the end is lost.
   EXPECT_EQ(FirstInModule<VoA2LElementModCommon>(reading).COMMENT.size(), count * 4 - 1);
 }
 
@@ -176,8 +175,8 @@ TEST(Torture, AListOfAMillionNames) {
   }
 }
 
-// Every fourth block accepts a project, which begins the next round. The depth is the same in
-// every build: it is the stack that is tested, and an instrumented one holds less.
+// Every fourth block accepts a project, which begins the next round. The depth is the same in every
+// build, because this tests the stack, and instrumented builds have room for less on it.
 TEST(Torture, BlocksNested300000Deep) {
   const std::size_t rounds = 75000;
   Reading reading =
@@ -193,7 +192,7 @@ TEST(Torture, BlocksNested300000Deep) {
     ++depth;
   }
   EXPECT_EQ(depth, 4 * rounds);
-  // What is inside a list is neither exported nor written.
+  // Elements inside a list are neither exported nor written.
   const std::string json = JsonOf(reading);
   EXPECT_EQ(CountOf("\"FVIRTUAL\": \"a\"", json), 1U);
   EXPECT_EQ(CountOf("\"FMEASUREMENT\": [{", json), 1U);
@@ -262,8 +261,8 @@ TEST(Torture, AMillionMarkersInInterfaceData) {
   EXPECT_EQ(CountOf("\n/end A", data), count);
 }
 
-// The declared count decides nothing but how many tokens are waited for, and that number wraps
-// around at 32 bits and is then taken as a signed one.
+// The declared count only decides how many tokens the reader waits for. That number wraps around at
+// 32 bits and is then taken as a signed one.
 TEST(Torture, TheLargestCountsWithoutARow) {
   struct Row {
     const char* table;
@@ -323,7 +322,7 @@ TEST(Torture, NulBytesAreBytes) {
   ExpectOne(ReadParts({{"\0"sv, count}}), DiagnosticKind::UnexpectedElement, 1,
             std::string(count, '\0'));
   Reading reading = Read("/begin PROJECT p\0q \"a\0b\"\n/end PROJECT\0\n"sv);
-  // The keyword has a NUL in it, and is none.
+  // This word has a NUL in it, so it is not a keyword.
   ExpectOne(reading, DiagnosticKind::EndDoesNotMatch, 2, "PROJECT");
   const auto& project = static_cast<const VoA2LElementProject&>(*reading.root->Child(0));
   EXPECT_EQ(project.NAME, "p\0q"sv);
@@ -369,7 +368,7 @@ TEST(Torture, AMillionBlocksBesideEachOtherOnOneLine) {
 TEST(Torture, AMillionCriteriaOfWhichHalfOccurTwice) {
   const std::size_t names = kMillion / 2;
   const auto pair = [](std::size_t i) {
-    // Every name once, in no order, then all of them again with another value.
+    // Every name once, in mixed order, then all of them again with another value.
     return "c" + std::to_string(i * 7919 % names) + (i < names ? " first\n" : " second\n");
   };
   Reading reading = ReadParts({kHead,
@@ -385,7 +384,7 @@ TEST(Torture, AMillionCriteriaOfWhichHalfOccurTwice) {
 
 TEST(Torture, RandomBytesEndInADocument) {
   std::minstd_rand random(20240229);
-  // Plain bytes, and bytes from which markers, quotes and comments come about by themselves.
+  // Plain bytes, and bytes that often form markers, quotes and comments.
   for (const std::string_view alphabet : {""sv, "/begindX \n\"*\\\r\t"sv}) {
     for (int round = 0; round < 20; ++round) {
       std::string bytes;
