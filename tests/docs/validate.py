@@ -1,13 +1,12 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Holds docs/json.schema.json against every document in the repository.
+"""Checks every document in the repository against docs/json.schema.json.
 
-All golden documents and those of the examples must conform to it, and what is made of one of
-them by spoiling a single place must not: each key missing, each value of a wrong type, each
-object with a key too many.
+All golden documents and those of the examples must conform to it. One of them, spoiled at a single
+place, must not: with a key missing, a value of a wrong type, or a key too many in an object.
 
-Needs the Python package jsonschema, 4.0 or newer (python3-jsonschema on Debian); without it, says
-so and ends with the exit code 77.
+Needs the Python package jsonschema, 4.0 or newer (python3-jsonschema on Debian). Without it,
+says so and ends with the exit code 77.
 """
 
 import copy
@@ -24,13 +23,13 @@ except ImportError:
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 SPOILED = ROOT / "examples" / "demo.json"  # every kind of object is in it
 
-# Objects whose keys need not be there, and those whose keys come from the file.
+# Keys that may be missing, and the object whose keys come from the file.
 OPTIONAL_KEYS = ("FANNOTATION_LABEL", "FANNOTATION_ORIGIN", "FANNOTATION_TEXT")
 FREE_KEYS = "FVAR_FORBIDDEN_COMB"
 
 
 def load(path):
-    """A document. Bytes of texts pass through the converter, so any byte may be in them."""
+    """A document. Its texts may hold any byte, because bytes pass through the converter."""
     return json.loads(path.read_bytes().decode("latin-1"))
 
 
@@ -50,7 +49,7 @@ def check_documents(validator):
 
 
 def objects_in(value, path=()):
-    """Every object of a document with the path to it; of the items of an array, the first."""
+    """Every object of a document with its path; of an array, only the first item."""
     if isinstance(value, dict):
         yield path, value
         for key, member in value.items():
@@ -66,7 +65,7 @@ def at(document, path):
 
 
 def spoilings(document):
-    """What can be wrong with a document: the name of each fault, and how it is made."""
+    """Possible faults of a document: the name of each, and a function that makes it."""
     for path, members in objects_in(document):
         free = FREE_KEYS in path
         extra = 0 if free else "a text"

@@ -50,10 +50,10 @@ TEST(ReadText, UnquotesTheTokenWithoutCuttingIt) {
       {R"( "a b" c)", "a b", " c"},
       {R"("")", "", ""},
       {R"( "a""b\\\n" c)", "a\"b\\\n", " c"},
-      // A quote behind a backslash never closes, an escaped backslash included.
+      // A quote behind a backslash never closes, even if that backslash is escaped.
       {R"( "a\\" c)", "a\\", ""},
       {'"' + longText + "\" b", longText, " b"},
-      // A value without quotes is no text; it is gone all the same.
+      // A value without quotes is not a text, but it is taken all the same.
       {" word more words", "", " more words"},
       {"", "", ""},
       {R"("open end)", "open end", ""},
@@ -67,7 +67,7 @@ TEST(ReadText, UnquotesTheTokenWithoutCuttingIt) {
   }
 }
 
-// Texts without escapes take a shorter way, which must lead to the same place.
+// Texts without escapes take a shorter way, which must give the same result.
 TEST(ReadText, AgreesWithUnquoteOnEverySmallText) {
   TreeStore store;
   for (const std::string& line : AllTexts("\"\\n a", 6)) {

@@ -33,7 +33,7 @@ Json Parsed(const std::string& text) {
   return json;
 }
 
-// As much of a validator as this schema needs, patterns and bounds left out.
+// A validator for this schema, without patterns and bounds.
 class Validator {
  public:
   explicit Validator(Json schema) : schema_(std::move(schema)) {}
@@ -107,7 +107,7 @@ class Validator {
     });
   }
 
-  // A keyword that this validator passes over would make it say yes too often.
+  // If the validator ignored a keyword, it would accept too much.
   static bool Knows(const Json& schema) {
     static const std::set<std::string> kKnown = {
         "$schema",      "title",   "description", "$ref",    "$defs",

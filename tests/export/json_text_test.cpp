@@ -20,7 +20,7 @@ namespace {
 
 using json11::Json;
 
-// Everything that `write` writes.
+// The whole text that `write` writes.
 std::string TextOf(const std::function<void(JsonText&)>& write) {
   std::string text;
   JsonText json([&text](std::string_view piece) { text += piece; });
@@ -140,7 +140,7 @@ TEST(JsonText, WritesRealsWith17Digits) {
 TEST(JsonText, WritesRealsAsJson11Does) {
   constexpr std::uint64_t kFraction = (std::uint64_t{1} << 52) - 1;
   std::mt19937_64 random(42);
-  for (std::uint64_t exponent = 0; exponent < 0x1000; ++exponent) {  // sign included
+  for (std::uint64_t exponent = 0; exponent < 0x1000; ++exponent) {  // including the sign
     for (const std::uint64_t fraction :
          {std::uint64_t{0}, std::uint64_t{1}, kFraction, random() & kFraction}) {
       const auto value = std::bit_cast<double>(exponent << 52 | fraction);
@@ -208,8 +208,8 @@ TEST(JsonText, WritesPreparedKeysLikeOthers) {
                   R"({"FNAME": null, "FNAME": null})");
 }
 
-// Wherever the end of the internal buffer falls, inside an escape, a number or a key, the text
-// is the same.
+// The end of the internal buffer may fall inside an escape, a number or a key: the text is the
+// same.
 TEST(JsonText, IsTheSameAcrossBufferEnds) {
   const KeyText key("FNAME");
   constexpr std::size_t kBuffer = std::size_t{64} * 1024;

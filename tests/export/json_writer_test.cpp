@@ -42,7 +42,7 @@ class JsonWriterTest : public testing::Test {
   TemporaryFolder folder_;
   fs::path json_ = folder_ / "out.json";
 
-  // The document, which both writers must agree on.
+  // The document, which must be the same from both writers.
   json11::Json Document() {
     const std::string text = ToJson(*root_);
     EXPECT_EQ(text, ToJson11(*root_).dump());
@@ -89,7 +89,7 @@ TEST_F(JsonWriterTest, FailsWhereTheFileCannotBeOpened) {
   EXPECT_FALSE(writer.Export("", root_.get()));
   EXPECT_FALSE(fs::exists(folder_ / "missing"));
 
-  // The next file is another matter.
+  // The next file can be written all the same.
   for (const char* name : {"first.json", "second.json"}) {
     EXPECT_TRUE(writer.Export((folder_ / name).string(), root_.get()));
     EXPECT_EQ(ReadFile(folder_ / name), ToJson(*root_));
@@ -102,7 +102,7 @@ TEST_F(JsonWriterTest, ReplacesWhatIsThere) {
   EXPECT_EQ(ReadFile(json_), ToJson(*root_));
 }
 
-// The written file does not depend on how the system writes lines.
+// The written file does not depend on the line ends of the system.
 TEST_F(JsonWriterTest, WritesBytesAsTheyAre) {
   module_->LONG_IDENTIFIER = "\xE4\x80\xFF\x7F\x1A";
   EXPECT_TRUE(JsonWriter().Export(json_.string(), root_.get()));
@@ -148,7 +148,7 @@ TEST_F(JsonWriterTest, KeepsTheOrderOfThousandsOfChildren) {
 // Adds two children of every kind that `parent` accepts, and so on below those that are blocks.
 void Fill(VoA2LElement& parent) {
   for (const ElementKind kind : KindsWithAClass()) {
-    // A project below a list would go on for ever.
+    // With a project below a list this would never end.
     if (kind == ElementKind::PROJECT && parent.kind != KIND_ROOT) continue;
     for (int i = 0; i < 2; ++i) {
       VoA2LElement* child = CreateElement(kind, parent);
@@ -168,7 +168,7 @@ TEST_F(JsonWriterTest, WritesAFullTreeAsJson11Does) {
   EXPECT_GT(text.size(), 100000U);
 }
 
-// Values that no file gives, but an application can set.
+// Values that a file never gives, but an application can set.
 
 TEST_F(JsonWriterTest, WritesWordsThatReadingNeverGives) {
   auto* characteristic = Add<VoA2LElementCharacteristic>(*module_);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Which keyword may stand in which block, both ways: what belongs there is accepted, everything
-// else is refused, so that a misplaced keyword is reported instead of vanishing.
+// Which keyword may stand in which block. A block must accept every keyword that belongs to it and
+// refuse all others, so that a misplaced keyword is reported and does not vanish.
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -21,13 +21,13 @@
 namespace a2l::test {
 namespace {
 
-// The children of a block, unknown blocks understood.
+// The children of a block, without unknown blocks, which every block accepts.
 struct Block {
   std::string_view keyword;
   std::string_view children;
 };
 
-// What the root takes, and every element without children of its own.
+// The children of the root, and of every element without its own list of children.
 constexpr std::string_view kBase = "PROJECT A2ML_VERSION ASAP2_VERSION";
 
 constexpr Block kBlocks[] = {
@@ -134,7 +134,7 @@ constexpr Block kBlocks[] = {
     {"VIRTUAL_CHARACTERISTIC", kBase},
 };
 
-// Everything that can be offered as a child: all keywords, an unknown block, and a root.
+// All possible children: all keywords, an unknown block, and a root.
 std::vector<ElementKind> AllKinds() {
   std::vector<ElementKind> kinds = {KIND_ROOT, KIND_UNKNOWN};
   for (const NumberedKeyword& keyword : AllKeywords())

@@ -35,7 +35,7 @@ class ElementTest : public testing::Test {
   // An element of `kind` below the root's link, not yet attached.
   VoA2LElement* Make(ElementKind kind) { return CreateElement(kind, *root_); }
 
-  // An element of the base class that says it is of `kind`.
+  // An element of the base class with this kind.
   VoA2LElement* MakePlain(ElementKind kind, VoA2LElement* parent = nullptr) {
     auto* element = root_->store->Create<VoA2LElement>(parent);
     element->kind = kind;
@@ -156,12 +156,12 @@ TEST_F(ElementTest, WriteOfTheRootPutsTheVersionFirst) {
             "ASAP2_VERSION 1 71\n"
             "/begin PROJECT P \"\"\n"
             "/end PROJECT\n");
-  // They stay where they were put.
+  // They stay in their places.
   EXPECT_EQ(root_->Child(0), version);
   EXPECT_EQ(root_->Child(1), project);
 }
 
-// Each is taken to the front as it is met, so the last one ends up first.
+// Each one is moved to the front when it is found, so the last one comes first.
 TEST_F(ElementTest, WriteOfTheRootTakesSeveralVersionsToTheFrontOneByOne) {
   VoA2LElement* project = Make(ElementKind::PROJECT);
   VoA2LElement* unknown = Make(KIND_UNKNOWN);
@@ -257,7 +257,7 @@ TEST_F(ElementTest, WriteSucceedsOnAnOpenStream) {
     SCOPED_TRACE(Shown(kind));
     std::ostringstream out;
     EXPECT_TRUE(Make(kind)->Write(0, out));
-    // An unknown block leaves no trace; everything else is written under a keyword.
+    // An unknown block is not written. Everything else is written under a keyword.
     EXPECT_EQ(out.str().empty(), kind == KIND_UNKNOWN);
   }
   std::ostringstream out;
@@ -304,7 +304,7 @@ TEST_F(ElementTest, DestroyTreeLeavesTheParentOfARefusedChildAlone) {
 // An application may keep the root, or any single element, where it likes.
 TEST(ElementOnTheStack, CanBeTheRootOfATree) {
   VoA2LElement root;
-  DestroyTree(&root);  // has nothing to release yet
+  DestroyTree(&root);  // there is nothing to release yet
   for (int round = 0; round < 2; ++round) {
     A2LReader reader;
     std::istringstream in("/begin PROJECT P \"\"\n/end PROJECT\nASAP2_VERSION 1 71\n");
@@ -339,7 +339,7 @@ TEST(ElementOnTheStack, OfAnAxisFamilyIsMadeWithItsKind) {
   EXPECT_EQ(VoA2LElementRipAddrX(ElementKind::RIP_ADDR_W).kind, ElementKind::RIP_ADDR_W);
 }
 
-// A file may nest its blocks as deep as it is long.
+// Blocks may be nested as deep as the file is long.
 TEST_F(ElementTest, DeepTreesAreWrittenAndDestroyed) {
   VoA2LElement* innermost = root_.get();
   for (int depth = 0; depth < 300000; ++depth) {
@@ -359,7 +359,7 @@ struct ParameterCount {
   std::string_view keywords;
 };
 
-// How many tokens a keyword waits for before its line is complete.
+// The number of tokens that a keyword waits for.
 constexpr ParameterCount kParameterCounts[] = {
     {0,
      "BIT_OPERATION ANNOTATION VARIANT_CODING CONSISTENT_EXCHANGE DISCRETE GUARD_RAILS READ_ONLY "
@@ -460,7 +460,7 @@ TEST_F(ElementTest, EveryNewElementIsValidAndEmpty) {
   EXPECT_EQ(root_->ChildCount(), 0U) << "to create is not to attach";
 }
 
-// Elements need no store to begin with: trees can be built from plain objects.
+// Elements do not need a store: trees can be built from plain objects.
 TEST(PlainElement, SharesTheStoreOfItsParent) {
   VoA2LElement root;
   VoA2LElementProject project;

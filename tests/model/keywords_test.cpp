@@ -71,7 +71,8 @@ TEST(KeywordToKind, GivesUnknownForAnyOtherText) {
   EXPECT_EQ(KeywordToKind(std::string(100000, 'A')), KIND_UNKNOWN);
 }
 
-// A keyword cut short is mostly no keyword, but some begin with another.
+// A keyword without its last letters is not a keyword, except that some keywords begin with
+// another.
 TEST(KeywordToKind, KnowsNoAbbreviations) {
   std::set<std::string> keywords;
   for (const NumberedKeyword& entry : AllKeywords()) keywords.insert(entry.keyword);

@@ -55,7 +55,7 @@ TEST(List, HoldsTexts) {
   for (int i = 0; i < 1000; ++i) ASSERT_EQ(list[static_cast<std::size_t>(i)], std::to_string(i));
 }
 
-// Lists grow side by side, and take over arrays that others have outgrown.
+// Lists grow side by side, and use arrays that others have outgrown.
 TEST(List, DoesNotDisturbOthersOfItsStore) {
   TreeStore store;
   constexpr std::size_t kLists = 50;

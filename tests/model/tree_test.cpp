@@ -43,7 +43,7 @@ constexpr std::string_view kFile =
     "  /end MODULE\n"
     "/end PROJECT\n";
 
-// The names of what a walk comes by.
+// The names of the elements of a walk.
 template <class Range>
 std::vector<std::string> Names(const Range& range) {
   std::vector<std::string> names;

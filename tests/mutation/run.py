@@ -1,16 +1,16 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Breaks the program on purpose, in one small way after the other, and reports which of them the
+"""Breaks the program on purpose, in one small way after the other, and reports which mutations the
 tests do not notice.
 
-The ways stand in mutations.txt: a line "@ <file>: <what it does>", then lines that begin with "-"
-(the text to replace, which must occur exactly once) and with "+" (what takes its place). Each is
-applied to a copy of the repository in build/mutation, which is then built and tested, the fastest
-tests first, up to the first that fails.
+mutations.txt lists the mutations: a line "@ <file>: <what it does>", then lines that begin with "-"
+(the text to replace, which must occur exactly once) and with "+" (the text that takes its place).
+Each mutation is applied to a copy of the repository in build/mutation. The copy is built and tested, the
+fastest tests first, up to the first failure.
 
-Exits with 1 when a mutation survives, with 2 when a text of mutations.txt does not occur exactly
-once, the tests fail without any mutation, or a mutated program does not compile: what the tests
-would say to it is then unknown, unless it is a static assertion that notices.
+The exit code is 1 if a mutation survives. It is 2 if a text of mutations.txt does not occur exactly
+once, the tests fail without any mutation, or a mutated program does not compile: the tests cannot
+judge such a mutation, unless a static assertion has noticed it.
 """
 
 import argparse
@@ -29,10 +29,10 @@ WORK = ROOT / "build" / "mutation"
 COPY = WORK / "source"
 BUILD = WORK / "build"
 
-# What runs once the mutated program is built, with the test program of the unchanged tree: only
-# tests that look at the program from outside.
+# Run when the mutated program is built, by the test program of the unchanged tree: only tests that
+# look at the program from outside.
 OUTSIDE = [("program", "Program.*"), ("golden cases", "Cases/Golden.ProgramGives*")]
-# What runs once the tests are built again as well.
+# Run when the tests are built again as well.
 INSIDE = [
     ("unit tests", "-Cases/*:Generator.*:Torture.*:Linear.*:Program.*"),
     ("golden cases in the library", "Cases/*-*ProgramGives*"),
@@ -68,12 +68,13 @@ def read_mutations(path):
             sys.exit(f"{path}:{number}: a line begins with @, -, + or #")
     for mutation in mutations:
         mutation.old, mutation.new = "\n".join(mutation.old), "\n".join(mutation.new)
-    # Mutations of one file next to each other: what depends on it is then built once for each.
+    # Mutations of one file come next to each other, so that files that depend on it are built only
+    # once for each.
     return sorted(mutations, key=lambda mutation: mutation.file)
 
 
 def check(mutations):
-    """Every text must be there exactly once, before anything is built."""
+    """Checks, before anything is built, that every text occurs exactly once."""
     complaints = []
     for mutation in mutations:
         path = ROOT / mutation.file
@@ -86,7 +87,7 @@ def check(mutations):
 
 
 def copy_tree():
-    """Brings the copy up to date; files that are the same keep their time."""
+    """Brings the copy up to date. Files that are the same keep their time."""
     listing = subprocess.run(
         ["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"],
         cwd=ROOT, check=True, stdout=subprocess.PIPE).stdout.decode()
@@ -114,12 +115,13 @@ def build(target, jobs):
 def limit_resources():
     limit = 6 << 30
     resource.setrlimit(resource.RLIMIT_AS, (limit, limit))
-    # Also for the program that a test runs, which nobody ends when the test itself is ended.
+    # Also limits the program that a test runs, because nobody ends that program when the test is
+    # ended.
     resource.setrlimit(resource.RLIMIT_CPU, (SECONDS, SECONDS))
 
 
 def run_tests(program, stages):
-    """The stage and the first test that fails; None when none does."""
+    """The stage and the first test that fails, or None."""
     for stage, tests in stages:
         try:
             result = subprocess.run(
@@ -136,7 +138,7 @@ def run_tests(program, stages):
 
 
 def compile_verdict(target, jobs):
-    """None where the target compiles."""
+    """None if the target compiles."""
     result = build(target, jobs)
     if result.returncode == 0:
         return None
@@ -144,7 +146,7 @@ def compile_verdict(target, jobs):
 
 
 def verdict(tests, jobs):
-    """Who notices the mutation that the copy holds; None when nobody does."""
+    """Who notices the mutation in the copy, or None."""
     if (noticed := compile_verdict("a2l2json", jobs)) is not None:
         return noticed
     caught = run_tests(tests, OUTSIDE)

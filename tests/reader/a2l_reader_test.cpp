@@ -37,7 +37,7 @@ constexpr std::string_view kSmallFile =
     "  WORD\n"
     "/end PROJECT\n";
 
-// What becomes of a text below a root of the test's own.
+// The result of reading a text below a root that the test made.
 struct Result {
   bool ok;
   std::string message;
@@ -59,7 +59,7 @@ TEST(A2LReader, RefusesAStreamThatHasFailedAlready) {
   EXPECT_FALSE(reader.Parse(failed, root.get()));
   EXPECT_EQ(reader.fileError, FileError::NotOpened);
   EXPECT_EQ(reader.message, "");
-  // One that is at its end has nothing in it, and that is no failure.
+  // A stream at its end has no text, which is not a failure.
   std::istringstream ended("");
   ended.setstate(std::ios::eofbit);
   EXPECT_TRUE(reader.Parse(ended, root.get()));
@@ -127,7 +127,7 @@ TEST(A2LReader, ReadsATextInMemoryAsItReadsAFile) {
   EXPECT_TRUE(reader.ParseText("/begin PROJECT P \"\0\""sv, Tree().get()));
 }
 
-// A large text is not copied as a whole, only what the tree keeps of it.
+// Of a large text, only the parts that the tree keeps are copied.
 TEST(A2LReader, TakesLittleMemoryForATextInMemory) {
   const std::string text(std::size_t{16} * 1024 * 1024, '\n');
   Tree root;
@@ -137,7 +137,7 @@ TEST(A2LReader, TakesLittleMemoryForATextInMemory) {
   EXPECT_LT(*bytes, std::uint64_t{1024} * 1024);
 }
 
-// Readers and trees share nothing.
+// Readers and trees have nothing in common.
 TEST(A2LReader, ReadsInSeveralThreadsAtATime) {
   const std::string text = ReadFile(kExamples / "demo.a2l");
   const std::string expected = ReadFile(kExamples / "demo.json");
@@ -157,7 +157,7 @@ TEST(A2LReader, ReadsInSeveralThreadsAtATime) {
   for (const std::string& document : documents) EXPECT_EQ(document, expected);
 }
 
-// A tree that is only looked at may be looked at by several threads.
+// Several threads may look at a tree that nobody changes.
 TEST(A2LReader, GivesATreeThatThreadsMayShare) {
   Tree tree;
   A2LReader reader;
@@ -174,7 +174,7 @@ TEST(A2LReader, GivesATreeThatThreadsMayShare) {
   for (const std::string& document : documents) EXPECT_EQ(document, expected);
 }
 
-// What was wrong with one file does not stand in the way of the next.
+// A failure in one file does not affect the next.
 TEST(A2LReader, ReadsOneFileAfterTheOther) {
   const TemporaryFolder folder;
   WriteFile(folder / "in.a2l", kSmallFile);
@@ -263,12 +263,12 @@ TEST(A2LReader, FailsOnABrokenDeviceWithTheMessagesSoFar) {
   EXPECT_TRUE(
       reader.message.starts_with("Warning: Line(1) unexpected element WORD\n"
                                  "Warning: Line(2) unexpected element WORD\n"));
-  // The half line before the failure is not looked at, and the failure itself says nothing.
+  // The half line before the failure is not read, and the failure itself gives no message.
   EXPECT_EQ(reader.message.find("element WO\n"), std::string::npos);
   EXPECT_TRUE(reader.message.ends_with("unexpected element WORD\n"));
 }
 
-// What was opened can be read to its end, even if its name is gone by then.
+// An open file can be read to its end, even if its name has been removed.
 TEST(A2LReader, ReadsAFileThatIsRemovedMeanwhile) {
 #ifdef _WIN32
   GTEST_SKIP() << "an open file cannot be removed on this system";
@@ -287,7 +287,7 @@ TEST(A2LReader, ReadsAFileThatIsRemovedMeanwhile) {
 #endif
 }
 
-// A file that becomes shorter ends there, as if it had never been longer.
+// A file that becomes shorter during the read ends there, without a failure.
 TEST(A2LReader, ReadsAFileThatIsCutMeanwhile) {
   const TemporaryFolder folder;
   const auto path = folder / "in.a2l";
@@ -296,7 +296,7 @@ TEST(A2LReader, ReadsAFileThatIsCutMeanwhile) {
   WriteFile(path, text);
   std::ifstream in(path, std::ios::binary);
   in.get();
-  in.unget();  // so that a part has been read
+  in.unget();  // after a part has been read
   std::filesystem::resize_file(path, 1000000);
   Tree root(NewTree());
   A2LReader reader;
@@ -313,10 +313,10 @@ TEST(A2LReader, FailsOnABrokenDeviceInsideAComment) {
   EXPECT_EQ(reader.message, "") << "the comment may well be closed in what could not be read";
 }
 
-// --- Whose validity is at stake when parameters are wrong -------------------------------------
+// --- Which object is not valid when parameters are wrong ---------------------------------------
 
-// The lines of one object in a module, what is said about them, and whether the object is valid
-// in the end.
+// The lines of one object in a module, the messages about them, and whether the object is valid in
+// the end.
 struct Validity {
   std::string_view name;
   std::string_view lines;
@@ -329,7 +329,7 @@ constexpr Validity kValidities[] = {
      "/begin MEASUREMENT M \"\" UBYTE C 1 0 0 1\n"
      "ECU_ADDRESS 1\n",
      "", true},
-    // Numbers of its own.
+    // Numbers of the object itself.
     {"OwnNumber", "/begin MEASUREMENT M \"\" UBYTE C x 0 0 1\n",
      "Warning: Line(3) wrong parameters MEASUREMENT\n", false},
     {"OwnNumberOfBlob",
@@ -343,8 +343,8 @@ constexpr Validity kValidities[] = {
      "/begin ANNOTATION\n"
      "/end ANNOTATION\n",
      "Warning: Line(4) element need more parameters 10\n", false},
-    // A property that is complete on its line: the warning names the block around it, and the
-    // flag is that of the block's parent, here of a module, which has none to clear.
+    // A property that is complete on its line. The warning names the block around it. The flag is
+    // that of the parent of this block, here a module, which has no flag to clear.
     {"PropertyOnItsLine",
      "/begin MEASUREMENT M \"\" UBYTE C 1 0 0 1\n"
      "ECU_ADDRESS zz\n",
@@ -367,7 +367,8 @@ constexpr Validity kValidities[] = {
      "LIMITS 0 x\n"
      "/end OVERWRITE\n",
      "Warning: Line(5) wrong parameters OVERWRITE\n", false},
-    // A property that was collected over lines speaks for itself: the flag is its block's.
+    // A property that was collected over lines. The warning names the property, and the flag is
+    // that of its block.
     {"PropertyOverLines",
      "/begin MEASUREMENT M \"\" UBYTE C 1 0 0 1\n"
      "ECU_ADDRESS\n"
@@ -385,12 +386,12 @@ constexpr Validity kValidities[] = {
      "CALIBRATION_ACCESS\n"
      "NONE\n",
      "Warning: Line(5) wrong parameters CALIBRATION_ACCESS\n", false},
-    // One that its block ends before it is complete is read, but not judged.
+    // A property whose block ends before it is complete is read, but not judged.
     {"PropertyIncomplete",
      "/begin MEASUREMENT M \"\" UBYTE C 1 0 0 1\n"
      "MAX_REFRESH 1\n",
      "Warning: Line(5) element need more parameters 2\n", true},
-    // An open list is collected by nature.
+    // An open list is always collected.
     {"OpenList",
      "/begin MEASUREMENT M \"\" UBYTE C 1 0 0 1\n"
      "MATRIX_DIM 2 x 3\n",
@@ -416,7 +417,7 @@ constexpr Validity kValidities[] = {
      "/begin OVERWRITE O x\n"
      "/end OVERWRITE\n",
      "Warning: Line(4) wrong parameters OVERWRITE\n", false},
-    // Further down it is the parent alone that counts.
+    // Further down only the parent counts.
     {"FixAxisListWithABadNumber",
      "/begin CHARACTERISTIC K \"\" CURVE 0 D 0 C 0 1\n"
      "/begin AXIS_DESCR FIX_AXIS Q C 5 0 1\n"
@@ -452,10 +453,10 @@ TEST_P(ValidFlag, IsClearedWhereParametersOfTheObjectAreWrong) {
 INSTANTIATE_TEST_SUITE_P(Objects, ValidFlag, testing::ValuesIn(kValidities),
                          [](const auto& instance) { return std::string(instance.param.name); });
 
-// --- Roots that no file has -------------------------------------------------------------------
+// --- Roots that a file never has ---------------------------------------------------------------
 
-// An application may read a fragment below an element of its own. Then the text can end that
-// element, too.
+// An application may read a fragment below its own element. Then the text can end that element,
+// too.
 TEST(FragmentReading, EndOfTheRootItselfIsAnError) {
   struct Row {
     ElementKind kind;
@@ -467,9 +468,9 @@ TEST(FragmentReading, EndOfTheRootItselfIsAnError) {
       {ElementKind::PROJECT, "/end MODULE\n", "Error: Line(1) /end don't equal /begin PROJECT\n"},
       {ElementKind::PROJECT, "/end PROJECT /end PROJECT\n",
        "Error: Line(1) unexpected NULL pointer\n"},
-      // The root of a file has no keyword, which an unknown word does not close.
+      // The root of a file has no keyword, and an unknown word does not close it.
       {KIND_ROOT, "/end WORD\n", "Error: Line(1) /end don't equal /begin \n"},
-      // A root that is a property has no block around it.
+      // If the root is a property, there is no block around it.
       {ElementKind::FORMAT, "/end FORMAT\n", "Error: Line(1) unexpected NULL pointer\n"},
   };
   for (const Row& row : kRows) {
@@ -503,7 +504,7 @@ TEST(FragmentReading, ElementsWithoutAParentCannotBeLeft) {
       {"ASAP2_VERSION 1\n71\n", "", "2) unexpected NULL PTR\n"},
       {"ASAP2_VERSION\n1\nx\n", "Warning: Line(3) wrong parameters ASAP2_VERSION\n",
        "3) unexpected NULL PTR\n"},
-      // One that a begin line or an end line closes.
+      // A property that a begin line or an end line closes.
       {"ASAP2_VERSION 1\n/begin PROJECT P \"\"\n",
        "Warning: Line(2) element need more parameters 2\n", "2) unexpected NULL PTR\n"},
       {"ASAP2_VERSION 1\n\n/end PROJECT\n", "Warning: Line(3) element need more parameters 2\n",
@@ -542,7 +543,7 @@ TEST(FragmentReading, PropertiesOnTheirLineNeedNoParent) {
 
 // --- Sizes ------------------------------------------------------------------------------------
 
-// A list of 65535 entries on one line is complete there: what follows is no part of it.
+// A list of 65535 entries on one line is complete there. The following lines are not part of it.
 TEST(A2LReader, TakesAFullLineOfAnOpenListAtOnce) {
   struct Row {
     std::string_view head;
@@ -581,7 +582,7 @@ TEST(A2LReader, CountsTheTokensOfAFullLine) {
   EXPECT_EQ(list->IDENTIFIER_LIST[69999], "c69999");
 }
 
-// Neither reading nor writing nor freeing a tree depends on the call stack for its depth.
+// A tree of any depth can be read, written and freed, because none of this is recursive.
 TEST(A2LReader, ReadsBlocksOfAnyDepth) {
   constexpr int kRounds = 75000;
   std::string text;
@@ -601,7 +602,7 @@ TEST(A2LReader, ReadsBlocksOfAnyDepth) {
     ++depth;
   }
   EXPECT_EQ(depth, 4 * kRounds);
-  // The innermost block of a round is a list, which leaves its children out.
+  // The innermost block of a round is a list, which does not write its children.
   EXPECT_EQ(Written(*reading.root),
             "/begin PROJECT P \"\"\n"
             "  /begin MODULE M \"\"\n"

@@ -15,11 +15,11 @@ namespace {
 struct Result {
   bool ok;
   std::string text;
-  std::size_t taken;  // physical lines, the first included
+  std::size_t taken;  // physical lines, including the first
 };
 
-// Removes the comments of the first line. Each further line comes in the same buffer, which the
-// one before it does not survive.
+// Removes the comments of the first line. Each further line comes in the same buffer, and replaces
+// the line before it.
 Result Remove(CommentRemover& remover, const std::vector<std::string>& lines) {
   std::string buffer(256, '\0');
   std::size_t taken = 0;
@@ -67,7 +67,7 @@ TEST(CommentRemover, RemovesCommentsOfOneLine) {
       {"/begin X", "/begin X"},
       {"a */ b", "a */ b"},
       {"/ //x", "/ "},
-      // Behind a comment the scan goes on where the comment began, not before it.
+      // Behind a comment the scan goes on at the place where the comment began, not before it.
       {"a /**// b", "a / b"},
       {"a /**//* b */c", "a c"},
       {"a /**/// b", "a "},
@@ -81,13 +81,13 @@ TEST(CommentRemover, RemovesCommentsOfOneLine) {
       {R"("a\"//b" //c)", R"("a\"//b" )"},
       {R"("a\\" // b" //c)", R"("a\\" // b" )"},
       {R"("" //c)", R"("" )"},
-      // Joined to the text before it, a quote still opens a text of its own.
+      // A quote that is joined to the text before it still begins another text.
       {R"("a"/**/"b // c")", R"("a""b // c")"},
-      // A text that its line does not close hides the rest of the line.
+      // If a text is not closed on its line, it hides the rest of the line.
       {R"("x // y)", R"("x // y)"},
       {R"("x /* y)", R"("x /* y)"},
       {R"(/* a */ "x // y)", R"( "x // y)"},
-      // Inside a comment, a quote is nothing special.
+      // A quote inside a comment has no meaning.
       {R"(/* " */ a // b)", " a "},
       {R"(a // ")", "a "},
       {R"(don't // x)", "don't "},
@@ -114,7 +114,7 @@ TEST(CommentRemover, FollowsBlockCommentsOverLines) {
       {{"a /* b", "c */ d /* e", "f */ g", "h"}, "a  d  g", 3},
       {{"a /* b", "c */ d // e /*", "f"}, "a  d ", 2},
       {{"a /* b\r", "c */ d\r"}, "a  d\r", 2},
-      // Nothing stands between joined lines, so a star and a slash find each other.
+      // Nothing stands between joined lines, so a star and a slash come together.
       {{"a /* x *", "/ b"}, "a  b", 2},
       {{"a /* x *", "", "/ b"}, "a  b", 3},
       {{"a /* x *\r", "/ b */ c"}, "a  c", 2},

@@ -51,7 +51,7 @@ TEST(Diagnostic, HasAFixedTextAndSeverity) {
   }
 }
 
-// For those who write severity and line in a form of their own.
+// For programs that write severity and line in their own form.
 TEST(Diagnostic, SaysWhatWithoutSeverityAndLine) {
   for (const Row& row : kRows) {
     const Diagnostic diagnostic{row.kind, 7, std::string(row.subject)};

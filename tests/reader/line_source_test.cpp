@@ -45,7 +45,7 @@ TEST(LineSource, EndsLinesAtLineFeeds) {
   const Row rows[] = {
       {"", {}},
       {"a", {"a"}},
-      {"a\n", {"a"}},  // no further, empty line behind the last line feed
+      {"a\n", {"a"}},  // no empty line behind the last line feed
       {"\n", {""}},
       {"\n\n", {"", ""}},
       {"a\nb", {"a", "b"}},
@@ -66,8 +66,8 @@ TEST(LineSource, EndsLinesAtLineFeeds) {
   }
 }
 
-// Whatever size the pieces have in which the input is read, lines shorter and longer than one
-// come out whole.
+// Lines that are shorter or longer than the pieces in which the input is read come out whole, for
+// any size of the pieces.
 TEST(LineSource, HandsOutLinesOfAnyLength) {
   constexpr std::size_t kLengths[] = {262143, 0,      262144, 262145, 1, 1000000, 131072,
                                       131071, 524288, 3,      700000, 7, 2000003};
@@ -135,7 +135,7 @@ TEST(LineSource, HandsOutManyShortLines) {
   EXPECT_EQ(ReadAll(text).lines, lines);
 }
 
-// A device that gives less than was asked for has not ended.
+// If a device gives less than requested, it has not ended.
 TEST(LineSource, ReadsOnAfterShortReads) {
   DrippingBuffer buffer("first\nsecond line\n\nlast", 3);
   std::istream in(&buffer);
@@ -150,13 +150,13 @@ TEST(LineSource, TellsAFailureFromTheEnd) {
     std::istream in(&buffer);
     const Lines result = ReadAll(in);
     EXPECT_TRUE(result.failed);
-    // What was read of a line before the failure is no line.
+    // A part of a line before the failure is not a line.
     ASSERT_LE(result.lines.size(), whole.size());
     for (std::size_t i = 0; i < result.lines.size(); ++i) EXPECT_EQ(result.lines[i], whole[i]);
   }
 }
 
-// Of a large input, what lies well before the failure has been handed out.
+// The lines of a large input that lie well before the failure have been handed out.
 TEST(LineSource, HandsOutWhatCameBeforeAFailure) {
   std::string text;
   for (int i = 0; i < 1000000; ++i) text += "line\n";

@@ -79,7 +79,7 @@ TEST(AppendHex, WritesUpperCaseDigitsBehindTheSign) {
   EXPECT_EQ(Hex(std::numeric_limits<std::int32_t>::min()), "a 0x-80000000");
 }
 
-// A stream buffer that knows how often it was flushed.
+// A stream buffer that counts how often it was flushed.
 class CountingBuffer : public std::stringbuf {
  public:
   int flushes = 0;

@@ -28,7 +28,7 @@ using namespace std::string_view_literals;
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
-// That of MinGW-w64 rounds some numbers wrongly and finds none in "0x".
+// That of MinGW-w64 rounds some numbers wrongly, and does not find a number in "0x".
 #ifdef __MINGW32__
 constexpr bool kCLibraryErrs = true;
 #else
@@ -76,7 +76,7 @@ TEST(ReadUnsigned, FollowsTheRulesOfBaseZero) {
       {"-0x10", 4294967280, true},
       {"\t\n\v\f\r 5", 5, true},
       {" -5", 4294967291, true},
-      // 32 bits are all there is.
+      // Numbers have 32 bits.
       {"4294967295", 4294967295, true},
       {"4294967296", 4294967295, true},
       {"0xFFFFFFFF", 4294967295, true},
@@ -206,7 +206,7 @@ TEST(ReadReal, ReadsDecimalHexadecimalAndWords) {
       {"1e+3", 1000, true},
       {"1e-3", 0.001, true},
       {"0.10", 0.1, true},
-      {"010", 10, true},  // no octal among reals
+      {"010", 10, true},  // reals are never octal
       {"-1e308", -1e308, true},
       {"0x10", 16, true},
       {"0X1.8p1", 3, true},
@@ -349,8 +349,8 @@ std::vector<std::string> WholeNumberTokens() {
                   {"", "x", ".5", "e3", " 1", "-", "\t"}});
 }
 
-// What the C library says is by definition the answer; where its types are wider than 32 bits,
-// its result is brought to the bounds of 32.
+// The result of the C library is the right one by definition. If its types are wider than 32 bits,
+// its result is brought to the bounds of 32 bits.
 TEST(WholeNumbers, AreThoseOfTheCLibrary) {
   if (kCLibraryErrs) GTEST_SKIP() << kNoJudge;
   constexpr std::uint32_t kMost = std::numeric_limits<std::uint32_t>::max();
@@ -394,8 +394,8 @@ void ExpectRealOfTheCLibrary(const std::string& token) {
   }
 }
 
-// Every number of digits before and behind the point, around the length up to which a division
-// of two exact numbers gives the result.
+// All counts of digits before and behind the point that are near the largest count for which the
+// division of two exact numbers gives the result.
 TEST(ReadReal, ReadsDecimalsLikeTheCLibrary) {
   std::mt19937_64 random(20);
   for (std::size_t whole = 0; whole <= 18; ++whole) {
@@ -510,8 +510,8 @@ TEST(Reals, InHexadecimalAreThoseOfTheCLibrary) {
                 "p-99999999999999999999",
                 "e5"},
                {"", "x", "."}});
-  // More digits than a double holds; among the smallest numbers not every C library rounds them
-  // rightly.
+  // More digits than a double holds. Not every C library rounds them correctly for the smallest
+  // numbers.
   std::ranges::copy(Combine({{"0x", "-0x"},
                              {"1.00000000000008", "1.000000000000080000000001", "1.00000000000018",
                               "1.fffffffffffff7", "1.fffffffffffff8", "123456789abcdef0123456789"},
@@ -527,7 +527,7 @@ std::string Printed(const char* format, double value) {
   return text;
 }
 
-// A double of every magnitude, the smallest and the largest included.
+// A double of every magnitude, including the smallest and the largest.
 std::vector<double> ManyDoubles() {
   std::vector<double> values = {0.0, 0.1, 0.5, 1.0 / 3, 1e22, 1e23, 9007199254740993.0};
   std::mt19937_64 random(20240229);
@@ -600,8 +600,8 @@ TEST(ShortestText, IsPlainOrWithExponentWhicheverIsShorter) {
   for (const Row& row : kRows) EXPECT_EQ(ShortestText(row.value), row.text);
 }
 
-// True when one of the three numbers of so many digits that are nearest to `value` reads back
-// to it; `exponent` receives the exponent of its first digit.
+// True if one of the three numbers with that many digits that are nearest to `value` reads back to
+// it. `exponent` receives the exponent of its first digit.
 bool ReadsBackWith(int digits, double value, int& exponent) {
   const std::string format = "%." + std::to_string(digits - 1) + "e";
   std::string nearest = Printed(format.c_str(), value);
@@ -617,7 +617,8 @@ bool ReadsBackWith(int digits, double value, int& exponent) {
   });
 }
 
-// Length of the shortest text of a finite number, from the fewest digits that read back to it.
+// The length of the shortest text of a finite number, made of the fewest digits that read back to
+// it.
 std::size_t ShortestLength(double value) {
   int digits = 1;
   int exponent = 0;

@@ -14,7 +14,7 @@ namespace {
 
 using namespace std::string_view_literals;
 
-// Everything that matters to tokens, and one letter for all that does not.
+// All characters that matter to tokens, and one letter for all others.
 constexpr std::string_view kAlphabet = " \t\r\n\"\\a";
 
 TEST(Trim, TakesBlankTabLineFeedAndCarriageReturnOffBothEnds) {
@@ -45,7 +45,7 @@ TEST(NextToken, CutsTheFirstTokenAndLeavesTheRestAsItStands) {
       {"a b", "a", " b"},
       {" b", "b", ""},
       {"  a  b  ", "a", "  b"},
-      // A tab separates nothing, but it does not stick to the end of a token either.
+      // A tab does not separate tokens, but it is not part of the end of a token either.
       {"WORD\t1", "WORD\t1", ""},
       {"a\tb\tc d", "a\tb\tc", " d"},
       {"a\t b", "a", " b"},
@@ -64,12 +64,12 @@ TEST(NextToken, CutsTheFirstTokenAndLeavesTheRestAsItStands) {
       {R"("a \" b" c)", R"("a \" b")", " c"},
       {R"("say \"hi\"" x)", R"("say \"hi\"")", " x"},
       {R"("\"" a)", R"("\"")", " a"},
-      // Whatever stands before that backslash, another one included.
+      // This holds for anything before that backslash, including another backslash.
       {R"("a\\" b" c)", R"("a\\" b")", " c"},
-      // What follows a closing quote is the next token, with or without a blank between.
+      // Behind a closing quote comes the next token, with or without a blank between.
       {R"("a"b c)", R"("a")", "b c"},
       {R"("a"bc"d")", R"("a")", R"(bc"d")"},
-      // A quote inside a plain token opens nothing.
+      // A quote inside a plain token does not begin a quoted text.
       {R"(a"b c")", R"(a"b)", R"( c")"},
       {R"(\"a b)", R"(\"a)", " b"},
       // A quoted text that is not closed takes the whole rest.
@@ -116,7 +116,7 @@ TEST(CountTokens, CountsWhatNextTokenGives) {
       {R"("a""b")", 1},
       {R"("a" "b")", 2},
       {R"("a"""b)", 2},  // the third quote closes
-      {R"("a""b)", 0},   // the text goes on behind the doubled quote, to no end
+      {R"("a""b)", 0},   // the text goes on behind the doubled quote, and is never closed
       {R"(a b "c d)", 2},
       {R"("a" "b c" "d e)", 2},
       {R"(a "b\" c)", 1},
@@ -125,8 +125,8 @@ TEST(CountTokens, CountsWhatNextTokenGives) {
   for (const Row& row : kRows) EXPECT_EQ(CountTokens(row.text), row.count) << row.text;
 }
 
-// True for a token that NextToken had to end although its quote was not closed: the text behind
-// the opening quote then consists of single bytes, backslash pairs and doubled quotes alone.
+// True for a token that NextToken had to end although its quote was not closed. The text behind the
+// opening quote then consists only of single bytes, backslash pairs and doubled quotes.
 bool IsUnclosed(std::string_view token) {
   if (!token.starts_with('"')) return false;
   for (std::size_t i = 1; i < token.size(); ++i) {
@@ -137,8 +137,8 @@ bool IsUnclosed(std::string_view token) {
   return true;
 }
 
-// The reader waits for as many tokens as an element will take; if the two ever disagreed, it
-// would wait for a token that is there, or hand over too few.
+// The reader waits for as many tokens as an element takes. If the two functions disagreed, it would
+// wait for a token that is there already, or hand over too few.
 TEST(CountTokens, AgreesWithNextTokenOnEverySmallText) {
   for (const std::string& text : AllTexts(kAlphabet, 6)) {
     std::size_t taken = 0;
@@ -154,7 +154,7 @@ TEST(CountTokens, AgreesWithNextTokenOnEverySmallText) {
   }
 }
 
-// Collecting the rows of a large table line by line must not change what is counted.
+// If the rows of a large table are collected line by line, the count must be the same.
 TEST(TokenCounter, CountsPiecesLikeTheWhole) {
   const std::vector<std::string> pieces = AllTexts(kAlphabet, 3);
   for (const std::string& first : pieces) {
@@ -227,7 +227,7 @@ TEST(Unquote, GivesTheContentsWithEscapesReplaced) {
       {R"("a\tb")", "a\tb"},
       {R"("C:\path")", R"(C:\path)"},  // a backslash before another byte is no escape
       {R"("\x41\0")", R"(\x41\0)"},
-      {R"("\\n")", R"(\n)"},  // the backslash pair is taken first, its bytes no further part
+      {R"("\\n")", R"(\n)"},  // the backslash pair is taken first, as a whole
       {R"("\\\\")", R"(\\)"},
       {R"("\\""b")", R"(\"b)"},
       {R"("\"""")", R"("")"},
@@ -243,7 +243,7 @@ TEST(Unquote, GivesTheContentsWithEscapesReplaced) {
       {R"(""")", R"(")"},
       {"\"a\tb\nc\"", "a\tb\nc"},
       {"\"\0\xFF\""sv, "\0\xFF"sv},
-      // What does not begin with a quote has no contents.
+      // A token that does not begin with a quote has no contents.
       {"", ""},
       {"abc", ""},
       {R"( "a")", ""},

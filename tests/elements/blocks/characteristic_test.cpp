@@ -102,7 +102,7 @@ TEST(DependentCharacteristic, TakesAFormulaAndNames) {
       {"DEPENDENT_CHARACTERISTIC", " f x", true, "",
        Block("DEPENDENT_CHARACTERISTIC", "\n  \"\"\n  x \n")},
       {"DEPENDENT_CHARACTERISTIC", "", true, "", Block("DEPENDENT_CHARACTERISTIC", "\n  \"\"\n")},
-      // The names of a virtual one stand without a blank behind them.
+      // The names of a virtual characteristic have no blank behind them.
       {"VIRTUAL_CHARACTERISTIC", R"( "a + b" x "y z")", true, "",
        Block("VIRTUAL_CHARACTERISTIC", "\n  \"a + b\"\n  x\n  \"y z\"\n")},
       {"VIRTUAL_CHARACTERISTIC", "", true, "", Block("VIRTUAL_CHARACTERISTIC", "\n  \"\"\n")},

@@ -117,7 +117,7 @@ TEST(CompuTab, ReadsRowsOfTwoNumbers) {
   };
   const Row rows[] = {
       {" 1 2.5 3 4 5", true, " 5", {1, 3}, {2.5, 4}, "  1 2.5\n  3 4\n"},
-      // What is wrong stays as 0; a line has both numbers.
+      // A wrong number stays as 0. A line has both numbers.
       {" 1 x 3 4", false, " 3 4", {1}, {0}, "  1 0\n"},
       {" 1 2 x 4", false, " 4", {1, 0}, {2}, "  1 2\n"},
       {" 1 2 3", false, "", {1, 3}, {2, 0}, "  1 2\n  3 0\n"},
@@ -213,7 +213,7 @@ TEST(Tables, WithoutRowsReadNone) {
   EXPECT_EQ(texts.rest, " 1 \"a\"");
 }
 
-// A count is only a promise; what is there ends the read.
+// A count is only a promise. The read ends where the text ends.
 TEST(Tables, WithAnAbsurdCountEndWithTheirText) {
   Made<VoA2LElementCompuTab> table("T \"\" TAB_INTP 4294967295");
   EXPECT_FALSE(table.ParseMore("1 2 3 4"));

@@ -40,14 +40,14 @@ TEST(TextLists, TakeQuotedTexts) {
   const std::string longText(3000, 't');
   for (const std::string& keyword :
        Words("ANNOTATION_TEXT TRANSFORMER_IN_OBJECTS TRANSFORMER_OUT_OBJECTS")) {
-    // Only the lines of an annotation get their quotes back.
+    // Only the lines of an annotation are written with quotes.
     const std::string quote = keyword == "ANNOTATION_TEXT" ? "\"" : "";
     const std::string begin = "/begin " + keyword + "\n  ";
     const std::string end = "/end " + keyword + "\n";
     const ParseRow rows[] = {
         {keyword, R"( "a b" "c")", true, "",
          begin + quote + "a b" + quote + " \n  " + quote + "c" + quote + " \n" + end},
-        // What is not quoted is no text, but an entry.
+        // A word without quotes is not a text, but it is an entry.
         {keyword, R"( a "b")", true, "",
          begin + quote + quote + " \n  " + quote + "b" + quote + " \n" + end},
         {keyword, R"("a""b" "")", true, "",

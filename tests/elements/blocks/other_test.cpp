@@ -60,7 +60,7 @@ TEST(CalibrationHandle, TakesNumbersToTheEnd) {
       {keyword, "", true, "", Block(keyword, "")},
       // A wrong number ends the list and stays as 0.
       {keyword, " 1 x 3", false, " 3", Block(keyword, "  0x1\n  0x0\n")},
-      // A text behind the numbers becomes a child, however its keyword is decorated.
+      // A text behind the numbers becomes a child, even if its keyword is part of a longer word.
       {keyword, R"( 0x10 CALIBRATION_HANDLE_TEXT "a b" 5)", true, " 5",
        Block(keyword, "  0x10\n  CALIBRATION_ACCESS \"a b\"\n")},
       {keyword, R"( X_CALIBRATION_HANDLE_TEXT_1 "a")", true, "",

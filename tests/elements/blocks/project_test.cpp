@@ -62,9 +62,9 @@ TEST(MemoryLayout, TakesATypeAndSevenNumbers) {
        Layout("PRG_RESERVED 0xC 0x0 0 0 0 0 0")},
       {"MEMORY_LAYOUT", " PRG_RESERVED_PRG_DATA 1 2 3 4 5 6 7", true, "",
        Layout("PRG_DATA 0x1 0x2 3 4 5 6 7")},
-      // An unknown type is not wrong.
+      // An unknown type is not an error.
       {"MEMORY_LAYOUT", " CODE 1 2 3 4 5 6 7", true, "", Layout(" 0x1 0x2 3 4 5 6 7")},
-      // The first number that is none ends the read.
+      // The first malformed number ends the read.
       {"MEMORY_LAYOUT", " PRG_DATA abc 2 3 4 5 6 7", false, " 2 3 4 5 6 7",
        Layout("PRG_DATA 0x0 0x0 0 0 0 0 0")},
       {"MEMORY_LAYOUT", " PRG_DATA 1 x 3 4 5 6 7", false, " 3 4 5 6 7",
@@ -85,7 +85,7 @@ TEST(MemoryLayout, StoresItsFields) {
   EXPECT_EQ(layout->OFFSET, (MirrorOffsets{3, 4, 5, 6, -7}));
 }
 
-// The lines of a memory segment with these words and otherwise nothing.
+// The lines of a memory segment with these words and nothing else.
 std::string Segment(const std::string& words) {
   return "/begin MEMORY_SEGMENT S \"\"\n  " + words +
          " 0x0 0x0\n  0 0 0 0 0\n/end MEMORY_SEGMENT\n";
@@ -102,7 +102,7 @@ TEST(MemorySegment, KnowsItsWords) {
       {"RESERVED ROM INTERN", "RESERVED ROM INTERN"},
       {"SERAM REGISTER INTERN", "SERAM REGISTER INTERN"},
       {"VARIABLES ROM INTERN", "VARIABLES ROM INTERN"},
-      // A word may be part of a longer one, and the first that fits counts.
+      // A word may be part of a longer one. The first one that fits counts.
       {"OFFLINE_DATA MY_FLASH_AREA INTERNAL", "DATA FLASH INTERN"},
       {"DATA_CODE ROM_RAM EXTERN_INTERN", "CODE RAM INTERN"},
       {"CALIBRATION_VARIABLES_CODE SRAM EXTERNAL", "CALIBRATION_VARIABLES RAM EXTERN"},

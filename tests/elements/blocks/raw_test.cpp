@@ -21,7 +21,7 @@ TEST(IfData, SplitsOffItsName) {
       {" XCP a\n\t b  c", "XCP", " a\n\t b  c"},
       {" XCP", "XCP", ""},
       {"", "", ""},
-      // White space that ends a name goes with it, and so does the end of the text.
+      // The white space that ends a name is removed with it, and so is that at the end of the text.
       {"\n XCP\r\n /begin X\n", "XCP", " /begin X"},
       {"\n\"X CP\" a", "\"X CP\"", " a"},
       // A line feed does not end a name.

@@ -52,7 +52,7 @@ TEST(VarAddress, EndsAtTheFirstWrongNumberWhichIsDropped) {
   ExpectParse(rows);
 }
 
-// What a second read finds is added to the lists.
+// A second read appends to the lists.
 TEST(VariantCoding, ListsGrowWithASecondRead) {
   Made<VoA2LElementVarCriterion> criterion(R"(C "a" x)");
   EXPECT_TRUE(criterion.Parse(R"(D "b" y)"));

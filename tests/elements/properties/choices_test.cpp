@@ -11,7 +11,7 @@
 namespace a2l::test {
 namespace {
 
-// A word of a keyword and the word that it is read as.
+// A word in a file, and the word that it is read as.
 struct WordRow {
   std::string keyword, word, readAs;
 };
@@ -102,7 +102,7 @@ TEST(Choices, AreStoredAsCodes) {
   EXPECT_EQ(Made<VoA2LElementAddressType>("PLONGLONG")->ADDRESS_TYPE, AddrType::PLONG);
 }
 
-// Words that reading never gives can still be set by code, and are written.
+// Code can set words that reading never gives. They are written.
 TEST(Choices, WriteCodesThatReadingNeverGives) {
   Made<VoA2LElementCalibrationAccess> access;
   access->CALIBRATION_ACCESS = CalibrationAccess::OFFLINE_CALIBRATION;

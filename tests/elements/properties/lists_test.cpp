@@ -26,7 +26,7 @@ TEST(MatrixDim, TakesNumbersToTheEnd) {
       {"MATRIX_DIM", " 2x -1 \t", true, "",
        "MATRIX_DIM 2\n"
        "           4294967295\n"},
-      // The list ends at what is no number, which is not part of it.
+      // The list ends before the first malformed number.
       {"MATRIX_DIM", " 2 x 4", false, " 4", "MATRIX_DIM 2\n"},
       {"MATRIX_DIM", " x", false, "", "MATRIX_DIM\n"},
       {"MATRIX_DIM", "", true, "", "MATRIX_DIM\n"},
@@ -34,7 +34,7 @@ TEST(MatrixDim, TakesNumbersToTheEnd) {
   ExpectParse(rows);
 }
 
-// Numbers are added to those that are there; names replace them.
+// A second read appends numbers, but replaces names.
 TEST(Lists, ReadASecondTime) {
   Made<VoA2LElementMatrixDim> dimensions("2 3");
   EXPECT_TRUE(dimensions.Parse("4"));

@@ -114,7 +114,7 @@ TEST(NumberProperties, HaveDefaultsUntilTheyAreRead) {
   }
 }
 
-// The first token that is no number ends the read; what is behind it keeps its default.
+// The first malformed number ends the read. The values behind it keep their defaults.
 TEST(NumberProperties, WithSeveralNumbersStopAtTheFirstWrongOne) {
   const ParseRow rows[] = {
       {"A2ML_VERSION", " 1 31 x", true, " x", "A2ML_VERSION 1 31\n"},

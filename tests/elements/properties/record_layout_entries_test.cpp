@@ -48,7 +48,7 @@ TEST(LayoutEntries, AreWrongOnlyWithoutTheirNumbers) {
        "AXIS_PTS_X 2 UWORD INDEX_INCR DIRECT\n"},
       {"AXIS_PTS_Z", " 2 UWORD", true, "", "AXIS_PTS_Z 2 UWORD INDEX_INCR DIRECT\n"},
       {"AXIS_PTS_4", " 2 INT DOWN NEAR", true, "", "AXIS_PTS_4 2 UBYTE INDEX_INCR DIRECT\n"},
-      // Nothing behind a wrong position is read; what is not read has code 0.
+      // Nothing behind a wrong position is read. Words that are not read have code 0.
       {"AXIS_PTS_5", " x UWORD INDEX_DECR DIRECT", false, " UWORD INDEX_DECR DIRECT",
        "AXIS_PTS_5 0 UBYTE INDEX_INCR PBYTE\n"},
       {"AXIS_RESCALE_X", " 2 UWORD x INDEX_DECR DIRECT", false, " INDEX_DECR DIRECT",

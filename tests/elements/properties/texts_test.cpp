@@ -16,9 +16,9 @@ TEST(TextProperties, TakeOneQuotedText) {
        Words("ANNOTATION_LABEL ANNOTATION_ORIGIN CALIBRATION_HANDLE_TEXT CPU_TYPE CUSTOMER "
              "CUSTOMER_NO DEFAULT_VALUE ECU EPK FORMAT FORMULA_INV FUNCTION_VERSION MODEL_LINK "
              "PHONE_NO PHYS_UNIT SUPPLIER SYMBOL_TYPE_LINK USER VAR_SEPARATOR VERSION")) {
-    // The text of a handle goes by another keyword.
+    // The text of a handle is written under another keyword.
     const std::string line = keyword == "CALIBRATION_HANDLE_TEXT" ? "CALIBRATION_ACCESS" : keyword;
-    // Without a format, a FORMAT is wrong.
+    // A FORMAT without a text is an error.
     const bool mayBeEmpty = keyword != "FORMAT";
     const std::string longText(3000, 'x');
     const ParseRow rows[] = {
