@@ -21,7 +21,7 @@
 namespace a2l::fuzz {
 namespace {
 
-TEST(NaiveTokenizer, TellsTheRules) {
+TEST(NaiveTokenizer, FollowsTheRules) {
   std::string text = " a\tb \"c d\"\"e\\\"\"f \"open";
   for (const char* token : {"a\tb", R"("c d""e\"")", "f", "\"open", ""}) {
     EXPECT_EQ(naive::NextToken(text).text, token);
@@ -38,7 +38,7 @@ TEST(NaiveTokenizer, TellsTheRules) {
 }
 
 // Every reason why a text may change, one after the other. All but the reason makes the round trip.
-TEST(RoundTrips, IsNotPromisedForWhatChanges) {
+TEST(RoundTrips, IsNotPromisedForTextsThatChange) {
   const auto module = [](const std::string& content) {
     Reading reading = Read("/begin PROJECT p \"\"\n/begin MODULE m \"\"\n" + content +
                                  "\n/end MODULE\n/end PROJECT\n");

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The searches and copies of bytes, and the escapes that are built on them, against plain loops.
+// Compares the searches and copies of bytes, and the escapes that use them, with plain loops.
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -16,7 +16,7 @@
 namespace a2l::fuzz {
 namespace {
 
-// Everything is looked at in memory of its own, so that a read behind its end is found.
+// Each text lies in memory of its own, so that a read beyond its end is found.
 using Bytes = std::vector<char>;
 
 template <char... kBytes>
@@ -84,7 +84,7 @@ void CheckEscapes(const Bytes& text) {
 }
 
 void CheckBytes(std::string_view input) {
-  // The first byte says where the text begins, so that the same bytes are met at every place.
+  // The first byte says where the text begins, so that the same bytes occur at every place.
   const std::size_t skipped =
       input.empty() ? 0 : std::min<std::size_t>(static_cast<unsigned char>(input[0]), input.size());
   const Bytes text(input.begin() + static_cast<std::ptrdiff_t>(skipped), input.end());

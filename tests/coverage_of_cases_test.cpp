@@ -104,13 +104,14 @@ TEST(GoldenCases, CoverEveryKeyword) {
       EXPECT_FALSE(files.keys.contains("F" + keyword)) << keyword << " needs no exemption";
       continue;
     }
-    EXPECT_TRUE(files.keywords.contains(keyword)) << keyword << " is read in no case";
+    EXPECT_TRUE(files.keywords.contains(keyword)) << keyword << " is not read in any case";
     const auto* other = std::ranges::find(kOtherKeys, keyword, &OtherKey::keyword);
     if (other != std::end(kOtherKeys)) {
       EXPECT_FALSE(files.keys.contains("F" + keyword)) << keyword << " has a key of its own";
-      EXPECT_TRUE(files.keys.contains(std::string(other->key))) << other->key << " in no document";
+      EXPECT_TRUE(files.keys.contains(std::string(other->key)))
+          << other->key << " is not in any document";
     } else {
-      EXPECT_TRUE(files.keys.contains("F" + keyword)) << keyword << " shows in no document";
+      EXPECT_TRUE(files.keys.contains("F" + keyword)) << keyword << " is not shown in any document";
     }
   }
 }

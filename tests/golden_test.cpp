@@ -4,7 +4,7 @@
 //
 // The name begins with ok_ (exit code 0, no message), warn_ (0, with warnings) or fail_ (-2).
 //
-//   <name>.out      the console text, for warn_ and fail_; that of ok_ is always the same
+//   <name>.out      the console text, for warn_ and fail_; for ok_ it is always the same
 //   <name>.json     the document, for ok_ and warn_, with a line feed before every key: see
 //                   tests/support/golden_document.h
 //   <name>.written  optional: the tree, written back as A2L text
@@ -34,7 +34,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The console text where nothing is to be told.
+// The console text without messages.
 constexpr std::string_view kSuccess = "Success.\n\n";
 
 struct Case {
@@ -73,8 +73,8 @@ void ExpectFile(const fs::path& path, const std::string& actual) {
   }
 }
 
-// Both in their golden form, so that a failure shows the lines that differ. Only line feeds are
-// dropped from the file, and the document has none, so nothing else can differ unseen.
+// Compares both in their golden form, so that a failure shows the lines that differ. Only line
+// feeds are dropped from the file, and the document has none, so no other difference can be missed.
 void ExpectDocument(const fs::path& path, const std::string& document) {
   EXPECT_EQ(document.find('\n'), std::string::npos) << "a document is one line";
   if (Updates()) {

@@ -89,7 +89,7 @@ TEST_F(Program, ShowsItsUsageForAnyOtherNumberOfArguments) {
 // The usage shows the program name as the user typed it.
 TEST_F(Program, CallsItselfAsItWasCalled) {
 #ifdef _WIN32
-  GTEST_SKIP() << "links are for administrators on this system";
+  GTEST_SKIP() << "only administrators may make links on this system";
 #else
   const std::string name = (folder_ / "converter").string();
   const RunResult run = Run({}, "ln -s \"$0\" '" + name + "'; exec '" + name + "'");
@@ -98,7 +98,7 @@ TEST_F(Program, CallsItselfAsItWasCalled) {
 #endif
 }
 
-TEST_F(Program, FailsWithoutAReasonWhereTheInputCannotBeOpened) {
+TEST_F(Program, FailsWithoutAReasonIfTheInputCannotBeOpened) {
   WriteFile(json_, "old");
   for (const fs::path& input : {folder_ / "missing.a2l", folder_ / "missing/in.a2l",
                                 folder_ / "*.a2l", fs::path("--help"), fs::path()}) {
@@ -109,14 +109,14 @@ TEST_F(Program, FailsWithoutAReasonWhereTheInputCannotBeOpened) {
   }
 }
 
-TEST_F(Program, FailsWhereTheInputIsAFolder) {
+TEST_F(Program, FailsIfTheInputIsAFolder) {
   const RunResult run = Convert(folder_.Path(), json_);
   EXPECT_EQ(run.exitCode, kNotRead);
   EXPECT_EQ(run.out, "Failed: \n");
   EXPECT_FALSE(fs::exists(json_));
 }
 
-TEST_F(Program, FailsWithoutAReasonWhereTheInputMayNotBeRead) {
+TEST_F(Program, FailsWithoutAReasonIfTheInputMayNotBeRead) {
   fs::permissions(a2l_, fs::perms::none);
   bool isTested = false;
   // Not even an administrator may read the second one.
@@ -131,9 +131,9 @@ TEST_F(Program, FailsWithoutAReasonWhereTheInputMayNotBeRead) {
   if (!isTested) GTEST_SKIP() << "this user may read any file of this system";
 }
 
-TEST_F(Program, FailsWhereTheInputIsALinkToAFileThatIsGone) {
+TEST_F(Program, FailsIfTheInputIsALinkToAFileThatIsGone) {
 #ifdef _WIN32
-  GTEST_SKIP() << "links are for administrators on this system";
+  GTEST_SKIP() << "only administrators may make links on this system";
 #else
   fs::create_symlink(a2l_, folder_ / "link.a2l");
   EXPECT_EQ(Convert(folder_ / "link.a2l", json_).exitCode, kSuccess);
@@ -147,7 +147,7 @@ TEST_F(Program, FailsWhereTheInputIsALinkToAFileThatIsGone) {
 }
 
 // This file can be opened, but not be read at its beginning.
-TEST_F(Program, FailsWhereTheInputCannotBeReadOn) {
+TEST_F(Program, FailsIfTheInputCannotBeReadToItsEnd) {
   const fs::path memory = "/proc/self/mem";
   if (!fs::exists(memory)) GTEST_SKIP() << "there is no such file on this system";
   WriteFile(json_, "old");
@@ -157,7 +157,7 @@ TEST_F(Program, FailsWhereTheInputCannotBeReadOn) {
   EXPECT_EQ(ReadFile(json_), "old");
 }
 
-TEST_F(Program, FailsWithAllMessagesWhereTheInputIsWrong) {
+TEST_F(Program, FailsWithAllMessagesIfTheInputIsWrong) {
   WriteFile(a2l_, "WORD\n/end MODULE\n");
   WriteFile(json_, "old");
   const RunResult run = Convert(a2l_, json_);
@@ -169,7 +169,7 @@ TEST_F(Program, FailsWithAllMessagesWhereTheInputIsWrong) {
   EXPECT_EQ(ReadFile(json_), "old");
 }
 
-TEST_F(Program, FailsWhereTheOutputCannotBeOpened) {
+TEST_F(Program, FailsIfTheOutputCannotBeOpened) {
   // The warning is not shown, because the conversion failed.
   WriteFile(a2l_, "WORD\n");
   for (const fs::path& output : {folder_ / "missing/out.json", folder_.Path(), fs::path(),
@@ -181,7 +181,7 @@ TEST_F(Program, FailsWhereTheOutputCannotBeOpened) {
   EXPECT_FALSE(fs::exists(folder_ / "missing"));
 }
 
-TEST_F(Program, LeavesAnOutputAloneThatMayNotBeWritten) {
+TEST_F(Program, DoesNotTouchAnOutputThatMayNotBeWritten) {
   WriteFile(json_, "old");
   fs::permissions(json_, fs::perms::owner_read);
   bool isTested = false;
@@ -198,7 +198,7 @@ TEST_F(Program, LeavesAnOutputAloneThatMayNotBeWritten) {
   if (!isTested) GTEST_SKIP() << "this user may write to any file of this system";
 }
 
-TEST_F(Program, LooksAtTheInputBeforeTheOutput) {
+TEST_F(Program, ReadsTheInputBeforeItOpensTheOutput) {
   const RunResult run = Convert(folder_ / "missing.a2l", folder_ / "missing/out.json");
   EXPECT_EQ(run.exitCode, kNotRead);
   EXPECT_EQ(run.out, "Failed: \n");
@@ -217,9 +217,9 @@ TEST_F(Program, CanReplaceItsInput) {
   EXPECT_EQ(ReadFile(a2l_), kDocument);
 }
 
-TEST_F(Program, ReplacesWhatALinkStandsFor) {
+TEST_F(Program, ReplacesTheTargetOfALink) {
 #ifdef _WIN32
-  GTEST_SKIP() << "links are for administrators on this system";
+  GTEST_SKIP() << "only administrators may make links on this system";
 #else
   const fs::path link = folder_ / "link";
   for (const bool isSymbolic : {true, false}) {
@@ -253,7 +253,7 @@ TEST_F(Program, TakesPathsAsTheyAre) {
   }
 }
 
-TEST_F(Program, TakesPathsThatAreNoUnicode) {
+TEST_F(Program, TakesPathsThatAreNotUnicode) {
 #if defined(_WIN32) || defined(__APPLE__)
   GTEST_SKIP() << "file names are Unicode on this system";
 #else
@@ -274,7 +274,7 @@ TEST_F(Program, DoesNotNoticeAFullDisk) {
 // output, a file may get its descriptor, but must not get the texts.
 TEST_F(Program, DoesItsWorkWithoutAStandardOutput) {
 #ifdef _WIN32
-  GTEST_SKIP() << "the shell of this system cannot close it";
+  GTEST_SKIP() << "the shell of this system cannot close standard output";
 #else
   WriteFile(a2l_, "WORD\nASAP2_VERSION 1 71\n");
   // The only reader of the pipe has opened it, and closes it before the program begins.
@@ -301,7 +301,7 @@ TEST_F(Program, DoesItsWorkWithoutAStandardOutput) {
 
 TEST_F(Program, ReadsFromAPipe) {
 #ifdef _WIN32
-  GTEST_SKIP() << "pipes are no files on this system";
+  GTEST_SKIP() << "pipes are not files on this system";
 #else
   const fs::path pipe = folder_ / "pipe";
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);

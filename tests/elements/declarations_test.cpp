@@ -21,7 +21,7 @@ const Declaration& Declared(std::string_view keyword) {
   return *DeclarationOf(KeywordToKind(keyword));
 }
 
-// What the program and the tests' own grammar say of a parameter, in the words of neither.
+// What the program and the tests' own grammar say about a parameter, in neutral words.
 std::string Shown(const detail::Parameter& parameter) {
   std::string text;
   switch (parameter.type) {
@@ -53,7 +53,7 @@ std::string Shown(const detail::Parameter& parameter) {
       text = "word(";
       std::vector<std::string_view> words;
       for (const auto& word : parameter.words->words) {
-        // Of a word that holds an earlier one, reading never comes to the later.
+        // If a word holds an earlier one, only the earlier one is ever read.
         if (std::ranges::none_of(words, [&](std::string_view earlier) {
               return word.text.find(earlier) != std::string_view::npos;
             })) {
@@ -146,7 +146,7 @@ TEST(Declarations, TellTheChildren) {
     const Declaration& declaration = Declared(keyword.text);
     EXPECT_TRUE(declaration.accepts.Contains(KIND_UNKNOWN)) << keyword.text;
     for (const NumberedKeyword& child : AllKeywords()) {
-      // A file cannot hold an ENCODING; two blocks would take one all the same.
+      // A file cannot hold an ENCODING, although two blocks would accept one.
       if (child.keyword == "ENCODING") continue;
       const bool expected = keyword.children.empty()
                                 ? child.keyword == "PROJECT" || child.keyword == "A2ML_VERSION" ||

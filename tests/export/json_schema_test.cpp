@@ -125,7 +125,7 @@ class Validator {
 
 TEST(JsonSchema, IsTheFileOfTheDocumentation) {
   EXPECT_EQ(ReadFile(kRepository / "docs/json.schema.json"), JsonSchema())
-      << "run generate_json_docs on docs/";
+      << "run generate_json_docs docs";
 }
 
 // The schema of an object; that of the whole document stands at the root.
@@ -168,7 +168,7 @@ TEST(JsonSchema, NamesFamiliesAfterTheirFirstKeyword) {
   EXPECT_EQ(ObjectName(objects, ObjectTable{}), "");
 }
 
-TEST(JsonSchema, TellsTypePresenceAndAbsence) {
+TEST(JsonSchema, SaysTypePresenceAndAbsence) {
   const Json schema = Parsed(JsonSchema());
   static constexpr struct {
     const char* object;

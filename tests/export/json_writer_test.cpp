@@ -82,7 +82,7 @@ TEST_F(JsonWriterTest, RefusesAnythingButARoot) {
   EXPECT_TRUE(writer.Export(json_.string(), root_.get()));
 }
 
-TEST_F(JsonWriterTest, FailsWhereTheFileCannotBeOpened) {
+TEST_F(JsonWriterTest, FailsIfTheFileCannotBeOpened) {
   JsonWriter writer;
   EXPECT_FALSE(writer.Export((folder_ / "missing/out.json").string(), root_.get()));
   EXPECT_FALSE(writer.Export(folder_.Path().string(), root_.get()));
@@ -115,7 +115,7 @@ TEST_F(JsonWriterTest, LeavesTheTreeAsItIs) {
   ASSERT_TRUE(root_->AddChild(CreateElement(ElementKind::ASAP2_VERSION, *root_)));
   const VoA2LElement* first = root_->Child(0);
   const std::string json = ToJson(*root_);
-  EXPECT_EQ(root_->Child(0), first) << "only writing A2L text moves the version";
+  EXPECT_EQ(root_->Child(0), first) << "only Write moves the version to the front";
   EXPECT_EQ(ToJson(*root_), json);
 }
 

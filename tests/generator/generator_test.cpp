@@ -541,7 +541,7 @@ TEST(Generator, FilesHoldEveryKeywordAndEveryMessage) {
     EXPECT_GE(validities[object][false], 10) << object;
     EXPECT_GE(validities[object][true], 10) << object;
   }
-  EXPECT_GE(refused.size(), 30U) << "keywords that stand where they may not";
+  EXPECT_GE(refused.size(), 30U) << "too few refused keywords";
   EXPECT_TRUE(hasCarriageReturns);
 }
 
@@ -574,7 +574,7 @@ TEST(Generator, FilesAreReadTheSameWhereverTheirPiecesEnd) {
 }
 
 // Reads the lines of every keyword at a place where it may stand.
-TEST(Generator, LinesOfEveryKeywordAreReadWithoutAWord) {
+TEST(Generator, LinesOfEveryKeywordAreReadWithoutAMessage) {
   const auto parentOf = [](std::string_view child) {
     for (const Keyword& keyword : Grammar()) {
       if (keyword.Accepts(child)) return keyword.text;

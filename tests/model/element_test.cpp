@@ -203,7 +203,7 @@ TEST_F(ElementTest, WriteIndentsByTwoBlanksPerLevel) {
             "  /end PROJECT\n");
 }
 
-// An unknown block has nothing to write, so it cannot fail; the root fails whatever is in it.
+// An unknown block has nothing to write, so it cannot fail. The root fails whatever it holds.
 TEST_F(ElementTest, WriteFailsOnAFileThatIsNotOpen) {
   std::ofstream closed;
   std::fstream closedBothWays;
@@ -214,7 +214,7 @@ TEST_F(ElementTest, WriteFailsOnAFileThatIsNotOpen) {
        {static_cast<std::ostream*>(&closed), static_cast<std::ostream*>(&closedBothWays),
         &onAClosedFile, static_cast<std::ostream*>(&bothWaysOnAClosedFile)}) {
     SCOPED_TRACE(typeid(*out).name());
-    ASSERT_TRUE(out->good()) << "only the file can tell";
+    ASSERT_TRUE(out->good()) << "the state of the stream does not show that its file is not open";
     for (const ElementKind kind : KindsWithAClass()) {
       EXPECT_EQ(Make(kind)->Write(0, *out), kind == KIND_UNKNOWN) << Shown(kind);
     }
@@ -235,7 +235,7 @@ TEST_F(ElementTest, WriteFailsOnAStreamThatTakesNothing) {
   EXPECT_TRUE(Make(KIND_UNKNOWN)->Write(0, nowhere));
 }
 
-// Whatever opened the file, and whatever stream writes to it.
+// This holds whatever has opened the file, and for all streams that write to it.
 TEST_F(ElementTest, WriteReachesAFileThroughAnyStream) {
   ASSERT_TRUE(root_->AddChild(MakeVersion(*root_, 71)));
   const TemporaryFolder folder;
@@ -457,7 +457,7 @@ TEST_F(ElementTest, EveryNewElementIsValidAndEmpty) {
     EXPECT_EQ(element->ChildCount(), 0U);
     EXPECT_EQ(element->store, root_->store);
   }
-  EXPECT_EQ(root_->ChildCount(), 0U) << "to create is not to attach";
+  EXPECT_EQ(root_->ChildCount(), 0U) << "creating a child does not attach it";
 }
 
 // Elements do not need a store: trees can be built from plain objects.

@@ -16,7 +16,7 @@ TEST(FilePath, IsTheNameInTheCharactersOfTheSystem) {
             std::filesystem::path(u8"m\u00FCller \u6C7D \U0001F697.a2l"));
 }
 
-TEST(FilePath, TakesBytesThatAreNoUtf8AsTheSystemDoes) {
+TEST(FilePath, TakesBytesThatAreNotUtf8AsTheSystemDoes) {
   constexpr std::string_view kLatin1 = "m\xFCller.a2l";
 #ifdef _WIN32
   EXPECT_TRUE(FilePath(kLatin1).empty());

@@ -85,7 +85,7 @@ TEST(KeywordToKind, KnowsNoAbbreviations) {
   }
 }
 
-TEST(KindToKeyword, GivesNothingForNumbersThatAreNoKeywords) {
+TEST(KindToKeyword, GivesNothingForNumbersThatAreNotKeywords) {
   for (const std::int32_t number :
        {0, 25535, 21, 99, 142, 1000, 1144, -1, 50, 500, 2000, 25534, 25536, 65535,
         std::numeric_limits<std::int32_t>::max(), std::numeric_limits<std::int32_t>::min()}) {
@@ -93,7 +93,7 @@ TEST(KindToKeyword, GivesNothingForNumbersThatAreNoKeywords) {
   }
 }
 
-TEST(Groups, TellBlocksFromProperties) {
+TEST(Groups, DistinguishBlocksFromProperties) {
   for (std::int32_t number = -10; number < 26000; ++number) {
     const auto kind = static_cast<ElementKind>(number);
     EXPECT_EQ(IsBlock(kind), (number >= 1 && number <= 20) || (number >= 100 && number <= 141))

@@ -32,7 +32,7 @@ TEST(KindSet, GrowsWithoutChangingTheOneItCameFrom) {
   EXPECT_FALSE(kPair.Contains(KIND_UNKNOWN));
 }
 
-TEST(KindSet, NeverHoldsNumbersThatAreNoKinds) {
+TEST(KindSet, NeverHoldsNumbersThatAreNotKinds) {
   KindSet all;
   for (const ElementKind kind : KindsWithAClass()) all = all.With(kind);
   for (const std::int32_t number : {0, -1, 21, 99, 142, 1000, 1144, 25534, 25536})

@@ -192,7 +192,7 @@ TEST(TreeStore, TakesLittleMemoryForASmallTree) {
   EXPECT_LT(*bytes, 8192U);
 }
 
-// Nearly all of every block is used, but for the one that is open.
+// Nearly all of every block is used, except for the one that is open.
 TEST(TreeStore, LosesLittleMemory) {
   constexpr std::size_t kPieces = 200000;
   constexpr std::size_t kSize = 100;

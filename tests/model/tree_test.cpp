@@ -173,7 +173,7 @@ TEST(Descendants, AreThoseOfTheClassOnEveryLevel) {
   EXPECT_EQ(Names(Descendants<VoA2LElementMeasurement>(*root.Child(1)->Child(1))), NameList{"c"});
   EXPECT_EQ(Names(Descendants<VoA2LElementProject>(root)), NameList{"P"});
   EXPECT_EQ(Names(Descendants<VoA2LElementProject>(*root.Child(1))), NameList())
-      << "an element is none of its descendants";
+      << "an element is not its own descendant";
   EXPECT_EQ(Names(Descendants<VoA2LElementMeasurement>(*Tree())), NameList());
 }
 
@@ -225,7 +225,7 @@ TEST(Walks, AreRanges) {
   };
   EXPECT_EQ(std::ranges::find_if(measurements, isB)->NAME, "b");
   EXPECT_EQ(std::ranges::count_if(measurements, isB), 1);
-  EXPECT_EQ(std::ranges::count_if(measurements, isB), 1) << "a walk may be made again";
+  EXPECT_EQ(std::ranges::count_if(measurements, isB), 1) << "a walk may be repeated";
   EXPECT_EQ(measurements.First()->NAME, "a");
   EXPECT_EQ(Descendants<VoA2LElementUnit>(*reading.root).First(), nullptr);
 }

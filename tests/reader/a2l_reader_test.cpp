@@ -119,7 +119,8 @@ TEST(A2LReader, ReadsATextInMemoryAsItReadsAFile) {
     EXPECT_TRUE(reader.ParseText(text, root.get()));
   }
   EXPECT_EQ(reader.message, "Warning: Line(3) unexpected element WORD\n");
-  EXPECT_EQ(Written(*root), Written(*Read(kSmallFile).root)) << "the text need not stay";
+  EXPECT_EQ(Written(*root), Written(*Read(kSmallFile).root))
+      << "the tree keeps no views into the text";
 
   EXPECT_FALSE(reader.ParseText("/end PROJECT", root.get()));
   EXPECT_FALSE(reader.ParseText(kSmallFile, nullptr));
@@ -310,7 +311,7 @@ TEST(A2LReader, FailsOnABrokenDeviceInsideAComment) {
   Tree root(NewTree());
   A2LReader reader;
   EXPECT_FALSE(reader.Parse(in, root.get()));
-  EXPECT_EQ(reader.message, "") << "the comment may well be closed in what could not be read";
+  EXPECT_EQ(reader.message, "") << "the part that could not be read may close the comment";
 }
 
 // --- Which object is not valid when parameters are wrong ---------------------------------------
@@ -436,7 +437,7 @@ void PrintTo(const Validity& row, std::ostream* out) { *out << row.name; }
 
 class ValidFlag : public testing::TestWithParam<Validity> {};
 
-TEST_P(ValidFlag, IsClearedWhereParametersOfTheObjectAreWrong) {
+TEST_P(ValidFlag, IsClearedIfParametersOfTheObjectAreWrong) {
   const Validity& row = GetParam();
   const std::string_view block = row.lines.substr(7, row.lines.find(' ', 7) - 7);
   const Reading reading =

@@ -137,7 +137,7 @@ TEST(CommentRemover, FollowsBlockCommentsOverLines) {
   }
 }
 
-TEST(CommentRemover, FailsWhereTheInputEndsInsideAComment) {
+TEST(CommentRemover, FailsIfTheInputEndsInsideAComment) {
   const std::vector<std::string> inputs[] = {
       {"/*"},
       {"a /* b"},

@@ -142,7 +142,7 @@ TEST(LineSource, ReadsOnAfterShortReads) {
   EXPECT_EQ(ReadAll(in).lines, (std::vector<std::string>{"first", "second line", "", "last"}));
 }
 
-TEST(LineSource, TellsAFailureFromTheEnd) {
+TEST(LineSource, DistinguishesAFailureFromTheEnd) {
   const std::vector<std::string> whole = {"abc", "defgh"};
   for (std::size_t good = 0; good <= 10; ++good) {
     SCOPED_TRACE(good);

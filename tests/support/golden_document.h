@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 //
-// The documents of the golden cases, in a form whose differences can be read: a document is one
-// line, its golden file has a line feed before every key (before the blank in front of it, so that
-// no line ends in a blank) and one at the end. A key that is new in an object is one line more.
+// The documents of the golden cases, in a form whose differences can be read. A document is one
+// line. Its golden file has a line feed before every key (before the blank in front of it, so that
+// no line ends in a blank) and one at the end. A new key in an object is one more line.
 //
-// The line feeds say nothing and are dropped before anything is compared. That loses nothing, since
-// a document has no line feed of its own: in texts and in keys it is written as \n. All other bytes
+// The line feeds have no meaning and are dropped before the comparison. That loses nothing, because
+// a document never holds a line feed: in texts and in keys it is written as \n. All other bytes
 // must be the same.
 #pragma once
 
@@ -21,7 +21,7 @@ std::string GoldenForm(std::string_view document);
 /// The document of a golden form.
 std::string FromGoldenForm(std::string_view golden);
 
-/// The document in a golden file; a test failure and an empty one when it cannot be read.
+/// The document in a golden file. If it cannot be read, the test fails, and the document is empty.
 std::string ReadGoldenDocument(const std::filesystem::path& path);
 
 }  // namespace a2l::test

@@ -19,10 +19,10 @@ const Forms kForms[] = {
     {R"({"A": null, "B": [1, 2]})", "{\n\"A\": null,\n \"B\": [1, 2]}\n"},
     {R"({"A": [{"B": "b"}, {"B": "c"}], "D": {}})",
      "{\n\"A\": [{\n\"B\": \"b\"}, {\n\"B\": \"c\"}],\n \"D\": {}}\n"},
-    // What looks like a key inside of a text is none; a key may have quotes of its own.
+    // A text may hold something that looks like a key, and a key may hold quotes.
     {R"({"A": "\"B\": 1, \"C\": \\"})", "{\n\"A\": \"\\\"B\\\": 1, \\\"C\\\": \\\\\"}\n"},
     {R"({"A\"": "a\\", "B\n": ""})", "{\n\"A\\\"\": \"a\\\\\",\n \"B\\n\": \"\"}\n"},
-    // Half a document is no reason to read on behind its end.
+    // If the document is cut off, nothing beyond its end is read.
     {R"({"A)", "{\"A\n"},
     {R"({"A\)", "{\"A\\\n"},
 };

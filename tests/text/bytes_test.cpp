@@ -14,7 +14,7 @@
 namespace a2l::bytes {
 namespace {
 
-// A text in memory of its own: a read next to it is an error under AddressSanitizer.
+// A text in memory of its own, so that AddressSanitizer notices a read next to it.
 class Alone {
  public:
   explicit Alone(std::string_view text) : bytes_(text.begin(), text.end()) {}
@@ -47,7 +47,7 @@ TEST(Bytes, FindGivesTheFirstOfTheBytesWhereverItStands) {
   }
 }
 
-// Each of the 256 bytes is found where it stands, and no other is taken for it.
+// Each of the 256 bytes is found at its place, and no other byte is taken for it.
 TEST(Bytes, ComparisonsTellEveryByteFromEveryOther) {
   constexpr std::array kBytes = {'\n', ' ', '"', '/', '\\', '\xE2', '\x7F', '\x80', '\0'};
   for (int first = 0; first < 256; first += static_cast<int>(kBlock)) {

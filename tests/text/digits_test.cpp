@@ -22,7 +22,7 @@ std::string TextOf(double value) {
   return {text.data(), Write17Digits(value, text.data())};
 }
 
-// What the C library makes of it.
+// The result of the C library.
 std::string Printed(double value) {
   std::array<char, 64> text{};
   const int size = std::snprintf(text.data(), text.size(), "%.17g", value);
@@ -34,7 +34,7 @@ TEST(Digits, AreSeventeenWithoutZerosAtTheEnd) {
     double value;
     std::string_view text;
   };
-  // The doubles next to 0.1, 0.3 and 1/3, written out, have more digits than 17: these are rounded.
+  // The doubles next to 0.1, 0.3 and 1/3 have more than 17 digits, which are rounded.
   constexpr Row kRows[] = {
       {0, "0"},
       {-0.0, "-0"},
@@ -76,11 +76,11 @@ TEST(Digits, AreThoseOfTheCLibrary) {
   };
   for (int i = 0; i < 20000; ++i) {
     check(std::bit_cast<double>(random()));  // of any size
-    // Of the sizes that files have, with as many bits as there are, and with few.
+    // Numbers of the sizes in files, with all bits used, and with few.
     const int exponent = static_cast<int>(random() % 120) - 60;
     check(std::ldexp(static_cast<double>(random() >> 11U), exponent - 52));
     check(std::ldexp(static_cast<double>(random() % 4096), exponent));
-    // Decimal ones, and their neighbours.
+    // Decimal numbers, and their neighbours.
     const double decimal =
         static_cast<double>(random() % 1000000000) / std::pow(10.0, static_cast<double>(i % 12));
     check(decimal);

@@ -96,7 +96,7 @@ TEST(Torture, ATextWithoutClosingQuoteTakesTheRestOfItsBlock) {
   EXPECT_EQ(FirstInModule<VoA2LElementModCommon>(reading).COMMENT.size(), count * 4 - 1);
 }
 
-TEST(Torture, TheCommentThatGoesOverAMillionLinesCountsThem) {
+TEST(Torture, ACommentOverAMillionLinesCountsThem) {
   const std::size_t count = kMillion;
   Reading reading = ReadParts({kHead, "/*", {" * \"text\n", count}, "*/ word\n", kTail});
   ExpectOne(reading, DiagnosticKind::UnexpectedElement, count + 3, "word");

@@ -90,7 +90,7 @@ TEST(AxisDescr, StopsAtTheFirstWrongNumber) {
   ExpectParse(rows);
   const Made<VoA2LElementAxisDescr> axis("FIX_AXIS Q C x 1 2");
   EXPECT_EQ(axis->ATTRIBUTE, AxisAttribute::FIX_AXIS);
-  EXPECT_EQ(axis->valid, 1) << "its own validity is nobody's";
+  EXPECT_EQ(axis->valid, 1) << "an axis is always valid";
 }
 
 TEST(DependentCharacteristic, TakesAFormulaAndNames) {

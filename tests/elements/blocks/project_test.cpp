@@ -134,7 +134,7 @@ TEST(MemorySegment, TakesItsParametersInOrder) {
   EXPECT_EQ(segment->ATTRIBUTE, MemoryAttribute::EXTERN);
   EXPECT_EQ(segment->valid, 1);
   EXPECT_EQ(Made<VoA2LElementMemorySegment>("S \"\" DATA ROM EXTERN x")->valid, 1)
-      << "only objects have a validity to lose";
+      << "only objects can become invalid";
 }
 
 TEST(MemorySegment, WritesATypeThatReadingNeverGives) {

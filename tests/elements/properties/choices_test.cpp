@@ -63,7 +63,7 @@ TEST(Choices, KnowTheirWords) {
   }
 }
 
-TEST(Choices, AreWrongWithoutAWordWhereOneMustBe) {
+TEST(Choices, AreWrongWithoutARequiredWord) {
   const ParseRow rows[] = {
       {"BYTE_ORDER", " MSB x", false, " x", "BYTE_ORDER \n"},
       {"BYTE_ORDER", "", false, "", "BYTE_ORDER \n"},
