@@ -58,8 +58,8 @@ endif()
 # ---------------------------------------------------------------------------------------------
 # Release is -O3, as CMake has it for these compilers. The program is also optimised as a whole when
 # it is linked (CMake's "interprocedural optimisation"). That takes a minute for a program as large
-# as the tests and is of no use there, so tests and generators do without, and with -O1 for their
-# own code; what they test of the library is compiled like that of the program.
+# as the tests and is of no use there. So tests and generators are linked without it, and their own
+# code is compiled with -O1. The library that they test is compiled like that of the program.
 
 if(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT DEFINED CMAKE_INTERPROCEDURAL_OPTIMIZATION_RELEASE)
   include(CheckIPOSupported)
@@ -80,7 +80,7 @@ if(CMAKE_BUILD_TYPE STREQUAL "Release"
   add_compile_options(-ffat-lto-objects)
 endif()
 
-# a2l2json_build_quickly(<target>...): for what is built to be run a few times
+# a2l2json_build_quickly(<target>...): for programs that run only a few times
 function(a2l2json_build_quickly)
   if(NOT A2L2JSON_TWO_KINDS_OF_OBJECTS)
     return()

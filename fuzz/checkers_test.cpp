@@ -41,7 +41,7 @@ TEST(NaiveTokenizer, FollowsTheRules) {
 TEST(RoundTrips, IsNotPromisedForTextsThatChange) {
   const auto module = [](const std::string& content) {
     Reading reading = Read("/begin PROJECT p \"\"\n/begin MODULE m \"\"\n" + content +
-                                 "\n/end MODULE\n/end PROJECT\n");
+                           "\n/end MODULE\n/end PROJECT\n");
     EXPECT_TRUE(reading.ok) << content;
     return RoundTrips(*reading.root);
   };

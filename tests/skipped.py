@@ -2,8 +2,8 @@
 # SPDX-License-Identifier: MIT
 """tests/skipped.py <JUnit file of ctest>: prints which tests were skipped, and why.
 
-A test program of GoogleTest that skips says why, and the scripts among the tests print "skipped: "
-and the reason, also where they skip only a part of what they do and pass.
+A GoogleTest program says why it skips a test. The scripts among the tests print "skipped: " and the
+reason, even if they skip only a part of their work and pass.
 """
 
 import re

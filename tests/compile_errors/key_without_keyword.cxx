@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A child by a key that holds no keyword.
+// A child by a key that does not hold a keyword.
 // Expected: TheKeyHoldsNoKeyword_GiveTheKindBehindIt
 #include "a2l2json/export/kind_forms.h"
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What the others get wrong, right: a mistake in all of them, such as a missing file, shows here.
+// Like the others, but without a mistake: if all of them have the same fault, such as a missing file,
+// it shows here.
 // Expected: nothing
 #include "a2l2json/export/tables/shared.h"
 

@@ -10,7 +10,7 @@ import { compile } from "json-schema-to-typescript";
 const [schemaPath, typesPath, ...folders] = process.argv.slice(2);
 const readSchema = () => JSON.parse(readFileSync(schemaPath, "utf8"));
 
-// Bytes of texts pass through the converter, so any byte may be in a document.
+// A document may hold any byte, because the bytes of texts pass through the converter.
 const readDocument = (path) => JSON.parse(readFileSync(path, "latin1"));
 
 const validate = new Ajv2020({ strict: true, allErrors: true }).compile(readSchema());

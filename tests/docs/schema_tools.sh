@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Tries docs/json.schema.json with tools that users have: ajv, in its strict mode, compiles it and
-# holds it against every document in the repository; json-schema-to-typescript makes types of it,
-# which the TypeScript compiler takes for a small program.
+# Tries docs/json.schema.json with tools that users have. ajv, in its strict mode, compiles it and
+# checks every document in the repository against it. json-schema-to-typescript makes types from it,
+# and the TypeScript compiler uses these for a small program.
 #
 #   tests/docs/schema_tools.sh
 #
-# Needs Node.js 20 and npm, which gets the versions of package-lock.json; they go into
-# build/schema_tools. Without Node.js, says so and ends with the exit code 77.
+# Needs Node.js 20 and npm, which installs the versions of package-lock.json in build/schema_tools.
+# Without Node.js, says so and ends with the exit code 77.
 
 set -euo pipefail
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What a user of the types that are made of docs/json.schema.json writes. Each line below
+// Uses the types that are made from docs/json.schema.json as a user would. Each line below
 // "@ts-expect-error" must be an error.
 import type { ADocumentOfA2L2Json, MEASUREMENT } from "./document";
 

@@ -78,7 +78,7 @@ TEST(ReadFromFile, SaysWhyThereIsNothing) {
 #ifdef __linux__
       {folder / "in.a2l/in.a2l", FileError::NotFound, "there is no such file\n"},
       {folder / std::string(300, 'x'), FileError::NotOpened, "the file cannot be opened\n"},
-      // The first page of a process is never there.
+      // The first page of a process is never mapped.
       {"/proc/self/mem", FileError::ReadFailed, "the file cannot be read to its end\n"},
 #endif
   };

@@ -158,10 +158,10 @@ TEST(Torture, AListOfAMillionNames) {
   for (const char* separator : {"\n", " "}) {
     const auto name = [separator](std::size_t i) { return separator + ("n" + std::to_string(i)); };
     Reading reading = ReadParts({kHead,
-                                       "/begin GROUP g \"\"\n/begin REF_CHARACTERISTIC",
-                                       {name, count},
-                                       "\n/end REF_CHARACTERISTIC\n/end GROUP\n",
-                                       kTail});
+                                 "/begin GROUP g \"\"\n/begin REF_CHARACTERISTIC",
+                                 {name, count},
+                                 "\n/end REF_CHARACTERISTIC\n/end GROUP\n",
+                                 kTail});
     ExpectClean(reading);
     const auto& list = static_cast<const VoA2LElementRefCharacteristic&>(
         *FirstInModule<VoA2LElementGroup>(reading).Child(0));
@@ -226,10 +226,10 @@ TEST(Torture, TenThousandModules) {
 TEST(Torture, AnObjectWithAMillionProperties) {
   const std::size_t count = kMillion;
   Reading reading = ReadParts({kHead,
-                                     "/begin MEASUREMENT x \"\" UBYTE c 1 1 0 1\n",
-                                     {"FORMAT \"%5.2\"\n", count},
-                                     "FORMAT \"\"\n/end MEASUREMENT\n",
-                                     kTail});
+                               "/begin MEASUREMENT x \"\" UBYTE c 1 1 0 1\n",
+                               {"FORMAT \"%5.2\"\n", count},
+                               "FORMAT \"\"\n/end MEASUREMENT\n",
+                               kTail});
   ExpectOne(reading, DiagnosticKind::WrongParameters, count + 4, "MEASUREMENT");
   EXPECT_EQ(FirstModule(reading).Child(0)->ChildCount(), count + 1);
   EXPECT_EQ(CountOf("\"FFORMAT\": \"%5.2\"", JsonOf(reading)), 1U);
@@ -250,11 +250,11 @@ TEST(Torture, InterfaceDataOf32MegabytesStaysAsItIs) {
 TEST(Torture, AMillionMarkersInInterfaceData) {
   const std::size_t count = kMillion;
   Reading reading = ReadParts({kHead,
-                                     "/begin IF_DATA X v ",
-                                     {"/begin A", count},
-                                     {"/end A", count},
-                                     "/end IF_DATA\n",
-                                     kTail});
+                               "/begin IF_DATA X v ",
+                               {"/begin A", count},
+                               {"/end A", count},
+                               "/end IF_DATA\n",
+                               kTail});
   ExpectClean(reading);
   const std::string_view data = FirstInModule<VoA2LElementIfData>(reading).IF_DATA;
   EXPECT_EQ(CountOf("\n/begin A", data), count);
@@ -284,7 +284,7 @@ TEST(Torture, TheLargestCountsWithoutARow) {
   };
   for (const Row& row : rows) {
     Reading reading = Read(kHead + "/begin "s + row.keyword + " " + row.table + "\n/end " +
-                                 row.keyword + "\n" + kTail);
+                           row.keyword + "\n" + kTail);
     ExpectOne(reading, row.kind, row.line, row.subject);
     const VoA2LElement& table = *FirstModule(reading).Child(0);
     const std::size_t values =
@@ -300,16 +300,16 @@ TEST(Torture, TheLargestCountsWithoutARow) {
 TEST(Torture, NumbersOfAMillionDigits) {
   const std::size_t count = kMillion;
   Reading reading = ReadParts({kHead,
-                                     "/begin COMPU_TAB t \"\" TAB_INTP 2\n1",
-                                     {"0", count},
-                                     "\n0.",
-                                     {"0", count},
-                                     "1\n1e",
-                                     {"9", count},
-                                     "\n0x1.",
-                                     {"0", count},
-                                     "\n/end COMPU_TAB\n",
-                                     kTail});
+                               "/begin COMPU_TAB t \"\" TAB_INTP 2\n1",
+                               {"0", count},
+                               "\n0.",
+                               {"0", count},
+                               "1\n1e",
+                               {"9", count},
+                               "\n0x1.",
+                               {"0", count},
+                               "\n/end COMPU_TAB\n",
+                               kTail});
   ExpectClean(reading);
   const auto& table = FirstInModule<VoA2LElementCompuTab>(reading);
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
@@ -372,10 +372,10 @@ TEST(Torture, AMillionCriteriaOfWhichHalfOccurTwice) {
     return "c" + std::to_string(i * 7919 % names) + (i < names ? " first\n" : " second\n");
   };
   Reading reading = ReadParts({kHead,
-                                     "/begin VARIANT_CODING\n/begin VAR_FORBIDDEN_COMB\n",
-                                     {pair, 2 * names},
-                                     "/end VAR_FORBIDDEN_COMB\n/end VARIANT_CODING\n",
-                                     kTail});
+                               "/begin VARIANT_CODING\n/begin VAR_FORBIDDEN_COMB\n",
+                               {pair, 2 * names},
+                               "/end VAR_FORBIDDEN_COMB\n/end VARIANT_CODING\n",
+                               kTail});
   ExpectClean(reading);
   const std::string json = JsonOf(reading);
   EXPECT_EQ(CountOf("\": \"first\"", json), names);
