@@ -66,7 +66,7 @@ const Origin* FindOrigin(std::string_view object, std::string_view key) {
   return origin != std::end(kOrigins) ? origin : nullptr;
 }
 
-std::string Code(std::string_view text) { return "`" + std::string(text) + "`"; }
+std::string Code(std::string_view text) { return std::string("`").append(text).append("`"); }
 
 }  // namespace
 

@@ -3,12 +3,23 @@
 
 #include <array>
 
+#include "a2l2json/text/bytes.h"
+
 namespace a2l {
 namespace {
+
+// The bytes of a keyword as two words: all of them where they are fewer than 16, otherwise the
+// first eight and the last.
+constexpr bytes::Words EndsOf(std::string_view text) {
+  if (text.size() < 16) return bytes::Words::LoadPart(text.data(), text.size());
+  return {bytes::Load<std::uint64_t>(text.data()),
+          bytes::Load<std::uint64_t>(text.data() + text.size() - 8)};
+}
 
 struct Keyword {
   ElementKind kind;
   std::string_view text;
+  bytes::Words ends = EndsOf(text);
 };
 
 constexpr std::array kKeywords = {
@@ -24,30 +35,22 @@ constexpr bool StandsAtItsIndex() {
 }
 static_assert(StandsAtItsIndex(), "the keyword list has a gap, a double or a wrong order");
 
-// Keywords are looked up once per line of a file, so the table is hashed at compile time: five
-// characters and the length tell nearly all keywords apart, and a miss mostly ends at the first
-// slot.
+// Keywords are looked up once per line of a file, so the table is hashed at compile time, and a
+// miss mostly ends at the first slot.
 constexpr std::size_t kSlotCount = 1024;
 constexpr std::uint16_t kFree = 0xFFFF;
 
-constexpr std::size_t FirstSlot(std::string_view text) {
-  const auto byte = [&](std::size_t i) {
-    return static_cast<std::uint32_t>(static_cast<unsigned char>(text[i]));
-  };
-  const std::size_t n = text.size();
-  auto hash = static_cast<std::uint32_t>(n);
-  for (const std::size_t i : {std::size_t{0}, n / 4, n / 2, n - n / 4 - 1, n - 1}) {
-    hash = (hash ^ byte(i)) * 0x9E3779B1U;
-  }
-  return hash >> 22;
+constexpr std::size_t FirstSlot(bytes::Words ends) {
+  const std::uint64_t mixed = ends.low ^ (ends.high * 0x9E3779B97F4A7C15U);
+  return (mixed * 0xD6E8FEB86659FD93U) >> 54;
 }
-static_assert(kSlotCount == std::size_t{1} << 10, "FirstSlot keeps the upper 10 of 32 bits");
+static_assert(kSlotCount == std::size_t{1} << 10, "FirstSlot keeps the upper 10 of 64 bits");
 
 consteval auto MakeSlots() {
   std::array<std::uint16_t, kSlotCount> slots{};
   slots.fill(kFree);
   for (std::size_t i = 0; i < kKeywords.size(); ++i) {
-    std::size_t slot = FirstSlot(kKeywords[i].text);
+    std::size_t slot = FirstSlot(kKeywords[i].ends);
     while (slots[slot] != kFree) slot = (slot + 1) % kSlotCount;
     slots[slot] = static_cast<std::uint16_t>(i);
   }
@@ -55,11 +58,16 @@ consteval auto MakeSlots() {
 }
 constexpr auto kSlots = MakeSlots();
 
+constexpr bool IsText(const Keyword& keyword, std::string_view text, bytes::Words ends) {
+  return keyword.ends.low == ends.low && keyword.ends.high == ends.high &&
+         keyword.text.size() == text.size() && (text.size() <= 16 || keyword.text == text);
+}
+
 constexpr const Keyword* Find(std::string_view text) {
-  if (text.empty()) return nullptr;
-  for (std::size_t slot = FirstSlot(text); kSlots[slot] != kFree; slot = (slot + 1) % kSlotCount) {
+  const bytes::Words ends = EndsOf(text);
+  for (std::size_t slot = FirstSlot(ends); kSlots[slot] != kFree; slot = (slot + 1) % kSlotCount) {
     const Keyword& keyword = kKeywords[kSlots[slot]];
-    if (keyword.text == text) return &keyword;
+    if (IsText(keyword, text, ends)) return &keyword;
   }
   return nullptr;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -26,17 +27,13 @@ inline constexpr ElementKind KIND_UNKNOWN = ElementKind::KIND_UNKNOWN;
 
 namespace detail {
 
-/// Keywords with numbers that follow each other, and the place of the first in the keyword list.
+/// Keywords with numbers that follow each other.
 struct KeywordGroup {
   std::int32_t first = 0;
   std::int32_t last = 0;
-  std::size_t index = 0;
 
   [[nodiscard]] constexpr bool Has(std::int32_t number) const {
     return number >= first && number <= last;
-  }
-  [[nodiscard]] constexpr std::size_t IndexOf(std::int32_t number) const {
-    return static_cast<std::size_t>(number - first) + index;
   }
 };
 
@@ -52,7 +49,7 @@ consteval KeywordGroup GroupAt(std::size_t place) {
     const std::int32_t number = kKeywordNumbers[i];
     if (i == 0 || number != kKeywordNumbers[i - 1] + 1) {
       if (i != 0 && place-- == 0) return group;
-      group = {number, number, i};
+      group = {number, number};
     }
     group.last = number;
   }
@@ -69,6 +66,19 @@ static_assert(GroupAt(3).first == 0,
 
 /// Number of keywords that the format defines.
 inline constexpr std::size_t kKeywordCount = std::size(detail::kKeywordNumbers);
+
+namespace detail {
+/// Per number up to the last of a keyword, the place of its keyword in the list; a number without a
+/// keyword has that behind KIND_UNKNOWN.
+inline constexpr auto kIndexOfNumber = [] {
+  std::array<std::uint8_t, static_cast<std::size_t>(kProperties.last) + 1> indices{};
+  indices.fill(kKeywordCount + 1);
+  for (std::size_t i = 0; i < kKeywordCount; ++i) {
+    indices.at(static_cast<std::size_t>(kKeywordNumbers[i])) = static_cast<std::uint8_t>(i);
+  }
+  return indices;
+}();
+}  // namespace detail
 
 /// The kind of a keyword. The comparison is exact: upper case, no surrounding blanks. Any other
 /// text, the empty one included, gives KIND_UNKNOWN.
@@ -93,10 +103,8 @@ inline constexpr std::size_t kKeywordCount = std::size(detail::kKeywordNumbers);
 /// A dense number for tables indexed by kind: 0 to kKeywordCount - 1 in the order of the
 /// keyword list, kKeywordCount for KIND_UNKNOWN, kKeywordCount + 1 for everything else.
 [[nodiscard]] constexpr std::size_t KindIndex(ElementKind kind) {
-  const auto number = static_cast<std::int32_t>(kind);
-  if (detail::kMainBlocks.Has(number)) return detail::kMainBlocks.IndexOf(number);
-  if (detail::kFurtherBlocks.Has(number)) return detail::kFurtherBlocks.IndexOf(number);
-  if (detail::kProperties.Has(number)) return detail::kProperties.IndexOf(number);
+  const auto number = static_cast<std::size_t>(kind);
+  if (number < detail::kIndexOfNumber.size()) return detail::kIndexOfNumber[number];
   return kind == KIND_UNKNOWN ? kKeywordCount : kKeywordCount + 1;
 }
 

@@ -12,6 +12,8 @@
 #include <type_traits>
 #include <utility>
 
+#include "a2l2json/text/bytes.h"
+
 namespace a2l {
 
 class VoA2LElement;
@@ -104,8 +106,9 @@ class TreeStore {
   /// Copies `text` into the store.
   [[nodiscard]] std::string_view Copy(std::string_view text) {
     if (text.empty()) return {};
-    return {static_cast<char*>(std::memcpy(AllocateBytes(text.size()), text.data(), text.size())),
-            text.size()};
+    char* const copy = AllocateBytes(text.size());
+    bytes::Copy(copy, text.data(), text.size());
+    return {copy, text.size()};
   }
 
   /// `size` bytes for a text (at least one).

@@ -14,6 +14,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <type_traits>
 #include <utility>
 
 #if defined(__SSE2__)
@@ -27,12 +28,14 @@ inline constexpr std::size_t kBlock = 16;
 
 /// The bytes from `from` on as one number, the first of them lowest.
 template <class Number>
-[[nodiscard]] inline Number Load(const char* from) {
+[[nodiscard]] constexpr Number Load(const char* from) {
   Number number = 0;
-  std::memcpy(&number, from, sizeof number);
-  if constexpr (std::endian::native == std::endian::big) {
-    number = static_cast<Number>(sizeof number == 8 ? __builtin_bswap64(number)
-                                                    : __builtin_bswap32(number) & 0xFFFFFFFFU);
+  if (std::is_constant_evaluated() || std::endian::native == std::endian::big) {
+    for (std::size_t i = sizeof number; i-- > 0;) {
+      number = number << 8 | static_cast<unsigned char>(from[i]);
+    }
+  } else {
+    std::memcpy(&number, from, sizeof number);
   }
   return number;
 }
@@ -43,7 +46,8 @@ struct Words {
   std::uint64_t high = 0;
 
   /// `size` bytes, fewer than 16, by two words that overlap.
-  [[nodiscard]] static Words LoadPart(const char* from, std::size_t size) {
+  [[nodiscard, gnu::always_inline]] static constexpr Words LoadPart(const char* from,
+                                                                    std::size_t size) {
     if (size >= 8) {
       // Two shifts: one by 64 bits is not defined.
       return {Load<std::uint64_t>(from),

@@ -14,12 +14,16 @@ namespace {
 constexpr bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
 // The value of a digit in any base up to 16; 16 for what is none.
-constexpr unsigned DigitValue(char c) {
-  if (c >= '0' && c <= '9') return static_cast<unsigned>(c - '0');
-  if (c >= 'a' && c <= 'f') return static_cast<unsigned>(c - 'a' + 10);
-  if (c >= 'A' && c <= 'F') return static_cast<unsigned>(c - 'A' + 10);
-  return 16;
-}
+constexpr auto kDigitValues = [] {
+  std::array<std::uint8_t, 256> values{};
+  values.fill(16);
+  for (std::size_t i = 0; i < 10; ++i) values['0' + i] = static_cast<std::uint8_t>(i);
+  for (std::size_t i = 0; i < 6; ++i) {
+    values['a' + i] = values['A' + i] = static_cast<std::uint8_t>(10 + i);
+  }
+  return values;
+}();
+constexpr unsigned DigitValue(char c) { return kDigitValues[static_cast<unsigned char>(c)]; }
 
 // Takes white space and one sign off the front; true for a minus sign.
 bool TakeSign(std::string_view& token) {
@@ -50,6 +54,16 @@ Magnitude ReadMagnitude(std::string_view token) {
   } else if (token.starts_with('0')) {
     base = 8;
   }
+  // Up to 16 digits of any base cannot overflow.
+  constexpr std::size_t kSafeDigits = 16;
+  for (std::size_t i = 0; i < std::min(token.size(), kSafeDigits); ++i) {
+    const unsigned digit = DigitValue(token[i]);
+    if (digit >= base) return result;
+    result.ok = true;
+    result.value = result.value * base + digit;
+  }
+  if (token.size() <= kSafeDigits) return result;
+  token.remove_prefix(kSafeDigits);
   // One division for all digits: one for each takes longer than everything else here.
   constexpr std::uint64_t kMost = std::numeric_limits<std::uint64_t>::max();
   const std::uint64_t mostBefore = kMost / base;
