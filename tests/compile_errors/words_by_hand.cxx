@@ -7,7 +7,7 @@
 namespace a2l {
 
 constexpr WordForm kForm = {[](const VoA2LElement& element) {
-                              return FieldOf<&VoA2LElementMeasurement::DATATYPE>(element);
+                              return static_cast<std::uint32_t>(FieldOf<&VoA2LElementMeasurement::DATATYPE>(element));
                             },
                             words::kUnitType};
 

@@ -40,24 +40,28 @@ inline constexpr std::size_t kArraySize = 0;
 template <class Item, std::size_t kSize>
 inline constexpr std::size_t kArraySize<std::array<Item, kSize>> = kSize;
 
+// Functions, not lambdas: their bodies wait until the class of the member is complete.
 template <auto kMember>
-inline constexpr WordField kWordField = {
-    [](const VoA2LElement& element) {
-      return static_cast<std::uint32_t>(static_cast<const FieldOwner<kMember>&>(element).*kMember);
-    },
-    [](VoA2LElement& element, std::uint32_t code) {
-      static_cast<FieldOwner<kMember>&>(element).*kMember = static_cast<FieldType<kMember>>(code);
-    }};
+std::uint32_t GetWord(const VoA2LElement& element) {
+  return static_cast<std::uint32_t>(static_cast<const FieldOwner<kMember>&>(element).*kMember);
+}
+template <auto kMember>
+void SetWord(VoA2LElement& element, std::uint32_t code) {
+  static_cast<FieldOwner<kMember>&>(element).*kMember = static_cast<FieldType<kMember>>(code);
+}
+template <auto kMember>
+inline constexpr WordField kWordField = {&GetWord<kMember>, &SetWord<kMember>};
 
 template <auto kMember>
-inline constexpr SeveralNumbers kSeveralNumbers = {
-    [](const VoA2LElement& element) {
-      return std::span<const std::int32_t>(static_cast<const FieldOwner<kMember>&>(element).*
-                                           kMember);
-    },
-    [](VoA2LElement& element) {
-      return std::span<std::int32_t>(static_cast<FieldOwner<kMember>&>(element).*kMember);
-    }};
+std::span<const std::int32_t> GetNumbers(const VoA2LElement& element) {
+  return static_cast<const FieldOwner<kMember>&>(element).*kMember;
+}
+template <auto kMember>
+std::span<std::int32_t> ChangeNumbers(VoA2LElement& element) {
+  return static_cast<FieldOwner<kMember>&>(element).*kMember;
+}
+template <auto kMember>
+inline constexpr SeveralNumbers kSeveralNumbers = {&GetNumbers<kMember>, &ChangeNumbers<kMember>};
 
 template <auto kNames, auto kValues>
 inline constexpr NamedValueFields kNamedValueFields = {

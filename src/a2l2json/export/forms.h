@@ -95,7 +95,7 @@ const auto& FieldOf(const VoA2LElement& element) {
 template <auto kMember>
 constexpr WordForm WordForm::Of() {
   using Type = typename MemberOf<decltype(kMember)>::Type;
-  static_assert(detail::kWordTable<Type> != nullptr, "the type of this field has no words");
+  static_assert(detail::kWordTable<Type> != nullptr, "the class declares no words for this field");
   return {[](const VoA2LElement& element) {
             return static_cast<std::uint32_t>(FieldOf<kMember>(element));
           },
