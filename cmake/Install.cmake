@@ -127,8 +127,8 @@ if(A2L2JSON_LIBRARY)
     PATTERN "*.h"
     PATTERN "*.def"
     PATTERN "file_path.h" EXCLUDE)
-  foreach(header a2l2json.h reader/a2l_reader.h reader/diagnostics.h reader/read.h
-                 export/json_writer.h)
+  foreach(header a2l2json.h names_begin.h names_end.h reader/a2l_reader.h reader/diagnostics.h
+                 reader/read.h export/json_writer.h)
     cmake_path(GET header PARENT_PATH room)
     install(
       FILES "${sources}/${header}"

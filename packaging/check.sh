@@ -133,6 +133,8 @@ cmake -S packaging/check -B "$work/check" -DCMAKE_PREFIX_PATH="$root/usr" \
 cmake --build "$work/check" >>"$work/check.log"
 version=$("$work/check/check" examples/small.a2l examples/small.json) || die 'the library gives a wrong result'
 say 'the library reads, writes and converts bytes in memory, also to a json11 value'
+"$work/check/own_names" || die 'macros or headers of a program and of the library disturb each other'
+say 'a program may have macros and headers with names of the library'
 
 # The program in the README.
 sed -n '/^```cpp$/,/^```$/{/^```/d;p}' README.md >"$work/check/readme.cpp"

@@ -9,7 +9,8 @@
 //       std::cout << measurement.NAME << " at " << address->ECU_ADDRESS << '\n';
 //   if (file) a2l::WriteJson(*file.tree, std::cout);
 //
-// Names in a2l::detail are not for use.
+// Names in a2l::detail are not for use. Where a name of the library is a macro, as BYTE_ORDER is on
+// Linux, it is to be had with an underscore behind it: see names_begin.h.
 #pragma once
 
 #include "a2l2json/elements/elements.h"

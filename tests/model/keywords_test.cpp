@@ -12,6 +12,8 @@
 
 #include "tests/support/kinds.h"
 
+#include "a2l2json/names_begin.h"
+
 namespace a2l::test {
 namespace {
 

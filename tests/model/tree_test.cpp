@@ -237,6 +237,7 @@ TEST(FindByName, IsTheFirstOfItsClassWithThatName) {
       "/begin CHARACTERISTIC a \"\" VALUE 0x30 L 0 C 0 1\n/end CHARACTERISTIC\n"
       "/begin MEASUREMENT a \"first\" UBYTE C 1 0 0 1\n/end MEASUREMENT\n"
       "/begin MEASUREMENT b \"\" UBYTE C 1 0 0 1\n/end MEASUREMENT\n"
+      "/begin GROUP a \"of a\"\n/end GROUP\n"
       "/begin MEASUREMENT a \"second\" UBYTE C 1 0 0 1\n/end MEASUREMENT\n"
       "/end MODULE\n"
       "/end PROJECT\n");
@@ -261,6 +262,8 @@ TEST(FindByName, IsTheFirstOfItsClassWithThatName) {
   EXPECT_EQ(index.Find("c"), nullptr);
   EXPECT_EQ(index.size(), 2U);
   EXPECT_EQ(NameIndex<VoA2LElementBlob>(constant).size(), 0U);
+  EXPECT_EQ(FindByName<VoA2LElementGroup>(root, "a"), NameIndex<VoA2LElementGroup>(root).Find("a"));
+  EXPECT_EQ(FindByName<VoA2LElementGroup>(root, "a")->GROUP_LONG_IDENTIFIER, "of a");
 }
 
 }  // namespace

@@ -4,12 +4,10 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <iterator>
 #include <string_view>
 
-// A keyword of the format, and on some platforms a macro that <cstdlib> brings along.
-#undef BYTE_ORDER
+#include "a2l2json/names_begin.h"
 
 namespace a2l {
 
@@ -20,6 +18,10 @@ enum class ElementKind : std::int32_t {
 #define A2L_KEYWORD(number, keyword, Class) keyword = (number),
 #include "a2l2json/model/keywords.def"
   KIND_UNKNOWN = 25535,  ///< any keyword that the format does not define
+
+  // For files where these keywords are macros; see names_begin.h.
+  BYTE_ORDER_ = BYTE_ORDER,
+  VERSION_ = VERSION,
 };
 
 inline constexpr ElementKind KIND_ROOT = ElementKind::KIND_ROOT;
@@ -112,3 +114,5 @@ inline constexpr auto kIndexOfNumber = [] {
 inline constexpr std::size_t kKindIndexCount = kKeywordCount + 2;
 
 }  // namespace a2l
+
+#include "a2l2json/names_end.h"

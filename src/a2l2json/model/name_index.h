@@ -15,16 +15,15 @@
 
 namespace a2l {
 
-/// The elements of `Class` below an element, by their NAME. It keeps the names as views into the
-/// tree, and does not see what is changed there later.
+/// The elements of `Class` below an element, by their NAME (groups by their GROUP_NAME). It keeps
+/// the names as views into the tree, and does not see what is changed there later.
 template <class Class>
 class NameIndex {
  public:
   /// Looks at every element below `ancestor` once.
   explicit NameIndex(const VoA2LElement& ancestor) {
-    static_assert(detail::HasName<Class>(), "elements of this class have no NAME");
     for (const Class& element : Descendants<Class>(ancestor)) {
-      elements_.emplace(element.NAME, &element);
+      elements_.emplace(detail::NameOf(element), &element);
     }
   }
 

@@ -21,6 +21,8 @@
 
 #include "a2l2json/model/element.h"
 
+#include "a2l2json/names_begin.h"
+
 namespace a2l {
 
 /// Owns a tree, a new and empty one at first, and destroys it with everything in it. It is used
@@ -154,17 +156,23 @@ class DescendantSteps {
   std::vector<ChildSteps> path_;
 };
 
+/// The name of an element: its NAME, or its GROUP_NAME.
 template <class Class>
-constexpr bool HasName() {
-  return requires(const Class& element) { std::string_view(element.NAME); };
+std::string_view NameOf(const Class& element) {
+  if constexpr (requires { std::string_view(element.GROUP_NAME); }) {
+    return element.GROUP_NAME;
+  } else {
+    static_assert(
+        requires { std::string_view(element.NAME); }, "elements of this class have no name");
+    return element.NAME;
+  }
 }
 
-/// The first of `elements` with that NAME; null where there is none.
+/// The first of `elements` with that name; null where there is none.
 template <class Class, class Steps>
 Class* FirstWithName(const Walk<Class, Steps>& elements, std::string_view name) {
-  static_assert(HasName<Class>(), "elements of this class have no NAME");
   for (Class& element : elements) {
-    if (element.NAME == name) return &element;
+    if (NameOf(element) == name) return &element;
   }
   return nullptr;
 }
@@ -202,9 +210,9 @@ template <class Class>
   return ChildrenOf<Class>(parent).First();
 }
 
-/// The first element of `Class` below `ancestor` whose NAME is `name`, in the order of the file;
-/// null where there is none. Every element up to that one is looked at: for many names, make a
-/// NameIndex (model/name_index.h).
+/// The first element of `Class` below `ancestor` whose NAME (GROUP_NAME of a group) is `name`, in
+/// the order of the file; null where there is none. Every element up to that one is looked at: for
+/// many names, make a NameIndex (model/name_index.h).
 template <class Class>
 [[nodiscard]] const Class* FindByName(const VoA2LElement& ancestor, std::string_view name) {
   return detail::FirstWithName(Descendants<Class>(ancestor), name);
@@ -215,3 +223,5 @@ template <class Class>
 }
 
 }  // namespace a2l
+
+#include "a2l2json/names_end.h"

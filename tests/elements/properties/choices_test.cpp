@@ -8,6 +8,8 @@
 
 #include "tests/support/parsing.h"
 
+#include "a2l2json/names_begin.h"
+
 namespace a2l::test {
 namespace {
 

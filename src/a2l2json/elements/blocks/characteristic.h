@@ -8,6 +8,8 @@
 #include "a2l2json/elements/element_class.h"
 #include "a2l2json/model/value_sets.h"
 
+#include "a2l2json/names_begin.h"
+
 namespace a2l {
 
 /// A value, curve, map or block of values in memory.
@@ -183,3 +185,5 @@ struct VoA2LElementFixAxisParList final
 };
 
 }  // namespace a2l
+
+#include "a2l2json/names_end.h"

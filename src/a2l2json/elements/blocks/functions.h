@@ -5,6 +5,8 @@
 
 #include "a2l2json/elements/element_class.h"
 
+#include "a2l2json/names_begin.h"
+
 namespace a2l {
 
 /// What a part of the software defines, refers to, reads and writes.
@@ -23,6 +25,8 @@ struct VoA2LElementFunction final : detail::Block<VoA2LElementFunction, ElementK
 /// Objects that are shown together. REF_GROUP has no place here, only in USER_RIGHTS.
 struct VoA2LElementGroup final : detail::Block<VoA2LElementGroup, ElementKind::GROUP> {
   std::string_view GROUP_NAME;
+  /// GROUP_NAME, for files where that is a macro; see names_begin.h.
+  [[nodiscard]] auto GROUP_NAME_() const { return GROUP_NAME; }
   std::string_view GROUP_LONG_IDENTIFIER;
   static constexpr Parameter parameters[] = {
       Identifier<&Self::GROUP_NAME>,
@@ -119,3 +123,5 @@ struct VoA2LElementTransformerOutObjects final
                                  ElementKind::TRANSFORMER_OUT_OBJECTS> {};
 
 }  // namespace a2l
+
+#include "a2l2json/names_end.h"

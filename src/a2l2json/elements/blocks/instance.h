@@ -9,6 +9,8 @@
 #include "a2l2json/elements/element_class.h"
 #include "a2l2json/model/value_sets.h"
 
+#include "a2l2json/names_begin.h"
+
 namespace a2l {
 
 /// An object of a type that is defined elsewhere in the module.
@@ -187,3 +189,5 @@ struct VoA2LElementTypedefStructure final
 };
 
 }  // namespace a2l
+
+#include "a2l2json/names_end.h"

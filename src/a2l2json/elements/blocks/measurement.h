@@ -8,6 +8,8 @@
 #include "a2l2json/elements/element_class.h"
 #include "a2l2json/model/value_sets.h"
 
+#include "a2l2json/names_begin.h"
+
 namespace a2l {
 
 struct VoA2LElementMeasurement final
@@ -60,3 +62,5 @@ struct VoA2LElementBitOperation final
 };
 
 }  // namespace a2l
+
+#include "a2l2json/names_end.h"

@@ -9,6 +9,8 @@
 #include "a2l2json/elements/element_class.h"
 #include "a2l2json/model/value_sets.h"
 
+#include "a2l2json/names_begin.h"
+
 namespace a2l {
 
 /// Measurements that are transferred together.
@@ -49,6 +51,8 @@ struct VoA2LElementCalibrationMethod final
     : detail::Block<VoA2LElementCalibrationMethod, ElementKind::CALIBRATION_METHOD> {
   std::string_view METHOD;
   std::uint32_t VERSION = 0;
+  /// VERSION, for files where that is a macro; see names_begin.h.
+  [[nodiscard]] auto VERSION_() const { return VERSION; }
   static constexpr Parameter parameters[] = {
       NextLine(Text<&Self::METHOD>),
       Unsigned<&Self::VERSION>,
@@ -78,6 +82,8 @@ struct VoA2LElementTransformer final
     : detail::Block<VoA2LElementTransformer, ElementKind::TRANSFORMER> {
   std::string_view NAME;
   std::string_view VERSION;
+  /// VERSION, for files where that is a macro; see names_begin.h.
+  [[nodiscard]] auto VERSION_() const { return VERSION; }
   std::string_view EXECUTABLE32;
   std::string_view EXECUTABLE64;
   std::uint32_t TIMEOUT = 0;
@@ -132,3 +138,5 @@ struct VoA2LElementVirtual final : detail::Block<VoA2LElementVirtual, ElementKin
 };
 
 }  // namespace a2l
+
+#include "a2l2json/names_end.h"

@@ -10,6 +10,8 @@
 #include "a2l2json/elements/element_class.h"
 #include "a2l2json/model/value_sets.h"
 
+#include "a2l2json/names_begin.h"
+
 namespace a2l {
 
 /// Offsets of the mirrored segments.
@@ -147,3 +149,5 @@ struct VoA2LElementMemorySegment final
 };
 
 }  // namespace a2l
+
+#include "a2l2json/names_end.h"

@@ -11,12 +11,16 @@
 #include "a2l2json/elements/element_class.h"
 #include "a2l2json/model/value_sets.h"
 
+#include "a2l2json/names_begin.h"
+
 namespace a2l {
 
 /// Order of the bytes in memory. An unknown word is wrong.
 struct VoA2LElementByteOrder final
     : detail::Property<VoA2LElementByteOrder, ElementKind::BYTE_ORDER> {
   ByteOrder BYTE_ORDER{};
+  /// BYTE_ORDER, for files where that is a macro; see names_begin.h.
+  [[nodiscard]] auto BYTE_ORDER_() const { return BYTE_ORDER; }
   static constexpr Parameter parameters[] = {RequiredWord<&Self::BYTE_ORDER>};
 };
 
@@ -61,3 +65,5 @@ struct VoA2LElementAddressType final
 };
 
 }  // namespace a2l
+
+#include "a2l2json/names_end.h"

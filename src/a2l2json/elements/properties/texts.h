@@ -6,6 +6,8 @@
 
 #include "a2l2json/elements/element_class.h"
 
+#include "a2l2json/names_begin.h"
+
 namespace a2l {
 
 /// Title of an annotation.
@@ -143,6 +145,8 @@ struct VoA2LElementVarSeparator final
 /// Version of the described data.
 struct VoA2LElementVersion final : detail::Property<VoA2LElementVersion, ElementKind::VERSION> {
   std::string_view VERSION;
+  /// VERSION, for files where that is a macro; see names_begin.h.
+  [[nodiscard]] auto VERSION_() const { return VERSION; }
   static constexpr Parameter parameters[] = {Text<&Self::VERSION>};
 };
 
@@ -155,3 +159,5 @@ struct VoA2LElementSystemConstant final
 };
 
 }  // namespace a2l
+
+#include "a2l2json/names_end.h"
