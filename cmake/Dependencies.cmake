@@ -16,10 +16,10 @@
 include_guard(GLOBAL)
 include("${CMAKE_CURRENT_LIST_DIR}/InstalledJson11.cmake")
 
-# Installed libraries are compiled for the system that builds. For another system, the sources of
-# GoogleTest and json11 will do; Debian has these as well.
+# Installed libraries are compiled for the system that builds, and with its standard library. For
+# another one, the sources of GoogleTest and json11 will do; Debian has these as well.
 option(A2L2JSON_LIBRARIES_FROM_SOURCE
-       "Compile GoogleTest and json11 from sources, as cross compiling asks for" OFF)
+       "Compile GoogleTest and json11 from sources, for another system or standard library" OFF)
 
 # ---------------------------------------------------------------------------------------------
 # GoogleTest, Google Benchmark and {fmt}
