@@ -109,6 +109,11 @@ install(
   DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/site-functions"
   COMPONENT plain)
 
+# The pkg-config files find everything relative to their own place, so the installation may be moved.
+file(RELATIVE_PATH A2L2JSON_PC_PREFIX "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig"
+     "${CMAKE_INSTALL_PREFIX}")
+string(REGEX REPLACE "/$" "" A2L2JSON_PC_PREFIX "${A2L2JSON_PC_PREFIX}")
+
 # ---------------------------------------------------------------------------------------------
 # The library, its headers, its CMake package and its pkg-config file
 
@@ -168,16 +173,49 @@ if(A2L2JSON_LIBRARY)
     DESTINATION "${package}"
     COMPONENT library)
 
-  # The pkg-config file finds everything relative to its own place, so the installation may be
-  # moved.
-  file(RELATIVE_PATH A2L2JSON_PC_PREFIX "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig"
-       "${CMAKE_INSTALL_PREFIX}")
-  string(REGEX REPLACE "/$" "" A2L2JSON_PC_PREFIX "${A2L2JSON_PC_PREFIX}")
   configure_file("${packaging}/a2l2json.pc.in" "${generated}/a2l2json.pc" @ONLY)
   install(
     FILES "${generated}/a2l2json.pc"
     DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig"
     COMPONENT library)
+endif()
+
+# ---------------------------------------------------------------------------------------------
+# The C interface. Its name for the linker is not that of the file, because liba2l2json.so would be
+# taken in the place of liba2l2json.a.
+
+if(A2L2JSON_C_LIBRARY AND TARGET a2l2json_c)
+  set(package "${CMAKE_INSTALL_LIBDIR}/cmake/a2l2json")
+  install(
+    FILES "${PROJECT_SOURCE_DIR}/capi/a2l2json.h"
+    DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
+    COMPONENT c)
+  install(
+    TARGETS a2l2json_c
+    EXPORT a2l2json-c-targets
+    RUNTIME COMPONENT c
+    LIBRARY COMPONENT c NAMELINK_SKIP
+    ARCHIVE COMPONENT c
+    INCLUDES DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
+  install(
+    EXPORT a2l2json-c-targets
+    NAMESPACE a2l2json::
+    DESTINATION "${package}"
+    COMPONENT c)
+  if(NOT WIN32)
+    set(link "${generated}/liba2l2json-c${CMAKE_SHARED_LIBRARY_SUFFIX}")
+    file(CREATE_LINK "liba2l2json${CMAKE_SHARED_LIBRARY_SUFFIX}.${PROJECT_VERSION_MAJOR}" "${link}"
+         SYMBOLIC)
+    install(
+      FILES "${link}"
+      DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+      COMPONENT c)
+  endif()
+  configure_file("${packaging}/a2l2json-c.pc.in" "${generated}/a2l2json-c.pc" @ONLY)
+  install(
+    FILES "${generated}/a2l2json-c.pc"
+    DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig"
+    COMPONENT c)
 endif()
 
 include("${packaging}/packages.cmake")

@@ -128,6 +128,16 @@ g++ -std=c++20 examples/consumer/main.cpp "${flags[@]}" -o "$work/consumer/with-
 try_consumer "$work/consumer/with-pkg-config"
 say 'examples/consumer works with pkg-config'
 
+cmake -S examples/c -B "$work/c" -DCMAKE_PREFIX_PATH="$root/usr" >"$work/c.log"
+cmake --build "$work/c" >>"$work/c.log"
+"$work/c/example" "$demo" | cmp - "$expected"
+read -ra c_flags < <(pkg-config --cflags --libs a2l2json-c)
+cc -std=c99 -Wall -Wextra -Wpedantic -Werror examples/c/main.c "${c_flags[@]}" \
+  -o "$root/c-example"
+cp "$demo" "$root/demo.a2l"
+in_root "$root" /c-example demo.a2l | cmp - "$expected"
+say 'examples/c works with the CMake package and with pkg-config, and where the package is installed'
+
 cmake -S packaging/check -B "$work/check" -DCMAKE_PREFIX_PATH="$root/usr" \
   -DJSON11="$PWD/.deps/json11" >"$work/check.log"
 cmake --build "$work/check" >>"$work/check.log"
@@ -144,6 +154,18 @@ cmp "$work/check/readme.json" "$expected"
 [[ $(<"$work/check/readme.txt") == EngineSpeed ]] || die 'the program in the README prints something else'
 say 'so does the program in the README'
 
+# What the README shows in C.
+{
+  printf '#include <stdio.h>\n'
+  sed -n '/^```c$/,/^```$/{/^```/d;p}' README.md | awk '/^a2l2json_/ && !n++ { print "int main(void) {" } 1'
+  printf '  return 0;\n}\n'
+} >"$work/check/readme.c"
+cc -std=c99 "$work/check/readme.c" "${c_flags[@]}" -o "$work/check/readme-c"
+cp "$demo" "$work/check/engine.a2l"
+(cd "$work/check" && LD_LIBRARY_PATH=${pc%/*/*} ./readme-c) | cmp - <(cat "$expected" && echo) ||
+  die 'the README shows something else in C'
+say 'so does what it shows in C'
+
 # Every header compiles without another one before it.
 find "$root/usr/include/a2l2json" -name '*.h' ! -name 'json11*' -printf '%P\0' |
   xargs -0 -P "${JOBS:-2}" -I{} \
@@ -154,6 +176,7 @@ say 'each of the installed headers compiles by itself'
 # One version everywhere.
 [[ $(dpkg-deb --field "$deb" Version) == "$version" && $archive == *-"$version"-* &&
   $(pkg-config --modversion a2l2json) == "$version" &&
+  $(pkg-config --modversion a2l2json-c) == "$version" &&
   $(zcat "$root/usr/share/man/man1/a2l2json.1.gz") == *"a2l2json $version"* ]] ||
   die "the versions differ from $version"
 say "everything has the version $version"
@@ -165,7 +188,8 @@ for prefix in "$root/usr" "$work/installed"; do
     share/bash-completion/completions/a2l2json 'share/zsh/*/_a2l2json' \
     share/fish/vendor_completions.d/a2l2json.fish include/a2l2json/a2l2json.h \
     'lib*/**/liba2l2json.a' 'lib*/**/cmake/a2l2json/a2l2json-config.cmake' \
-    'lib*/**/pkgconfig/a2l2json.pc'; do
+    'lib*/**/pkgconfig/a2l2json.pc' include/a2l2json.h 'lib*/**/liba2l2json.so.1' \
+    'lib*/**/liba2l2json-c.so' 'lib*/**/pkgconfig/a2l2json-c.pc'; do
     compgen -G "$prefix/$file" >/dev/null || die "there is no $prefix/$file"
   done
 done
@@ -176,7 +200,7 @@ completed() (
   _a2l2json
   printf '%s\n' "${COMPREPLY[@]}" | sort | paste -sd ' '
 )
-[[ $(completed examples/) == 'examples/consumer examples/demo.a2l examples/small.a2l' &&
+[[ $(completed examples/) == 'examples/c examples/consumer examples/demo.a2l examples/small.a2l' &&
   $(completed "$demo" examples/d) == 'examples/demo.a2l examples/demo.json' &&
   $(completed "$demo" demo.json '') == '' ]] || die 'bash completes wrongly'
 cmp "$(pkg-config --variable=schema a2l2json)" docs/json.schema.json

@@ -3,7 +3,7 @@
 # The components of each package. cpack reads this file once per package.
 
 if(CPACK_GENERATOR STREQUAL "DEB")
-  set(components program library shared debian)
+  set(components program library c shared debian)
 else()
   set(components static shared plain)
 endif()

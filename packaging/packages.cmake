@@ -20,7 +20,8 @@ control unit's measurements and calibration objects) into one JSON document,
 and reports mistakes with their lines.
 
 The same is there for C++ programs: a static library with its headers, a CMake
-package and a pkg-config file.")
+package and a pkg-config file. Programs in C and in all languages that can call
+C have a shared library.")
 set(CPACK_RESOURCE_FILE_LICENSE "${PROJECT_SOURCE_DIR}/LICENSE")
 string(TOLOWER "${CMAKE_SYSTEM_NAME}" system)
 set(CPACK_PACKAGE_FILE_NAME
@@ -44,6 +45,7 @@ set(CPACK_DEBIAN_PACKAGE_MAINTAINER "${CPACK_PACKAGE_CONTACT}")
 set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "g++, cmake | pkgconf")
 
 find_program(A2L2JSON_GZIP gzip REQUIRED)

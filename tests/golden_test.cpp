@@ -13,6 +13,7 @@
 // program replaces the expected files. That is for reading the difference, never for making a test
 // pass.
 #include <algorithm>
+#include <cstddef>
 #include <cstdlib>
 #include <filesystem>
 #include <ostream>
@@ -24,6 +25,7 @@
 
 #include "a2l2json/export/json11_document.h"
 #include "a2l2json/export/json_writer.h"
+#include "capi/a2l2json.h"
 #include "tests/support/files.h"
 #include "tests/support/golden_document.h"
 #include "tests/support/programs.h"
@@ -104,6 +106,25 @@ TEST_P(Golden, ProgramGivesConsoleTextExitCodeAndDocument) {
   EXPECT_EQ(run.exitCode, 0);
   EXPECT_EQ(run.out == kSuccess, golden.Is("ok_")) << "the name disagrees with " << run.out;
   ExpectDocument(golden.With(".json"), ReadFile(json));
+}
+
+TEST_P(Golden, CInterfaceGivesTheSame) {
+  const Case& golden = GetParam();
+  a2l2json_result* result = nullptr;
+  const a2l2json_code code = a2l2json_convert_file(golden.path.string().c_str(), nullptr, &result);
+  std::size_t size = 0;
+  const char* messages = a2l2json_messages(result, &size);
+  const char* const said = golden.Is("fail_") ? "Failed: " : "Success.\n";
+  EXPECT_EQ(said + std::string(messages, size) + "\n",
+            golden.Is("ok_") ? kSuccess : ReadFile(golden.With(".out")));
+  const char* document = a2l2json_document(result, &size);
+  EXPECT_EQ(document == nullptr, golden.Is("fail_"));
+  EXPECT_EQ(code == A2L2JSON_NOT_CONVERTED, golden.Is("fail_"));
+  if (document != nullptr) {
+    EXPECT_TRUE(code == A2L2JSON_OK || code == A2L2JSON_NOT_A2L) << code;
+    EXPECT_EQ(std::string_view(document, size), ReadGoldenDocument(golden.With(".json")));
+  }
+  a2l2json_free(result);
 }
 
 TEST_P(Golden, LibraryGivesTheSameDocumentThroughJson11) {

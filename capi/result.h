@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+//
+// What stands behind the opaque result, and how a call fills it.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "a2l2json/a2l2json.h"
+#include "capi/a2l2json.h"
+
+struct a2l2json_result {
+  a2l2json_code code = A2L2JSON_OK;
+  std::string error;
+  std::string messages;
+  std::optional<std::string> document;
+  std::optional<std::string> mended;
+  // The views point into the texts, which stay where they are once all are there.
+  std::vector<std::string> texts;
+  std::vector<a2l2json_diagnostic> diagnostics;
+  std::vector<a2l2json_finding> findings;
+};
+
+namespace a2l::capi {
+
+/// Where the text of a conversion comes from.
+struct Input {
+  /// What to call it in sentences; empty for text in memory without a name.
+  std::string_view name;
+  std::function<ReadResult()> read;
+  /// Its first bytes, kLookedAt of them where there are so many; nothing where they cannot be had.
+  std::function<std::optional<std::string>()> beginning;
+};
+
+/// Makes a result and has `convert` fill it, from checked options that are never null. Whatever is
+/// thrown on the way becomes a code. The value is that of the public functions.
+a2l2json_code Call(const a2l2json_options* options, a2l2json_result** result,
+                   const std::function<void(const a2l2json_options&, a2l2json_result&)>& convert);
+
+/// Reads the input, and exports the tree as the options ask for.
+void Convert(const Input& input, const a2l2json_options& options, a2l2json_result& result);
+
+}  // namespace a2l::capi
