@@ -5,7 +5,6 @@
 
 #include "a2l2json/export/exporter.h"
 #include "a2l2json/export/json_text.h"
-#include "a2l2json/model/file_path.h"
 
 namespace a2l {
 namespace {
@@ -17,15 +16,6 @@ void Write(const VoA2LElement& root, JsonText::Output output) {
 }
 
 }  // namespace
-
-bool JsonWriter::Export(const std::string& path, const VoA2LElement* root) {
-  if (root == nullptr || root->kind != KIND_ROOT) return false;
-  out_.open(FilePath(path), std::ios::binary | std::ios::trunc);
-  if (!out_.is_open()) return false;
-  WriteJson(*root, out_);
-  out_.close();
-  return true;
-}
 
 std::string ToJson(const VoA2LElement& root) {
   std::string json;

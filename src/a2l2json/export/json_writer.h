@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <fstream>
 #include <iosfwd>
 #include <string>
 
@@ -17,9 +16,6 @@ class JsonWriter {
   /// replacing what is there. False, with nothing written, when `root` is not the root of a tree,
   /// and when the file cannot be opened. An error while writing is not reported.
   bool Export(const std::string& path, const VoA2LElement* root);
-
- private:
-  std::ofstream out_;
 };
 
 /// The JSON document of the tree below `root`, which is the root of a tree (the document of any

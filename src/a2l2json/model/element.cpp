@@ -2,20 +2,15 @@
 #include "a2l2json/model/element.h"
 
 #include <algorithm>
-#include <fstream>
 #include <memory>
 #include <ostream>
 #include <utility>
 #include <vector>
 
+#include "a2l2json/model/file_stream.h"
+
 namespace a2l {
 namespace {
-
-// The buffer knows whether a file is open; any kind of stream may write to one.
-bool TakesText(const std::ostream& out) {
-  if (const auto* file = dynamic_cast<const std::filebuf*>(out.rdbuf())) return file->is_open();
-  return out.good();
-}
 
 // Puts the version line first, as the standard asks of a file, whatever the order of reading.
 // Of several, the last one read comes first.

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "a2l2json/model/tree_store.h"
 
+#include <cstdlib>
+#include <new>
+
 namespace a2l::detail {
 namespace {
 
@@ -23,6 +26,14 @@ char* Blocks::AddBlock(std::size_t size) {
   auto* const bytes = static_cast<char*>(::operator new(sizeof(Block) + size));
   last_ = new (bytes) Block{last_};
   return bytes + sizeof(Block);
+}
+
+void RunOutOfMemory() {
+#ifdef __cpp_exceptions
+  throw std::bad_alloc();
+#else
+  std::abort();
+#endif
 }
 
 }  // namespace a2l::detail

@@ -73,6 +73,9 @@ class Blocks {
   std::size_t nextSize_ = std::size_t{4} * 1024;
 };
 
+/// Throws std::bad_alloc; where there are no exceptions, ends the program.
+[[noreturn]] void RunOutOfMemory();
+
 }  // namespace detail
 
 /// The memory of one tree: its elements, their lists and their texts. Everything in it lives
@@ -182,7 +185,7 @@ class List {
     // More items than can be counted are more than any memory holds.
     constexpr std::size_t kMostItems = std::numeric_limits<std::uint32_t>::max();
     if (sizeClass > kMostSizeClass || (std::size_t{1} << sizeClass) / sizeof(Item) > kMostItems) {
-      throw std::bad_alloc();
+      detail::RunOutOfMemory();
     }
     auto* items = static_cast<Item*>(store.AllocateArray(sizeClass));
     if (items_ != nullptr) {

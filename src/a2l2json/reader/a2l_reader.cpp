@@ -5,7 +5,6 @@
 #include <streambuf>
 
 #include "a2l2json/reader/block_parser.h"
-#include "a2l2json/reader/input_file.h"
 #include "a2l2json/reader/line_source.h"
 
 namespace a2l {
@@ -22,19 +21,6 @@ class TextBuffer : public std::streambuf {
 };
 
 }  // namespace
-
-bool A2LReader::Parse(const std::string& path, VoA2LElement* root) {
-  fileError = FileError::None;
-  if (root == nullptr) return false;
-  InputFile file(path);
-  bool ok = false;
-  if (file.Error() == FileError::None) {
-    std::istream in(&file);
-    ok = Parse(in, root);
-  }
-  fileError = file.Error();
-  return ok;
-}
 
 bool A2LReader::Parse(std::istream& in, VoA2LElement* root) {
   fileError = in.fail() ? FileError::NotOpened : FileError::None;

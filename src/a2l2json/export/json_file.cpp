@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+//
+// The part of the export that opens files. It is left out where there are none.
+#include <fstream>
+
+#include "a2l2json/export/json_writer.h"
+#include "a2l2json/model/file_path.h"
+
+namespace a2l {
+
+bool JsonWriter::Export(const std::string& path, const VoA2LElement* root) {
+  if (root == nullptr || root->kind != KIND_ROOT) return false;
+  std::ofstream out(FilePath(path), std::ios::binary | std::ios::trunc);
+  if (!out.is_open()) return false;
+  WriteJson(*root, out);
+  return true;
+}
+
+}  // namespace a2l
