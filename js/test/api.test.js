@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: MIT
+import assert from "node:assert/strict";
+import { readFileSync } from "node:fs";
+import path from "node:path";
+import { test } from "node:test";
+import { Worker } from "node:worker_threads";
+import { gzipSync } from "node:zlib";
+
+import { A2LError, convert, load, version } from "a2l2json";
+
+import { top } from "./files.js";
+
+const demo = readFileSync(path.join(top, "examples/demo.a2l"));
+const demoDocument = readFileSync(path.join(top, "examples/demo.json"));
+
+// A project whose description is `text`, as bytes of latin1.
+const project = (text) =>
+  Buffer.from(`/begin PROJECT P "${text}"\n/begin MODULE M ""\n/end MODULE\n/end PROJECT\n`, "latin1");
+
+async function failure(input, options) {
+  const error = await convert(input, options).then(() => null, (e) => e);
+  assert.ok(error instanceof A2LError, String(error));
+  assert.ok(error instanceof Error);
+  assert.equal(error.name, "A2LError");
+  return error;
+}
+
+test("a document comes as bytes, as text and as an object", async () => {
+  const result = await convert(demo, { mend: false });
+  assert.ok(result.document instanceof Uint8Array);
+  assert.ok(demoDocument.equals(result.document));
+  assert.equal(result.text(), demoDocument.toString());
+  assert.deepEqual(result.json(), JSON.parse(demoDocument.toString()));
+  assert.deepEqual(result.diagnostics, []);
+  assert.deepEqual(result.findings, []);
+  assert.equal(result.mended, null);
+});
+
+test("bytes and texts of every kind are taken", async () => {
+  const buffer = new ArrayBuffer(demo.length + 10);
+  new Uint8Array(buffer).set(demo, 10);
+  const inputs = [
+    demo.toString(),
+    new Uint8Array(demo),
+    buffer.slice(10),
+    new Uint8Array(buffer, 10),
+    new DataView(buffer, 10),
+    new Blob([demo.subarray(0, 100), demo.subarray(100)]),
+  ];
+  for (const [i, input] of inputs.entries()) {
+    assert.ok(demoDocument.equals((await convert(input, { mend: false })).document), String(i));
+  }
+});
+
+test("many conversions go side by side", async () => {
+  const texts = Array.from({ length: 20 }, (_, i) => `description ${i}`);
+  const results = await Promise.all(texts.map((text) => convert(project(text))));
+  assert.deepEqual(
+    results.map((result) => result.json().FProject_LONG_IDENTIFIER),
+    texts,
+  );
+});
+
+test("warnings are data", async () => {
+  const { diagnostics } = await convert(`COLOUR red\n${project("")}`, { mend: false });
+  assert.deepEqual(diagnostics, [
+    {
+      line: 1,
+      severity: "warning",
+      kind: "unexpected-element",
+      text: "unexpected element COLOUR",
+    },
+  ]);
+});
+
+test("an error tells where it is, and what came before", async () => {
+  const error = await failure('/begin PROJECT P ""\nWORD\n/end MODULE\n', {
+    mend: false,
+    name: "engine.a2l",
+  });
+  assert.equal(error.code, "not-converted");
+  assert.equal(error.message, "engine.a2l, line 3: /end don't equal /begin PROJECT");
+  assert.equal(error.line, 3);
+  assert.equal(error.diagnostics.length, 2);
+  assert.equal(error.diagnostics[0].severity, "warning");
+  assert.equal(error.diagnostics[1].kind, "end-does-not-match");
+  assert.equal(error.document, null);
+});
+
+test("what is no A2L file gets a sentence", async () => {
+  const sentences = [
+    ["", "The text is no A2L file. It is empty."],
+    [gzipSync(demo), "The text is no A2L file. It is compressed (gzip): decompress it first."],
+    ["Dear Sir or Madam", "The text is no A2L file. Nothing in it could be read."],
+  ];
+  for (const [input, sentence] of sentences) {
+    const error = await failure(input, { mend: false });
+    assert.equal(error.code, "not-a2l");
+    assert.equal(error.message, sentence);
+    assert.equal(error.line, null);
+  }
+});
+
+test("an input that is too large gets a sentence before it is read", async () => {
+  const large = new Blob([]);
+  Object.defineProperty(large, "size", { value: 2.5e9 });
+  const error = await failure(large);
+  assert.equal(error.code, "too-large");
+  assert.equal(
+    error.message,
+    "The input has 2.5 GB, and at most 2.1 GB can be converted here: " +
+      "the program a2l2json has no such limit.",
+  );
+});
+
+test("memory that runs out gets a sentence, and the next conversion works", async () => {
+  // One text of 1.1 GB, which has to be in memory several times.
+  const piece = Buffer.alloc(100e6, 120);
+  const large = new Blob(['/begin PROJECT P "', ...Array(11).fill(piece), '"\n/end PROJECT\n']);
+  const error = await failure(large, { mend: false });
+  assert.equal(error.code, "no-memory");
+  assert.equal(error.message, "Memory ran out: the program a2l2json needs less.");
+  assert.ok(demoDocument.equals((await convert(demo, { mend: false })).document));
+});
+
+test("texts are UTF-8 where they can be, and windows-1252 elsewhere", async () => {
+  const mixed = project("\xC3\xA4 and \xE4, \x80 5, \xE2\x82\xAC"); // ä, ä, €, €
+  const result = await convert(mixed, { mend: false });
+  assert.equal(result.json().FProject_LONG_IDENTIFIER, "ä and ä, € 5, €");
+  assert.ok(Buffer.from(result.document).includes(Buffer.from("\xC3\xA4 and \xE4", "latin1")));
+  const warning = await convert(Buffer.concat([Buffer.from([0xe4, 10]), mixed]), { mend: false });
+  assert.equal(warning.diagnostics[0].text, "unexpected element ä");
+});
+
+test("texts are in the encoding that is named", async () => {
+  const result = await convert(project("\xCF\xCE"), { mend: false, encoding: "koi8-r" });
+  assert.equal(result.json().FProject_LONG_IDENTIFIER, "он");
+  assert.ok(Buffer.from(result.document).includes(Buffer.from([0xcf, 0xce])), "the bytes stay");
+});
+test("what is no input or no option is refused", async () => {
+  await assert.rejects(convert(5), TypeError);
+  await assert.rejects(convert(undefined), TypeError);
+  await assert.rejects(convert({ path: "engine.a2l" }), TypeError);
+  await assert.rejects(convert(demo, { mended: false }), {
+    name: "TypeError",
+    message: "convert() has no option mended",
+  });
+  await assert.rejects(convert(demo, { encoding: "klingon" }), RangeError);
+});
+
+test("the version is that of the library and of the package", async () => {
+  const manifest = JSON.parse(readFileSync(path.join(top, "js/package.json"), "utf8"));
+  const project = readFileSync(path.join(top, "CMakeLists.txt"), "utf8");
+  assert.equal(await version(), manifest.version);
+  assert.match(project, new RegExp(`VERSION ${manifest.version.replaceAll(".", "\\.")}\n`));
+});
+
+test("the module can come from elsewhere", async () => {
+  const wasm = readFileSync(path.join(top, "js/dist/a2l2json.wasm"));
+  const sources = [
+    wasm,
+    Promise.resolve(wasm),
+    new WebAssembly.Module(wasm),
+    new Response(wasm, { headers: { "Content-Type": "application/wasm" } }),
+  ];
+  for (const source of sources) {
+    await load(source);
+    assert.ok(demoDocument.equals((await convert(demo, { mend: false })).document));
+  }
+  await assert.rejects(load(new Response("", { status: 404 })), /cannot be loaded: 404/);
+  assert.ok(demoDocument.equals((await convert(demo, { mend: false })).document), "another try");
+  await load();
+});
+
+test("it works in a worker", async () => {
+  const code = `
+    import { parentPort, workerData } from "node:worker_threads";
+    import { convert } from ${JSON.stringify(new URL("../src/node.js", import.meta.url).href)};
+    const { document } = await convert(workerData, { mend: false });
+    parentPort.postMessage(document, [document.buffer]);`;
+  const worker = new Worker(new URL(`data:text/javascript,${encodeURIComponent(code)}`), {
+    workerData: new Uint8Array(demo),
+  });
+  const document = await new Promise((resolve, reject) => {
+    worker.once("message", resolve);
+    worker.once("error", reject);
+  });
+  assert.ok(demoDocument.equals(document));
+});

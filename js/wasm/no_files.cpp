@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+//
+// What the library does with files where there are none, in the place of the sources that open them.
+#include <ostream>
+
+#include "a2l2json/model/file_stream.h"
+#include "a2l2json/reader/a2l_reader.h"
+
+namespace a2l {
+
+bool TakesText(const std::ostream& out) { return out.good(); }
+
+bool A2LReader::Parse(const std::string& /*path*/, VoA2LElement* /*root*/) {
+  fileError = FileError::NotOpened;
+  return false;
+}
+
+}  // namespace a2l
