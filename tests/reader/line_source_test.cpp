@@ -112,7 +112,7 @@ TEST(LineSource, TellsWhereTheSlashesOfALineStand) {
   };
   std::string text;
   for (const Row& row : rows) text += (text.empty() ? "" : "\n") + row.line;
-  for (const std::size_t pieceSize : {1, 7, 64, 65, 1000}) {
+  for (const std::size_t pieceSize : {1U, 7U, 64U, 65U, 1000U}) {
     std::istringstream in(text);
     LineSource source(in, pieceSize);
     for (const Row& row : rows) {

@@ -98,8 +98,8 @@ TEST(Bytes, SkipAllStopsAtAnotherByteOrBeforeAPartOfABlock) {
 
 TEST(Bytes, FindAllGivesABitForEachPlace) {
   std::string text(kMany, 'x');
-  for (const std::size_t place : {0, 15, 16, 40, 63}) text[place] = '\n';
-  for (const std::size_t place : {1, 62}) text[place] = '/';
+  for (const std::size_t place : {0U, 15U, 16U, 40U, 63U}) text[place] = '\n';
+  for (const std::size_t place : {1U, 62U}) text[place] = '/';
   const Alone alone(text);
   const auto [lineFeeds, slashes] = FindAll<'\n', '/'>(alone.begin());
   EXPECT_EQ(lineFeeds, 0x8000010000018001U);

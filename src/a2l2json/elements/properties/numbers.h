@@ -9,6 +9,8 @@
 
 #include "a2l2json/elements/element_class.h"
 
+#include "a2l2json/names_begin.h"
+
 namespace a2l {
 
 /// Address of the identification of the program version.
@@ -299,3 +301,5 @@ struct VoA2LElementSymbolLink final
 };
 
 }  // namespace a2l
+
+#include "a2l2json/names_end.h"
