@@ -154,17 +154,13 @@ cmp "$work/check/readme.json" "$expected"
 [[ $(<"$work/check/readme.txt") == EngineSpeed ]] || die 'the program in the README prints something else'
 say 'so does the program in the README'
 
-# What the README shows in C.
-{
-  printf '#include <stdio.h>\n'
-  sed -n '/^```c$/,/^```$/{/^```/d;p}' README.md | awk '/^a2l2json_/ && !n++ { print "int main(void) {" } 1'
-  printf '  return 0;\n}\n'
-} >"$work/check/readme.c"
+# The program in the page on C.
+sed -n '/^```c$/,/^```$/{/^```/d;p}' examples/c/README.md >"$work/check/readme.c"
 cc -std=c99 "$work/check/readme.c" "${c_flags[@]}" -o "$work/check/readme-c"
 cp "$demo" "$work/check/engine.a2l"
 (cd "$work/check" && LD_LIBRARY_PATH=${pc%/*/*} ./readme-c) | cmp - <(cat "$expected" && echo) ||
-  die 'the README shows something else in C'
-say 'so does what it shows in C'
+  die 'the program in examples/c/README.md prints something else'
+say 'so does the program in examples/c/README.md'
 
 # Every header compiles without another one before it.
 find "$root/usr/include/a2l2json" -name '*.h' ! -name 'json11*' -printf '%P\0' |
