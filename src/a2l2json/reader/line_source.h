@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <istream>
+#include <memory>
 #include <string_view>
-#include <vector>
 
 #include "a2l2json/text/bytes.h"
 
@@ -40,7 +40,7 @@ class LineSource {
     KeepSlashes(slashPlaces_ & upToLineFeed);
     slashPlaces_ &= ~upToLineFeed;
     lineFeedPlaces_ &= ~upToLineFeed;
-    line = std::string_view(buffer_.data() + begin_, lineFeed - begin_);
+    line = std::string_view(buffer_.get() + begin_, lineFeed - begin_);
     begin_ = lineFeed + 1;
     return true;
   }
@@ -60,6 +60,8 @@ class LineSource {
   bool FindLineFeed();
   bool TakeRest(std::string_view& line);
   bool Refill();
+  void Enlarge();
+  void MoveUnread(char* to);
   void KeepSlashes(std::uint64_t places) {
     if (places == 0) return;
     const std::size_t blockInLine = block_ - begin_;  // may wrap around; the sums do not
@@ -71,9 +73,11 @@ class LineSource {
 
   std::istream& in_;
   std::size_t pieceSize_;
-  std::vector<char> buffer_;  // with room for a block behind what has been read
-  std::size_t begin_ = 0;     // of what has not been handed out
-  std::size_t end_ = 0;       // of what has been read
+  // With room for a block behind what has been read.
+  std::unique_ptr<char[]> buffer_;
+  std::size_t bufferSize_ = 0;
+  std::size_t begin_ = 0;  // of what has not been handed out
+  std::size_t end_ = 0;    // of what has been read
 
   // The block that is looked at, and what has not been handed out of it: a bit for each place.
   std::size_t block_ = 0;
