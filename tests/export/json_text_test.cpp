@@ -9,6 +9,7 @@
 #include <random>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <gtest/gtest.h>
 #include <json11.hpp>
@@ -183,35 +184,60 @@ TEST(JsonText, SeparatesMembersAndItems) {
   EXPECT_EQ(text, R"({"a": [], "b": [1, {}, {"c": null, "d\n": true}], "e": false})");
 }
 
-TEST(JsonText, WritesPreparedKeysLikeOthers) {
-  const KeyText name("FNAME");
-  const KeyText longest("FVAR_SELECTION_CHARACTERISTIC");
-  EXPECT_EQ(name.Key(), "FNAME");
+constexpr Row kRows[] = {
+    {.key = "FFIRST"},
+    {.key = "FFLAG", .source = Source::Presence},
+    {.key = "FLIST", .source = Source::Children, .absent = Absent::EmptyArray},
+    {.key = "FVAR_SELECTION_CHARACTERISTIC", .source = Source::FirstChild},
+};
+constexpr PreparedRows<kRows> kPrepared;
+constexpr ObjectTable kTable{{}, kRows, kPrepared.Text(), kPrepared.Rows(), {}, {}};
+
+TEST(JsonText, WritesPreparedRowsLikeOtherMembers) {
   const std::string text = TextOf([&](JsonText& json) {
     json.BeginObject();
-    json.Key(name);
+    json.Key(kTable, 0, 0);
     json.String("x");
-    json.NullMember(longest);
-    json.Key(longest);
+    json.Absent(kTable, 1, 1);
+    json.Key(kTable, 1, 3);
     json.Integer(-1);
+    json.Absent(kTable, 4, 4);
     json.Key("F other");
     json.BeginArray();
+    json.Item();
+    json.BeginObject();
+    json.Absent(kTable, 0, 4);
+    json.EndObject();
+    json.Item();
+    json.BeginObject();
+    json.Absent(kTable, 0, 0);
+    json.Key(kTable, 1, 2);
+    json.Bool(true);
+    json.Absent(kTable, 3, 4);
+    json.EndObject();
     json.EndArray();
     json.EndObject();
-    json.BeginObject();
-    json.NullMember(name);
-    json.NullMember(name);
-    json.EndObject();
   });
-  EXPECT_EQ(text, R"({"FNAME": "x", "FVAR_SELECTION_CHARACTERISTIC": null, )"
-                  R"("FVAR_SELECTION_CHARACTERISTIC": -1, "F other": []})"
-                  R"({"FNAME": null, "FNAME": null})");
+  EXPECT_EQ(text, R"({"FFIRST": "x", "FFLAG": false, "FLIST": [], )"
+                  R"("FVAR_SELECTION_CHARACTERISTIC": -1, "F other": )"
+                  R"([{"FFIRST": null, "FFLAG": false, "FLIST": [], )"
+                  R"("FVAR_SELECTION_CHARACTERISTIC": null}, )"
+                  R"({"FFLAG": false, "FLIST": true, "FVAR_SELECTION_CHARACTERISTIC": null}]})");
+}
+
+TEST(RowSet, GivesItsRowsInOrder) {
+  RowSet rows;
+  for (const std::size_t row : {127, 64, 0, 63}) rows.Add(row);
+  std::vector<std::size_t> given;
+  rows.ForEach([&](std::size_t row) { given.push_back(row); });
+  EXPECT_EQ(given, (std::vector<std::size_t>{0, 63, 64, 127}));
+  EXPECT_TRUE(rows.Contains(64));
+  EXPECT_FALSE(rows.Contains(65));
 }
 
 // The end of the internal buffer may fall inside an escape, a number or a key: the text is the
 // same.
 TEST(JsonText, IsTheSameAcrossBufferEnds) {
-  const KeyText key("FNAME");
   constexpr std::size_t kBuffer = std::size_t{64} * 1024;
   for (std::size_t filling = kBuffer - 130; filling <= kBuffer + 4; ++filling) {
     const std::string before(filling, 'x');
@@ -219,9 +245,9 @@ TEST(JsonText, IsTheSameAcrossBufferEnds) {
       json.BeginObject();
       json.Key("k");
       json.String(before);
-      json.Key(key);
+      json.Key(kTable, 0, 0);
       json.Real(-1.7976931348623157e308);
-      json.NullMember(key);
+      json.Absent(kTable, 1, 3);
       json.Key("\xE2\x80\xA8\x01\"");
       json.String("\n\xE2\x80\xA9z\x1F");
       json.Key("i");
@@ -231,7 +257,7 @@ TEST(JsonText, IsTheSameAcrossBufferEnds) {
       json.EndObject();
     });
     ASSERT_EQ(text, "{\"k\": \"" + before +
-                        R"(", "FNAME": -1.7976931348623157e+308, "FNAME": null, )"
+                        R"(", "FFIRST": -1.7976931348623157e+308, "FFLAG": false, "FLIST": [], )"
                         R"("\u2028\u0001\"": "\n\u2029z\u001f", "i": -2147483648, "b": false})")
         << filling;
   }

@@ -4,9 +4,10 @@
 // them to a sink, which knows how JSON is made. A sink has:
 //
 //   BeginObject, EndObject, BeginArray, EndArray
-//   Key(key)       before each value of an object: a KeyText, or text from the file
-//   NullMember(key)  a member without a value
-//   Item()         before each value of an array
+//   Key(table, next, row)     before the value of a row: its key, and the members in front of it
+//   Absent(table, next, end)  the members of rows from `next` on that have no value
+//   Key(key)                  before each value of an object whose keys come from the file
+//   Item()                    before each value of an array
 //   Null, Bool, Integer, Real, String    the values
 #pragma once
 
@@ -33,12 +34,19 @@ class Exporter {
   void Document(const VoA2LElement& root) { Object(DocumentTable(), root); }
 
  private:
+  struct Stack {
+    std::vector<std::uint32_t> places;
+    std::size_t used = 0;
+  };
+
+  // Only the rows that have a value are visited; what stands between them is written with the next
+  // one, or at the end.
   void Object(const ObjectTable& table, const VoA2LElement& element) {
     const Places places(places_, table, element);
     sink_.BeginObject();
-    for (std::size_t i = 0; i < table.rows.size(); ++i) {
-      WriteRow(table.rows[i], table.keys[i], element, places.First(i), places);
-    }
+    std::size_t next = 0;  // the first row that is not yet written
+    places.Rows().ForEach([&](std::size_t row) { WriteRow(table, row, next, element, places); });
+    sink_.Absent(table, next, table.rows.size());
     sink_.EndObject();
   }
 
@@ -47,63 +55,77 @@ class Exporter {
   // that are being written lie in one stack.
   class Places {
    public:
-    Places(std::vector<std::uint32_t>& stack, const ObjectTable& table, const VoA2LElement& element)
+    Places(Stack& stack, const ObjectTable& table, const VoA2LElement& element)
         : stack_(stack),
-          first_(stack.size()),
+          rows_(table.always),
+          first_(stack.used),
           next_(first_ + table.rows.size()),
           element_(element) {
       const List<VoA2LElement*>& children = element.children;
-      stack.resize(next_ + children.size());
-      std::fill(stack.begin() + static_cast<std::ptrdiff_t>(first_),
-                stack.begin() + static_cast<std::ptrdiff_t>(next_), 0U);
+      stack.used = next_ + children.size();
+      if (stack.places.size() < stack.used) stack.places.resize(stack.used * 2);
       for (std::size_t i = children.size(); i-- > 0;) {
         const std::uint8_t row = table.rowOfKind[KindIndex(children[i]->kind)];
         if (row == 0) continue;
-        std::uint32_t& first = stack[first_ + row - 1];
-        stack[next_ + i] = first;
-        first = static_cast<std::uint32_t>(i + 1);
+        stack.places[next_ + i] = First(row - 1U);
+        stack.places[first_ + row - 1] = static_cast<std::uint32_t>(i + 1);
+        rows_.Add(row - 1U);
+        hasChild_.Add(row - 1U);
       }
     }
     Places(const Places&) = delete;
     Places& operator=(const Places&) = delete;
-    ~Places() { stack_.resize(first_); }
+    ~Places() { stack_.used = first_; }
 
+    // The rows to look at.
+    [[nodiscard]] const RowSet& Rows() const { return rows_; }
     // Positions count from 1; 0 is none.
-    [[nodiscard]] std::uint32_t First(std::size_t row) const { return stack_[first_ + row]; }
+    [[nodiscard]] std::uint32_t First(std::size_t row) const {
+      return hasChild_.Contains(row) ? stack_.places[first_ + row] : 0;
+    }
     [[nodiscard]] std::uint32_t Next(std::uint32_t position) const {
-      return stack_[next_ + position - 1];
+      return stack_.places[next_ + position - 1];
     }
     [[nodiscard]] const VoA2LElement& Child(std::uint32_t position) const {
       return *element_.children[position - 1];
     }
 
    private:
-    std::vector<std::uint32_t>& stack_;
+    Stack& stack_;
+    RowSet rows_;
+    RowSet hasChild_;
     std::size_t first_;
     std::size_t next_;
     const VoA2LElement& element_;
   };
 
-  void WriteRow(const Row& row, const KeyText& key, const VoA2LElement& element,
-                std::uint32_t first, const Places& places) {
+  // Writes a row that has a value, and those from `next` on in front of it, which have none.
+  void WriteRow(const ObjectTable& table, std::size_t index, std::size_t& next,
+                const VoA2LElement& element, const Places& places) {
+    const Row& row = table.rows[index];
+    const auto key = [&] {
+      sink_.Key(table, next, index);
+      next = index + 1;
+    };
+    const std::uint32_t first = places.First(index);
     switch (row.source) {
       case Source::Element:
-        sink_.Key(key);
+        key();
         WriteValue(row.form, element);
         return;
       case Source::Presence:
-        sink_.Key(key);
-        sink_.Bool(first != 0);
+        key();
+        sink_.Bool(true);
         return;
       case Source::FirstChild:
-        if (first == 0) return WriteAbsent(row, key);
-        sink_.Key(key);
+        if (first == 0) return LeaveOut(table, index, next);
+        key();
         WriteValue(places.Child(first).kind == row.kind ? row.form : row.otherForm,
                    places.Child(first));
         return;
       case Source::Children:
-        if (first == 0) return WriteAbsent(row, key);
-        sink_.Key(key);
+        if (first == 0) return LeaveOut(table, index, next);
+        key();
         sink_.BeginArray();
         for (std::uint32_t position = first; position != 0; position = places.Next(position)) {
           sink_.Item();
@@ -112,8 +134,7 @@ class Exporter {
         sink_.EndArray();
         return;
       case Source::Grandchildren:
-        if (first == 0) return WriteAbsent(row, key);
-        sink_.Key(key);
+        key();
         sink_.BeginArray();
         for (std::uint32_t position = first; position != 0; position = places.Next(position)) {
           for (const VoA2LElement* grandchild : places.Child(position).children) {
@@ -126,26 +147,17 @@ class Exporter {
         return;
       case Source::Found:
         const VoA2LElement* found = row.find(element);
-        if (found == nullptr) return WriteAbsent(row, key);
-        sink_.Key(key);
+        if (found == nullptr) return;
+        key();
         WriteValue(row.form, *found);
         return;
     }
   }
 
-  void WriteAbsent(const Row& row, const KeyText& key) {
-    switch (row.absent) {
-      case Absent::Null:
-        sink_.NullMember(key);
-        return;
-      case Absent::EmptyArray:
-        sink_.Key(key);
-        sink_.BeginArray();
-        sink_.EndArray();
-        return;
-      case Absent::Omit:
-        return;
-    }
+  // A row without a value, and without a key then.
+  void LeaveOut(const ObjectTable& table, std::size_t index, std::size_t& next) {
+    sink_.Absent(table, next, index);
+    next = index + 1;
   }
 
   void WriteValue(const Form& form, const VoA2LElement& element) {
@@ -212,7 +224,7 @@ class Exporter {
   }
 
   Sink& sink_;
-  std::vector<std::uint32_t> places_;
+  Stack places_;
   std::string text_;
 };
 

@@ -21,14 +21,25 @@ class Json11Builder {
   void EndObject() { Close(Json(std::move(open_.back().object))); }
   void EndArray() { Close(Json(std::move(open_.back().array))); }
 
-  void Key(const KeyText& key) { Key(key.Key()); }
+  void Key(const ObjectTable& table, std::size_t next, std::size_t row) {
+    Absent(table, next, row);
+    Key(table.rows[row].key);
+  }
+  void Absent(const ObjectTable& table, std::size_t next, std::size_t end) {
+    for (const Row& row : table.rows.subspan(next, end - next)) {
+      Key(row.key);
+      if (row.source == Source::Presence) {
+        Bool(false);
+      } else if (row.absent == Absent::EmptyArray) {
+        Add(Json::array());
+      } else {
+        Null();
+      }
+    }
+  }
   void Key(std::string_view key) {
     open_.back().key = key;
     open_.back().inArray = false;
-  }
-  void NullMember(const KeyText& key) {
-    Key(key);
-    Null();
   }
   void Item() { open_.back().inArray = true; }
 

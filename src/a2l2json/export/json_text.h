@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "a2l2json/export/object_table.h"
+#include "a2l2json/text/bytes.h"
 
 namespace a2l {
 
@@ -30,9 +31,17 @@ class JsonText {
   void BeginArray() { Open('['); }
   void EndArray() { Close(']'); }
 
-  void Key(const KeyText& key) { PutKey(key, key.Size()); }
+  /// The key of a row, and in front of it the members of the rows from `next` on, without a value.
+  void Key(const ObjectTable& table, std::size_t next, std::size_t row) {
+    PutPrepared(table.text + table.texts[next].begin, table.text + table.texts[row].value);
+  }
+  /// The members of the rows from `next` to before `end`, without a value.
+  void Absent(const ObjectTable& table, std::size_t next, std::size_t end) {
+    if (next == end) return;
+    PutPrepared(table.text + table.texts[next].begin, table.text + table.texts[end].begin);
+  }
+  /// A key that is escaped.
   void Key(std::string_view key);
-  void NullMember(const KeyText& key) { PutKey(key, key.SizeWithNull()); }
   void Item();
 
   void Null() { Put("null"); }
@@ -52,7 +61,7 @@ class JsonText {
 #endif
   // Texts are escaped in pieces that surely fit the buffer.
   static constexpr std::size_t kPieceSize = kBufferSize / 64;
-  static constexpr std::string_view kSeparator = ", ";
+  static constexpr std::string_view kSeparator = kMemberSeparator;
 
   void Open(char bracket) {
     PutByte(bracket);
@@ -62,13 +71,14 @@ class JsonText {
     PutByte(bracket);
     first_ = false;
   }
-  // The first member of an object goes without the separator that its text begins with.
-  void PutKey(const KeyText& key, std::size_t size) {
-    Reserve(KeyText::kBytes);
-    const std::size_t skipped = first_ ? kSeparator.size() : 0;
-    std::memcpy(buffer_.get() + used_, key.Bytes() + skipped, KeyText::kBytes - kSeparator.size());
-    used_ += size - skipped;
+  // Members that begin with a separator; the first one of an object goes without it.
+  void PutPrepared(const char* begin, const char* end) {
+    if (first_) begin += kSeparator.size();
     first_ = false;
+    const auto size = static_cast<std::size_t>(end - begin);
+    if (kBufferSize - used_ < size + bytes::kBlock) return Put({begin, size});
+    bytes::CopyInBlocks(End(), begin, size);
+    used_ += size;
   }
   void PutByte(char c) {
     Reserve(1);

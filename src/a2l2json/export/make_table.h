@@ -18,15 +18,8 @@
 
 namespace a2l {
 
-/// The keys of an array of rows.
 template <const auto& kRows>
-consteval auto MakeKeys() {
-  std::array<KeyText, std::size(kRows)> keys;
-  for (std::size_t i = 0; i < keys.size(); ++i) keys[i] = KeyText(kRows[i].key);
-  return keys;
-}
-template <const auto& kRows>
-inline constexpr auto kKeysOf = MakeKeys<kRows>();
+inline constexpr PreparedRows<kRows> kPrepared;
 
 namespace table_checks {
 
@@ -153,9 +146,13 @@ consteval void Check() {
 template <class Class, const auto& kRows, ElementKind... kWithoutKey>
 consteval ObjectTable MakeTable() {
   table_checks::Check<Class, kRows, kWithoutKey...>();
-  ObjectTable table{{}, kRows, kKeysOf<kRows>, {}};
+  static_assert(std::size(kRows) <= RowSet::kMost);
+  ObjectTable table{{}, kRows, kPrepared<kRows>.Text(), kPrepared<kRows>.Rows(), {}, {}};
   if constexpr (!std::is_same_v<Class, VoA2LElement>) table.kinds = Class::kinds;
   for (std::size_t i = 0; i < table.rows.size(); ++i) {
+    if (AbsentText(table.rows[i]).empty() || table.rows[i].source == Source::Found) {
+      table.always.Add(i);
+    }
     if (!TakesChildren(table.rows[i])) continue;
     for (const ElementKind kind : {table.rows[i].kind, table.rows[i].otherKind}) {
       if (kind != KIND_ROOT) table.rowOfKind[KindIndex(kind)] = static_cast<std::uint8_t>(i + 1);

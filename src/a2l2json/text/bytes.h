@@ -204,6 +204,15 @@ template <char... kBytes>
   return places;
 }
 
+/// Copies `size` bytes in whole blocks: up to kBlock more can be read and written over.
+inline void CopyInBlocks(char* to, const char* from, std::size_t size) {
+  std::size_t i = 0;
+  do {
+    Block::Load(from + i).Store(to + i);
+    i += kBlock;
+  } while (i < size);
+}
+
 /// Copies `size` bytes, as memcpy does. Texts of a file are short: their copy takes fewer steps
 /// than a call.
 inline void Copy(char* to, const char* from, std::size_t size) {
