@@ -21,12 +21,6 @@ bool Take(Converted<Number> read, Number& field) {
   return read.ok;
 }
 
-bool StoreWord(const Parameter& parameter, VoA2LElement& element, std::string_view token) {
-  const Word* const word = parameter.words->Find(token);
-  parameter.place.word->set(element, word != nullptr ? word->code : parameter.words->fallback);
-  return word != nullptr || !parameter.isRequired;
-}
-
 // Whether a token is right for a parameter that is not kept.
 bool Check(const Parameter& parameter, std::string_view token) {
   switch (parameter.type) {
@@ -48,57 +42,85 @@ bool Check(const Parameter& parameter, std::string_view token) {
   return true;
 }
 
+// Several numbers; wrong at the first that is wrong.
+bool ReadNumbers(std::span<std::int32_t> numbers, std::string_view& text) {
+  return std::ranges::all_of(
+      numbers, [&text](std::int32_t& number) { return Take(ReadSigned(NextToken(text)), number); });
+}
+
+// Takes a parameter off the front of the text and stores it; false if it is wrong. There is one
+// function per type, because a small one costs less than a large one for everything: it is called
+// for every parameter of a file.
+using Reader = bool (*)(const Parameter&, VoA2LElement&, TreeStore&, std::string_view&);
+
+bool ReadIdentifierInto(const Parameter& parameter, VoA2LElement& element, TreeStore& store,
+                        std::string_view& text) {
+  element.*parameter.place.text = ReadIdentifier(store, text);
+  return true;
+}
+
+bool ReadTextInto(const Parameter& parameter, VoA2LElement& element, TreeStore& store,
+                  std::string_view& text) {
+  element.*parameter.place.text = ReadText(store, text);
+  return true;
+}
+
+bool ReadUnsignedInto(const Parameter& parameter, VoA2LElement& element, TreeStore& /*store*/,
+                      std::string_view& text) {
+  return Take(ReadUnsigned(NextToken(text)), element.*parameter.place.number);
+}
+
+bool ReadSignedInto(const Parameter& parameter, VoA2LElement& element, TreeStore& /*store*/,
+                    std::string_view& text) {
+  if (parameter.count > 1) return ReadNumbers(parameter.place.signedNumbers->change(element), text);
+  return Take(ReadSigned(NextToken(text)), element.*parameter.place.signedNumber);
+}
+
+bool ReadUnsigned64Into(const Parameter& parameter, VoA2LElement& element, TreeStore& /*store*/,
+                        std::string_view& text) {
+  return Take(ReadUnsigned64(NextToken(text)), element.*parameter.place.number64);
+}
+
+bool ReadRealInto(const Parameter& parameter, VoA2LElement& element, TreeStore& /*store*/,
+                  std::string_view& text) {
+  return Take(ReadReal(NextToken(text)), element.*parameter.place.real);
+}
+
+bool ReadWordInto(const Parameter& parameter, VoA2LElement& element, TreeStore& /*store*/,
+                  std::string_view& text) {
+  const Word* const word = parameter.words->Find(NextToken(text));
+  parameter.place.word->set(element, word != nullptr ? word->code : parameter.words->fallback);
+  return word != nullptr || !parameter.isRequired;
+}
+
+bool ReadRawTextInto(const Parameter& parameter, VoA2LElement& element, TreeStore& store,
+                     std::string_view& text) {
+  element.*parameter.place.text = store.Copy(text);
+  return true;
+}
+
+// In the order of the types. A name with its value is always in a list.
+constexpr Reader kReaders[] = {
+    ReadIdentifierInto, ReadTextInto, ReadTextInto, ReadUnsignedInto, ReadSignedInto,
+    ReadUnsigned64Into, ReadRealInto, ReadWordInto, nullptr,          ReadRawTextInto};
+
 }  // namespace
 
 bool DeclaredElement::ParseParameters(std::string_view& text) {
   const Declaration& declaration = Declared();
+  TreeStore& treeStore = Store();
   bool ok = true;
   for (const Parameter& parameter : declaration.parameters) {
-    if (Read(parameter, text)) continue;
+    const bool right = parameter.isList      ? ReadList(parameter, text)
+                       : parameter.isDropped ? Check(parameter, NextToken(text))
+                                             : kReaders[static_cast<std::size_t>(parameter.type)](
+                                                   parameter, *this, treeStore, text);
+    if (right) continue;
     ok = false;
     if (declaration.onBadNumber == OnBadNumber::Stop) return false;
   }
   if (!ok) valid = 0;
   return ok;
-}
-
-bool DeclaredElement::Read(const Parameter& parameter, std::string_view& text) {
-  if (parameter.isList) return ReadList(parameter, text);
-  if (parameter.isDropped) return Check(parameter, NextToken(text));
-  switch (parameter.type) {
-    case ParameterType::Identifier:
-      this->*parameter.place.text = ReadIdentifier(Store(), text);
-      return true;
-    case ParameterType::Text:
-    case ParameterType::UnquotedText:
-      this->*parameter.place.text = ReadText(Store(), text);
-      return true;
-    case ParameterType::RawText:
-      this->*parameter.place.text = Store().Copy(text);
-      return true;
-    case ParameterType::Unsigned:
-      return Take(ReadUnsigned(NextToken(text)), this->*parameter.place.number);
-    case ParameterType::Signed:
-      return ReadSignedNumbers(parameter, text);
-    case ParameterType::Unsigned64:
-      return Take(ReadUnsigned64(NextToken(text)), this->*parameter.place.number64);
-    case ParameterType::Real:
-      return Take(ReadReal(NextToken(text)), this->*parameter.place.real);
-    case ParameterType::Word:
-      return StoreWord(parameter, *this, NextToken(text));
-    case ParameterType::NamedValue:
-      return true;  // is always a list
-  }
-  return true;
-}
-
-bool DeclaredElement::ReadSignedNumbers(const Parameter& parameter, std::string_view& text) {
-  if (parameter.count == 1) {
-    return Take(ReadSigned(NextToken(text)), this->*parameter.place.signedNumber);
-  }
-  return std::ranges::all_of(
-      parameter.place.signedNumbers->change(*this),
-      [&text](std::int32_t& number) { return Take(ReadSigned(NextToken(text)), number); });
 }
 
 template <class Item, class ReadItem>

@@ -64,8 +64,6 @@ class DeclaredElement : public VoA2LElement {
                 ReadItem readItem);
   bool ReadList(const Parameter& parameter, std::string_view& text);
   bool ReadNamedValues(const Parameter& parameter, std::string_view& text);
-  bool ReadSignedNumbers(const Parameter& parameter, std::string_view& text);
-  bool Read(const Parameter& parameter, std::string_view& text);
   bool ReadCell(const Parameter& column, std::string_view& text);
   void WriteItems(int level, std::ostream& out) const;
   void WriteItemsBehind(std::string line, int level, std::ostream& out) const;
@@ -75,7 +73,7 @@ class DeclaredElement : public VoA2LElement {
 /// The parameters that a class declares, with the places of their fields.
 template <std::size_t kCount>
 consteval std::array<Parameter, kCount> Locate(std::span<const Parameter, kCount> parameters) {
-  std::array<Parameter, kCount> located;
+  std::array<Parameter, kCount> located{};
   std::ranges::copy(parameters, located.begin());
   for (Parameter& parameter : located) {
     parameter.place = parameter.locate();
