@@ -288,9 +288,9 @@ TEST(Torture, TheLargestCountsWithoutARow) {
     ExpectOne(reading, row.kind, row.line, row.subject);
     const VoA2LElement& table = *FirstModule(reading).Child(0);
     const std::size_t values =
-        table.kind == Kind::COMPU_TAB
+        table.kind == ElementKind::COMPU_TAB
             ? static_cast<const VoA2LElementCompuTab&>(table).IN_VAL.size()
-        : table.kind == Kind::COMPU_VTAB
+        : table.kind == ElementKind::COMPU_VTAB
             ? static_cast<const VoA2LElementCompuVtab&>(table).IN_VAL.size()
             : static_cast<const VoA2LElementCompuVtabRange&>(table).IN_VAL_MIN.size();
     EXPECT_EQ(values, row.values) << row.keyword << " " << row.table;

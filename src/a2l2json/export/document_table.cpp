@@ -56,25 +56,27 @@ constexpr ObjectTable kModule = MakeTable<VoA2LElementModule, kModuleRows>();
 
 // Of a second project or header, what the first one lacks counts; modules are all kept.
 constexpr Row kDocumentRows[] = {
-    FirstField<&VoA2LElementA2MLVersion::UPGRADE_NO, Kind::A2ML_VERSION>(
+    FirstField<&VoA2LElementA2MLVersion::UPGRADE_NO, ElementKind::A2ML_VERSION>(
         "FA2ML_VERSION_UPGRADE_NO"),
-    FirstField<&VoA2LElementA2MLVersion::VERSION_NO, Kind::A2ML_VERSION>(
+    FirstField<&VoA2LElementA2MLVersion::VERSION_NO, ElementKind::A2ML_VERSION>(
         "FA2ML_VERSION_VERSION_NO"),
-    FirstField<&VoA2LElementASAP2Version::UPGRADE_NO, Kind::ASAP2_VERSION>(
+    FirstField<&VoA2LElementASAP2Version::UPGRADE_NO, ElementKind::ASAP2_VERSION>(
         "FASAP2_VERSION_UPGRADE_NO"),
-    FirstField<&VoA2LElementASAP2Version::VERSION_NO, Kind::ASAP2_VERSION>(
+    FirstField<&VoA2LElementASAP2Version::VERSION_NO, ElementKind::ASAP2_VERSION>(
         "FASAP2_VERSION_VERSION_NO"),
     Never("FBaseA2LName"),  // reserved
-    FirstField<&VoA2LElementModule::NAME, Kind::PROJECT, Kind::MODULE>("FDatabaseName"),
-    Grandchildren("FModules", Kind::PROJECT, kModule),
-    FirstField<&VoA2LElementHeader::COMMENT, Kind::PROJECT, Kind::HEADER>(
+    FirstField<&VoA2LElementModule::NAME, ElementKind::PROJECT, ElementKind::MODULE>(
+        "FDatabaseName"),
+    Grandchildren("FModules", ElementKind::PROJECT, kModule),
+    FirstField<&VoA2LElementHeader::COMMENT, ElementKind::PROJECT, ElementKind::HEADER>(
         "FProject_HEADER_COMMENT"),
-    FirstField<&VoA2LElementProjectNo::PROJECT_NO, Kind::PROJECT, Kind::HEADER, Kind::PROJECT_NO>(
-        "FProject_HEADER_PROJECT_NO"),
-    FirstField<&VoA2LElementVersion::VERSION, Kind::PROJECT, Kind::HEADER, Kind::VERSION>(
-        "FProject_HEADER_VERSION"),
-    FirstField<&VoA2LElementProject::LONG_IDENTIFIER, Kind::PROJECT>("FProject_LONG_IDENTIFIER"),
-    FirstField<&VoA2LElementProject::NAME, Kind::PROJECT>("FProject_Name"),
+    FirstField<&VoA2LElementProjectNo::PROJECT_NO, ElementKind::PROJECT, ElementKind::HEADER,
+               ElementKind::PROJECT_NO>("FProject_HEADER_PROJECT_NO"),
+    FirstField<&VoA2LElementVersion::VERSION, ElementKind::PROJECT, ElementKind::HEADER,
+               ElementKind::VERSION>("FProject_HEADER_VERSION"),
+    FirstField<&VoA2LElementProject::LONG_IDENTIFIER, ElementKind::PROJECT>(
+        "FProject_LONG_IDENTIFIER"),
+    FirstField<&VoA2LElementProject::NAME, ElementKind::PROJECT>("FProject_Name"),
 };
 constexpr ObjectTable kDocument = MakeTable<VoA2LElement, kDocumentRows>();
 

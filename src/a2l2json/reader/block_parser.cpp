@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "a2l2json/elements/declarations.h"
 #include "a2l2json/model/keywords.h"
 #include "a2l2json/reader/element_factory.h"
 
@@ -14,9 +15,8 @@ constexpr std::size_t kNone = std::string_view::npos;
 constexpr std::string_view kBegin = "/begin";
 constexpr std::string_view kEnd = "/end";
 
-bool KeepsRawContent(ElementKind kind) {
-  return kind == ElementKind::IF_DATA || kind == ElementKind::A2ML || kind == KIND_UNKNOWN;
-}
+// `kind` is that of an element.
+bool KeepsRawText(ElementKind kind) { return detail::DeclarationOf(kind)->KeepsRawText(); }
 
 }  // namespace
 
@@ -108,9 +108,9 @@ bool BlockParser::HandleBegin(std::string_view line, std::string_view text) {
   if (!HasTokens(text, element->paramCount)) {
     const bool open = element->paramCount == kOpenParameterList;
     rawDepth_ = 0;
-    StartCollecting(!open                   ? State::CollectParams
-                    : KeepsRawContent(kind) ? State::RawContent
-                                            : State::CollectOpen,
+    StartCollecting(!open                ? State::CollectParams
+                    : KeepsRawText(kind) ? State::RawContent
+                                         : State::CollectOpen,
                     text, element->paramCount);
   } else {
     CompleteParameters(text);

@@ -113,7 +113,7 @@ inline constexpr Row kAxisPtsRows[] = {
     Field<&VoA2LElementAxisPts::UPPER_LIMIT>("FUPPER_LIMIT"),
 };
 inline constexpr ObjectTable kAxisPts =
-    MakeTable<VoA2LElementAxisPts, kAxisPtsRows, Kind::DEPOSIT>();
+    MakeTable<VoA2LElementAxisPts, kAxisPtsRows, ElementKind::DEPOSIT>();
 
 inline constexpr Row kTypedefCharacteristicRows[] = {
     Children("FAXIS_DESCR", kAxisDescr),

@@ -18,8 +18,8 @@ namespace a2l::tables {
 inline constexpr Row kFunctionRows[] = {
     Children("FANNOTATION", kAnnotation),
     Child("FAR_COMPONENT"),
-    FirstField<&VoA2LElementArPrototypeOf::AR_PROTOTYPE_OF, Kind::AR_COMPONENT,
-               Kind::AR_PROTOTYPE_OF>("FAR_PROTOTYPE_OF"),
+    FirstField<&VoA2LElementArPrototypeOf::AR_PROTOTYPE_OF, ElementKind::AR_COMPONENT,
+               ElementKind::AR_PROTOTYPE_OF>("FAR_PROTOTYPE_OF"),
     Child("FDEF_CHARACTERISTIC"),
     Child("FFUNCTION_VERSION"),
     Children("FIF_DATA", kIfData),

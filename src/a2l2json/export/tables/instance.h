@@ -20,7 +20,7 @@ inline constexpr Row kOverwriteRows[] = {
     Child("FPHYS_UNIT"),
 };
 inline constexpr ObjectTable kOverwrite =
-    MakeTable<VoA2LElementOverwrite, kOverwriteRows, Kind::CONVERSION>();
+    MakeTable<VoA2LElementOverwrite, kOverwriteRows, ElementKind::CONVERSION>();
 
 inline constexpr Row kInstanceRows[] = {
     AddressField<&VoA2LElementInstance::ADDRESS>("FADDRESS"),

@@ -34,7 +34,7 @@ inline constexpr ObjectTable kModCommon = MakeTable<VoA2LElementModCommon, kModC
 
 inline constexpr Row kCalibrationHandleRows[] = {
     JoinedField<&VoA2LElementCalibrationHandle::HANDLE>("FHANDLE"),
-    Child("FHANDLE_TEXT", Kind::CALIBRATION_HANDLE_TEXT),
+    Child("FHANDLE_TEXT", ElementKind::CALIBRATION_HANDLE_TEXT),
 };
 inline constexpr ObjectTable kCalibrationHandle =
     MakeTable<VoA2LElementCalibrationHandle, kCalibrationHandleRows>();
@@ -80,7 +80,7 @@ inline constexpr ObjectTable kSystemConstant =
 
 // All addresses of the identification in one text; nothing where there is none.
 inline const Element* FindAddrEpk(const Element& modPar) {
-  return FindFirst<Kind::ADDR_EPK>(modPar) != nullptr ? &modPar : nullptr;
+  return FindFirst<ElementKind::ADDR_EPK>(modPar) != nullptr ? &modPar : nullptr;
 }
 inline constexpr ClassForm kAddrEpk = {BuiltTextForm{[](const Element& modPar, std::string& text) {
   std::vector<std::uint32_t> addresses;

@@ -27,7 +27,7 @@ inline constexpr Row kRecordLayoutRows[] = {
     Child("FALIGNMENT_FLOAT64_IEEE"),
     Child("FALIGNMENT_INT64"),
     Child("FALIGNMENT_LONG"),
-    EitherChild("FALIGNMENT_WORD", Kind::IDENTIFICATION),
+    EitherChild("FALIGNMENT_WORD", ElementKind::IDENTIFICATION),
     Child("FAXIS_PTS_4"),
     Child("FAXIS_PTS_5"),
     Child("FAXIS_PTS_X"),

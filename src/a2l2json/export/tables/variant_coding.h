@@ -14,7 +14,7 @@ namespace a2l::tables {
 // The addresses count only where they come first in the block.
 inline const Element* FindVarAddress(const Element& characteristic) {
   const Element* first = characteristic.Child(0);
-  return first != nullptr && first->kind == Kind::VAR_ADDRESS ? first : nullptr;
+  return first != nullptr && first->kind == ElementKind::VAR_ADDRESS ? first : nullptr;
 }
 inline constexpr Row kVarCharacteristicRows[] = {
     JoinedField<&VoA2LElementVarCharacteristic::CRITERION_NAME>("FCRITERION_NAME"),
