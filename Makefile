@@ -4,8 +4,8 @@
 # behind it: the targets with "##" below.
 
 .DEFAULT_GOAL := build
-.PHONY: help deps deps-ci deps-packages deps-windows configure build demo test bench install \
-	packages windows asan tidy format format-check clean
+.PHONY: help deps deps-ci deps-packages deps-windows deps-js configure build demo test bench install \
+	packages windows js asan tidy format format-check clean
 .NOTPARALLEL:
 
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
@@ -63,9 +63,19 @@ packages: deps-packages ## make a Debian package and an archive, in build/packag
 	@rm -rf build/packages/_CPack_Packages
 	@ls -l build/packages
 
+deps-js: deps ## install the compiler for WebAssembly and the packages of js/, too
+	@bash scripts/deps js
+
 windows: deps-windows ## build the program for Windows, build/windows/a2l2json.exe
 	cmake --preset windows
 	cmake --build --preset windows -j $(JOBS)
+
+js: deps-js ## build and test the npm package, build/packages/a2l2json-VERSION.tgz
+	cmake --preset wasm
+	cmake --build --preset wasm -j $(JOBS)
+	cd js && node scripts/assemble.js && npm test
+	mkdir -p build/packages
+	cd js && npm pack --pack-destination ../build/packages
 
 asan: deps-ci ## run the tests under AddressSanitizer and UndefinedBehaviorSanitizer
 	cmake --preset asan-ubsan

@@ -94,12 +94,6 @@ typedef struct a2l2json_options {
   int mend;
 
   /**
-   * The encoding of the text, by a name that iconv knows, where it is to be mended; the mended text
-   * and the document are in UTF-8 then. NULL: bytes of texts pass unchanged.
-   */
-  const char* encoding;
-
-  /**
    * What to call the text in findings; NULL: by its path, or by nothing where it comes from memory.
    */
   const char* name;
@@ -114,7 +108,7 @@ typedef struct a2l2json_options {
 } a2l2json_options;
 
 #define A2L2JSON_OPTIONS_INIT \
-  { sizeof(a2l2json_options), 0, NULL, NULL, NULL, NULL }
+  { sizeof(a2l2json_options), 0, NULL, NULL, NULL }
 
 /**
  * Converts `size` bytes of A2L text in memory, which need to stay until the call ends. `options`

@@ -299,7 +299,7 @@ TEST(CInterface, TakesOptionsOfEarlierAndLaterVersions) {
 
   // What lies behind the size is not looked at.
   a2l2json_options earlier = A2L2JSON_OPTIONS_INIT;
-  earlier.size = offsetof(a2l2json_options, encoding);
+  earlier.size = offsetof(a2l2json_options, name);
   earlier.name = "not a part of it";
   EXPECT_STREQ(a2l2json_error(Convert(kError, &earlier).get()),
                "Line 3: /end don't equal /begin PROJECT");

@@ -97,8 +97,8 @@ consteval Declaration Declare() {
     declaration.paramCount = open ? kOpenParameterList : declaration.paramCount + parameter.count;
   }
   if (declaration.HasRows()) {
-    const auto* const count = std::ranges::find_if(kParameters<Class>, &Parameter::countsRows);
-    declaration.rowCount = static_cast<std::size_t>(count - kParameters<Class>.begin());
+    const auto count = std::ranges::find_if(declaration.parameters, &Parameter::countsRows);
+    declaration.rowCount = static_cast<std::size_t>(count - declaration.parameters.begin());
   }
   declaration.revision = Class::revision;
   declaration.onBadNumber = Class::onBadNumber;
