@@ -9,6 +9,7 @@
 
 #include "a2l2json/a2l2json.h"
 #include "capi/input.h"
+#include "capi/mending.h"
 #include "capi/result.h"
 
 namespace {
@@ -58,7 +59,7 @@ const char* a2l2json_version() {
   return a2l::Version().data();  // NOLINT(bugprone-suspicious-stringview-data-usage): a literal
 }
 
-int a2l2json_can_mend() { return 0; }
+int a2l2json_can_mend() { return a2l::capi::CanMend() ? 1 : 0; }
 
 a2l2json_code a2l2json_convert_text(const char* text, size_t size, const a2l2json_options* options,
                                     a2l2json_result** result) {
@@ -73,7 +74,12 @@ a2l2json_code a2l2json_convert_text(const char* text, size_t size, const a2l2jso
         a2l::capi::Convert(
             {.name = checked.name == nullptr ? "" : checked.name,
              .read = [view] { return a2l::Read(view); },
-             .beginning = [view] { return std::string(view.substr(0, a2l::capi::kLookedAt)); }},
+             .beginning = [view] { return std::string(view.substr(0, a2l::capi::kLookedAt)); },
+             .load =
+                 [view](std::string_view& bytes) {
+                   bytes = view;
+                   return a2l::FileError::None;
+                 }},
             checked, made);
       });
 }

@@ -3,11 +3,14 @@
 // The part of the C interface that opens files.
 #include <filesystem>
 #include <fstream>
+#include <istream>
 #include <string>
+#include <string_view>
 #include <system_error>
 
 #include "a2l2json/a2l2json.h"
 #include "a2l2json/model/file_path.h"
+#include "a2l2json/reader/input_file.h"
 #include "capi/a2l2json.h"
 #include "capi/input.h"
 #include "capi/result.h"
@@ -29,6 +32,21 @@ std::optional<std::string> Beginning(const std::string& name) {
   return bytes;
 }
 
+// All bytes of the file; an error where they cannot be had.
+a2l::FileError Load(const std::string& name, std::string& bytes) {
+  constexpr std::streamsize kPiece = std::streamsize{1} << 20U;
+  a2l::InputFile file(name);
+  if (file.Error() != a2l::FileError::None) return file.Error();
+  std::istream in(&file);
+  do {
+    const std::size_t size = bytes.size();
+    bytes.resize(size + kPiece);
+    in.read(bytes.data() + size, kPiece);
+    bytes.resize(size + static_cast<std::size_t>(in.gcount()));
+  } while (in.good());
+  return file.Error();
+}
+
 }  // namespace
 
 a2l2json_code a2l2json_convert_file(const char* path, const a2l2json_options* options,
@@ -41,9 +59,16 @@ a2l2json_code a2l2json_convert_file(const char* path, const a2l2json_options* op
           return;
         }
         const std::string file(path);
+        std::string bytes;
         a2l::capi::Convert({.name = checked.name == nullptr ? file : std::string_view(checked.name),
                             .read = [&file] { return a2l::ReadFile(file); },
-                            .beginning = [&file] { return Beginning(file); }},
+                            .beginning = [&file] { return Beginning(file); },
+                            .load =
+                                [&file, &bytes](std::string_view& view) {
+                                  const a2l::FileError error = Load(file, bytes);
+                                  view = bytes;
+                                  return error;
+                                }},
                            checked, made);
       });
 }

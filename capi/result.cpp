@@ -12,6 +12,7 @@
 #include <streambuf>
 
 #include "capi/input.h"
+#include "capi/mending.h"
 
 namespace a2l::capi {
 namespace {
@@ -46,7 +47,8 @@ void Run(const a2l2json_options* options, a2l2json_result& result,
                 isLater ? "The options are those of a later version of the library."
                         : "The options do not tell their size.");
   }
-  if (taken.mend != 0) return Fail(result, A2L2JSON_NOT_AVAILABLE, "This library cannot mend.");
+  if (taken.mend != 0 && !CanMend())
+    return Fail(result, A2L2JSON_NOT_AVAILABLE, "This library cannot mend.");
   convert(taken, result);
 }
 
@@ -86,14 +88,11 @@ static_assert(StandsAtItsIndex(), "the names are not in the order of their kinds
 void TakeDiagnostics(const std::vector<Diagnostic>& diagnostics, a2l2json_result& result) {
   for (const Diagnostic& diagnostic : diagnostics) {
     result.messages += diagnostic.Text();
-    result.texts.push_back(diagnostic.What());
-  }
-  for (std::size_t i = 0; i < diagnostics.size(); ++i) {
-    const KindRow& row = kKinds[static_cast<std::size_t>(diagnostics[i].kind)];
-    const bool isError = diagnostics[i].GetSeverity() == Severity::Error;
-    result.diagnostics.push_back({diagnostics[i].line, isError ? A2L2JSON_ERROR : A2L2JSON_WARNING,
-                                  row.number, row.name, result.texts[i].c_str(),
-                                  result.texts[i].size()});
+    const KindRow& row = kKinds[static_cast<std::size_t>(diagnostic.kind)];
+    const bool isError = diagnostic.GetSeverity() == Severity::Error;
+    const std::string_view text = result.Keep(diagnostic.What());
+    result.diagnostics.push_back({diagnostic.line, isError ? A2L2JSON_ERROR : A2L2JSON_WARNING,
+                                  row.number, row.name, text.data(), text.size()});
   }
 }
 
@@ -151,6 +150,17 @@ std::string NoA2l(const Input& input, std::string_view why) {
   return sentence += why.empty() ? "Nothing in it could be read." : why;
 }
 
+ReadResult ReadMended(const Input& input, a2l2json_result& result) {
+  std::string_view bytes;
+  if (const FileError error = input.load(bytes); error != FileError::None) {
+    ReadResult notRead;
+    notRead.fileError = error;
+    return notRead;
+  }
+  MendInto(result, bytes, input.name);
+  return Read(*result.mended);
+}
+
 }  // namespace
 
 a2l2json_code Call(const a2l2json_options* options, a2l2json_result** result,
@@ -181,7 +191,7 @@ a2l2json_code Call(const a2l2json_options* options, a2l2json_result** result,
 }
 
 void Convert(const Input& input, const a2l2json_options& options, a2l2json_result& result) {
-  const ReadResult read = input.read();
+  const ReadResult read = options.mend != 0 ? ReadMended(input, result) : input.read();
   TakeDiagnostics(read.diagnostics, result);
   if (read.fileError != FileError::None) {
     return Fail(result, A2L2JSON_NOT_READ, NotRead(input, read.fileError));

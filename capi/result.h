@@ -3,6 +3,7 @@
 // What stands behind the opaque result, and how a call fills it.
 #pragma once
 
+#include <deque>
 #include <functional>
 #include <optional>
 #include <string>
@@ -18,10 +19,14 @@ struct a2l2json_result {
   std::string messages;
   std::optional<std::string> document;
   std::optional<std::string> mended;
-  // The views point into the texts, which stay where they are once all are there.
-  std::vector<std::string> texts;
   std::vector<a2l2json_diagnostic> diagnostics;
   std::vector<a2l2json_finding> findings;
+
+  /// A copy of `text` that stays where it is, with a zero byte behind it.
+  std::string_view Keep(std::string_view text) { return texts_.emplace_back(text); }
+
+ private:
+  std::deque<std::string> texts_;
 };
 
 namespace a2l::capi {
@@ -33,6 +38,8 @@ struct Input {
   std::function<ReadResult()> read;
   /// Its first bytes, kLookedAt of them where there are so many; nothing where they cannot be had.
   std::function<std::optional<std::string>()> beginning;
+  /// Gives all of its bytes, which stay as long as the input, or tells why they cannot be had.
+  std::function<FileError(std::string_view& bytes)> load;
 };
 
 /// Makes a result and has `convert` fill it, from checked options that are never null. Whatever is

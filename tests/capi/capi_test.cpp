@@ -225,6 +225,63 @@ TEST(CInterface, ReadsFromAPipe) {
 }
 
 // ---------------------------------------------------------------------------------------------
+// Mending
+
+// An address behind the parameters, on their line, which the converter loses.
+constexpr std::string_view kOneLine =
+    "/begin PROJECT P \"\"\n/begin MODULE M \"\"\n"
+    "/begin MEASUREMENT m \"\" UBYTE NO_COMPU_METHOD 0 0 0 255 ECU_ADDRESS 0x51A50 "
+    "/end MEASUREMENT\n"
+    "/end MODULE\n/end PROJECT\n";
+
+TEST(CInterface, MendsTheTextBeforeTheConversion) {
+  a2l2json_options options = A2L2JSON_OPTIONS_INIT;
+  options.mend = 1;
+  options.name = "engine.a2l";
+  const Result result = Convert(kOneLine, &options);
+  if (a2l2json_can_mend() == 0) {
+    EXPECT_EQ(a2l2json_result_code(result.get()), A2L2JSON_NOT_AVAILABLE);
+    EXPECT_STREQ(a2l2json_error(result.get()), "This library cannot mend.");
+    return;
+  }
+  EXPECT_EQ(a2l2json_result_code(result.get()), A2L2JSON_OK);
+  EXPECT_NE(Document(result).find(R"("FECU_ADDRESS": "0x51A50")"), std::string::npos)
+      << Document(result);
+  EXPECT_EQ(Document(result), Document(Convert(Bytes(a2l2json_mended, result))));
+  ASSERT_GT(a2l2json_finding_count(result.get()), 0U);
+  const a2l2json_finding* finding = a2l2json_finding_at(result.get(), 0);
+  EXPECT_STREQ(finding->rule, "same-line");
+  EXPECT_STREQ(finding->file, "engine.a2l");
+  EXPECT_EQ(finding->line, 3U);
+  EXPECT_EQ(finding->column, 57U);
+  EXPECT_STREQ(finding->text,
+               "ECU_ADDRESS stands behind the parameters of MEASUREMENT m on one line");
+  EXPECT_EQ(finding->text_size, std::strlen(finding->text));
+  EXPECT_EQ(finding->mended, 1);
+  EXPECT_EQ(a2l2json_finding_at(result.get(), a2l2json_finding_count(result.get())), nullptr);
+}
+
+TEST(CInterface, MendsFilesAsTexts) {
+  if (a2l2json_can_mend() == 0) GTEST_SKIP() << "this library cannot mend";
+  a2l2json_options options = A2L2JSON_OPTIONS_INIT;
+  options.mend = 1;
+  const TemporaryFolder folder;
+  const std::string path = (folder / "in.a2l").string();
+  WriteFile(folder / "in.a2l", kOneLine);
+  const Result file = ConvertFile(path, &options);
+  const Result text = Convert(kOneLine, &options);
+  EXPECT_EQ(Document(file), Document(text));
+  EXPECT_EQ(Bytes(a2l2json_mended, file), Bytes(a2l2json_mended, text));
+  ASSERT_GT(a2l2json_finding_count(file.get()), 0U);
+  EXPECT_EQ(a2l2json_finding_at(file.get(), 0)->file, path);
+
+  const Result missing = ConvertFile(path + "x", &options);
+  EXPECT_EQ(a2l2json_result_code(missing.get()), A2L2JSON_NOT_READ);
+  EXPECT_EQ(a2l2json_error(missing.get()), path + "x: there is no such file.");
+  EXPECT_EQ(Bytes(a2l2json_mended, missing), "(none)");
+}
+
+// ---------------------------------------------------------------------------------------------
 // The caller's function
 
 struct Taken {
