@@ -8,6 +8,7 @@
 
 namespace a2l {
 
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): callers have a writer
 bool JsonWriter::Export(const std::string& path, const VoA2LElement* root) {
   if (root == nullptr || root->kind != KIND_ROOT) return false;
   std::ofstream out(FilePath(path), std::ios::binary | std::ios::trunc);
