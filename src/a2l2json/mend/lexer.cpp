@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: MIT
+#include "a2l2json/mend/lexer.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "a2l2json/mend/encodings.h"
+
+namespace a2l::mending {
+namespace {
+
+constexpr std::string_view kInclude = "/include";
+
+// Files that include each other in chains, or one file many times, could otherwise make much of
+// little: no file in use comes close.
+constexpr std::size_t kMostDepth = 64;
+constexpr std::size_t kMostIncludes = 4096;
+
+bool IsMarkerOrComment(std::string_view rest) {
+  return rest.starts_with(kBegin) || rest.starts_with(kEnd) || rest.starts_with("//") ||
+         rest.starts_with("/*");
+}
+
+char LowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+}  // namespace
+
+Finding FindingAt(MendRule rule, const Word& word) {
+  Finding finding;
+  finding.rule = rule;
+  finding.file = word.file;
+  finding.line = word.line;
+  finding.column = word.column;
+  finding.word = word.text;
+  return finding;
+}
+
+Lexer::Lexer(std::string_view text, std::size_t start, const MendOptions& options,
+             Reporter& reporter)
+    : options_(options), reporter_(reporter) {
+  sources_.push_back(MakeSource(text, options.name, options.path));
+  sources_.back().isMain = true;
+  sources_.back().position = start;
+}
+
+Word Lexer::Next() {
+  while (true) {
+    Source& source = Top();
+    SkipWhite(source);
+    if (source.AtEnd()) {
+      if (!LeaveFile()) return Start(WordType::EndOfInput);
+      continue;
+    }
+    Word word = Start(WordType::Plain);
+    const char c = source.text[source.position];
+    if (c == '"') {
+      word.type = WordType::Text;
+      word.traits = SkipText(source);
+    } else if (c == '/' && source.HasComment()) {
+      if (!SkipComment(source)) reporter_.Report(FindingAt(MendRule::CommentWithoutEnd, word));
+      continue;
+    } else if (c == '/' && source.Rest().starts_with(kBegin)) {
+      word.type = WordType::Begin;
+      source.position += kBegin.size();
+    } else if (c == '/' && source.Rest().starts_with(kEnd)) {
+      word.type = WordType::End;
+      source.position += kEnd.size();
+    } else if (c == '/' && HasInclude()) {
+      if (FollowInclude(word)) continue;
+      return word;
+    } else {
+      TakePlain(word);
+    }
+    Finish(word);
+    return word;
+  }
+}
+
+Word Lexer::Start(WordType type) {
+  const Source& source = Top();
+  Word word;
+  word.type = type;
+  word.begin = word.end = source.position;
+  word.file = source.name;
+  word.line = source.line;
+  word.column = source.position - source.lineStart + 1;
+  word.isFirst = source.atLineStart;
+  word.isInMain = source.isMain;
+  return word;
+}
+
+void Lexer::Finish(Word& word) {
+  Source& source = Top();
+  source.atLineStart = false;
+  word.end = source.position;
+  word.text = source.text.substr(word.begin, word.end - word.begin);
+}
+
+void Lexer::TakePlain(Word& /*word*/) {
+  Source& source = Top();
+  ++source.position;
+  while (!source.AtEnd()) {
+    const char c = source.text[source.position];
+    if (IsWhite(c) || (c == '/' && IsMarkerOrComment(source.Rest()))) return;
+    ++source.position;
+  }
+}
+
+bool Lexer::LeaveFile() {
+  if (sources_.size() == 1) return false;
+  sources_.pop_back();
+  return true;
+}
+
+bool Lexer::HasInclude() const {
+  const Source& source = sources_.back();
+  const std::string_view rest = source.Rest();
+  return rest.size() > kInclude.size() &&
+         std::equal(kInclude.begin(), kInclude.end(), rest.begin(),
+                    [](char a, char b) { return a == LowerCase(b); }) &&
+         (IsWhite(rest[kInclude.size()]) || rest[kInclude.size()] == '"');
+}
+
+bool Lexer::FollowInclude(Word& word) {
+  Source& source = Top();
+  word = Start(WordType::Include);
+  source.position += kInclude.size();
+  SkipWhite(source);
+  const std::string_view rest = source.Rest();
+  // To the end of the line at most, without the white space there.
+  std::string_view line = rest.substr(0, rest.find_first_of("\r\n"));
+  std::string_view name;
+  if (rest.starts_with('"')) {
+    const std::size_t close = std::min(line.find('"', 1), line.size());
+    name = line.substr(1, close - 1);
+    source.position += std::min(close + 1, line.size());
+  } else {
+    name = line.substr(0, std::min(line.find_first_of(" \t\v\f"), line.size()));
+    source.position += name.size();
+    while (!line.empty() && IsWhite(line.back())) line.remove_suffix(1);
+  }
+  Finish(word);
+  MendRule problem = MendRule::IncludeMissing;
+  std::string detail = "no name is given";
+  Finding finding = FindingAt(problem, word);
+  finding.word = name;
+  if (!name.empty()) {
+    if (Open(word, name, problem, detail)) return true;
+    // A name without quotes may have blanks in it.
+    if (problem == MendRule::IncludeMissing && !rest.starts_with('"') && line.size() > name.size()) {
+      std::string ignored;
+      const std::size_t position = source.position;
+      source.position += line.size() - name.size();
+      if (Open(word, line, problem, ignored)) return true;
+      source.position = position;
+    }
+  }
+  finding.rule = problem;
+  finding.detail = detail;
+  reporter_.Report(finding);
+  return false;
+}
+
+bool Lexer::Open(const Word& word, std::string_view name, MendRule& problem, std::string& detail) {
+  if (included_ == kMostIncludes || sources_.size() > kMostDepth) {
+    problem = MendRule::IncludeLimit;
+    return false;
+  }
+  IncludedFile file;
+  file.problem = "nothing is included";
+  if (options_.open) file = options_.open(name, Top().path);
+  if (file.status != IncludedFile::Status::Read) {
+    problem = file.status == IncludedFile::Status::Missing ? MendRule::IncludeMissing
+                                                           : MendRule::IncludeRefused;
+    detail = std::move(file.problem);
+    return false;
+  }
+  const bool isOpen = std::ranges::any_of(
+      sources_, [&file](const Source& source) { return source.path == file.path; });
+  if (isOpen) {
+    problem = MendRule::IncludeCircle;
+    return false;
+  }
+  return Push(word, name, std::move(file));
+}
+
+bool Lexer::Push(const Word& word, std::string_view name, IncludedFile file) {
+  ++included_;
+  if (word.isInMain) {
+    Finding finding = FindingAt(MendRule::Include, word);
+    finding.word = name;
+    reporter_.Report(finding);
+  }
+  const Encoding encoding = EncodingOf(file.bytes);
+  if (encoding != Encoding::Bytes) file.bytes = Utf8Of(file.bytes, encoding);
+  const std::string& path = kept_.emplace_back(std::move(file.path));
+  const std::string& bytes = kept_.emplace_back(std::move(file.bytes));
+  Source source = MakeSource(bytes, path, path);
+  if (source.text.starts_with(kByteOrderMark)) source.position = kByteOrderMark.size();
+  sources_.push_back(source);
+  return true;
+}
+
+}  // namespace a2l::mending

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+//
+// What mending is given besides the text.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "a2l2json/mend/finding.h"
+
+namespace a2l {
+
+/// What came of the wish to read a file that another one includes.
+struct IncludedFile {
+  enum class Status : std::uint8_t {
+    Read,
+    Missing,  ///< it is not there, or cannot be read
+    Refused,  ///< it must not be read
+  };
+  Status status = Status::Missing;
+  std::string bytes;
+  /// The same for the same file, whatever the name that it was asked for by: what circles are
+  /// found by, and what names inside the file are relative to.
+  std::string path;
+  /// For Missing and Refused, in a few words.
+  std::string problem;
+};
+
+/// Reads the file `name`, as it stands in an /include, for the file at `from`: the path of an
+/// IncludedFile, or MendOptions::path.
+using OpenIncluded = std::function<IncludedFile(std::string_view name, std::string_view from)>;
+
+struct MendOptions {
+  /// How findings name the file.
+  std::string name;
+  /// Where it lies; what `open` gets.
+  std::string path;
+  /// Reads included files; without it, every one of them is missing.
+  OpenIncluded open;
+  /// Called for every finding, mostly in the order of the text.
+  std::function<void(const Finding& finding)> report;
+  /// Called every now and then with the bytes of the text that are done.
+  std::function<void(std::size_t done)> progress;
+};
+
+}  // namespace a2l

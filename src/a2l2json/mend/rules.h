@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+//
+// Everything that mending can have to say about a file. A rule's name is part of what users build
+// on: it stays, whatever becomes of its text.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace a2l {
+
+enum class MendRule : std::uint8_t {
+  SameLine,
+  BeforeEnd,
+  BeforeBegin,
+  BehindEnd,
+  BehindUnknown,
+  Tab,
+  WhiteSpace,
+  Comment,
+  InterfaceName,
+  InterfaceText,
+  ListKeyword,
+  TakenAsValue,
+  InsideText,
+  Otherwise,
+  ReadEnds,
+  TextLines,
+  TextComment,
+  Include,
+  Encoding,
+  ByteOrderMark,
+  Utf16,
+  TextMarker,
+  TextBackslash,
+  TextWithoutEnd,
+  EndMissing,
+  IncludeMissing,
+  IncludeCircle,
+  IncludeRefused,
+  IncludeLimit,
+  NumberRange,
+  NotANumber,
+  NumberRest,
+  Octal,
+  UnknownValue,
+  TextWithoutQuotes,
+  ParameterMissing,
+  Surplus,
+  Rows,
+  UnknownKeyword,
+  UnknownBlock,
+  Refused,
+  BeginMissing,
+  BeginRefused,
+  EndUnmatched,
+  Second,
+  NameCut,
+  NameComma,
+  CommentWithoutEnd,
+};
+
+/// What becomes of what a finding is about.
+enum class MendOutcome : std::uint8_t {
+  Lost,       ///< the converter loses it; in the mended text it is there
+  Mended,     ///< the mended text says it in other bytes, which the converter can read
+  Unmendable  ///< no layout can help; the mended text has it as it is
+};
+
+struct MendRuleRow {
+  MendRule rule;
+  /// As it stands in brackets behind a finding.
+  std::string_view name;
+  MendOutcome outcome;
+  /// The text of a finding: {0} is the word that it is about, {1} the block or keyword that the
+  /// word belongs to, {2} what becomes of it.
+  std::string_view text;
+  /// The rule in a sentence, for those who have not met it yet.
+  std::string_view meaning;
+};
+
+/// All rules, in the order of their numbers.
+[[nodiscard]] std::span<const MendRuleRow> MendRules();
+[[nodiscard]] const MendRuleRow& RowOf(MendRule rule);
+
+/// "lost", "mended" or "cannot be mended".
+[[nodiscard]] std::string_view NameOf(MendOutcome outcome);
+
+}  // namespace a2l

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include "a2l2json/mend/source.h"
+
+#include <algorithm>
+
+#include "a2l2json/model/keywords.h"
+
+namespace a2l::mending {
+namespace {
+
+constexpr std::size_t kNone = std::string_view::npos;
+
+// True where a line begins with a marker and the keyword of a block, which no text would.
+bool BeginsWithBlock(std::string_view line) {
+  std::size_t i = 0;
+  while (i < line.size() && (line[i] == ' ' || line[i] == '\t')) ++i;
+  line.remove_prefix(i);
+  const std::string_view marker = line.starts_with(kBegin) ? kBegin : kEnd;
+  if (!line.starts_with(marker)) return false;
+  line.remove_prefix(marker.size());
+  std::size_t begin = 0;
+  while (begin < line.size() && IsWhite(line[begin])) ++begin;
+  std::size_t end = begin;
+  // No keyword is as long.
+  while (end < line.size() && end - begin < 64 && !IsWhite(line[end]) && line[end] != '/') ++end;
+  return begin > 0 && IsBlock(KeywordToKind(line.substr(begin, end - begin)));
+}
+
+bool IsMarkedByte(char c) { return c == '"' || c == '\\' || c == '/' || c == '\n' || c == '\r'; }
+
+}  // namespace
+
+Source MakeSource(std::string_view text, std::string_view name, std::string_view path) {
+  Source source;
+  source.text = text;
+  source.name = name;
+  source.path = path;
+  const bool hasNoLineFeed = text.find('\n') == kNone;
+  if (hasNoLineFeed && text.find('\r') != kNone) source.lineEnd = '\r';
+  return source;
+}
+
+void SkipWhite(Source& source) {
+  while (!source.AtEnd() && IsWhite(source.text[source.position])) {
+    if (source.text[source.position] == source.lineEnd) source.EndLine();
+    ++source.position;
+  }
+}
+
+bool SkipComment(Source& source) {
+  if (source.text[source.position + 1] == '/') {
+    source.position = std::min(source.text.find(source.lineEnd, source.position),
+                               source.text.size());
+    return true;
+  }
+  for (source.position += 2; !source.AtEnd(); ++source.position) {
+    const char c = source.text[source.position];
+    if (c == '*' && source.Rest().starts_with("*/")) {
+      source.position += 2;
+      return true;
+    }
+    if (c == source.lineEnd) {
+      // What follows the comment joins the line that it began on.
+      const bool atLineStart = source.atLineStart;
+      source.EndLine();
+      source.atLineStart = atLineStart;
+    }
+  }
+  return false;
+}
+
+TextTraits SkipText(Source& source) {
+  TextTraits traits;
+  source.atLineStart = false;
+  const std::string_view text = source.text;
+  std::size_t& i = source.position;
+  ++i;
+  while (i < text.size()) {
+    const char c = text[i];
+    if (!IsMarkedByte(c)) {
+      ++i;
+    } else if (c == '"') {
+      if (i + 1 >= text.size() || text[i + 1] != '"') {
+        ++i;
+        return traits;
+      }
+      i += 2;
+    } else if (c == '\\') {
+      std::size_t count = 1;
+      while (i + count < text.size() && text[i + count] == '\\') ++count;
+      i += count;
+      if (i < text.size() && text[i] == '"') {
+        if (count % 2 == 0) {
+          traits.hasBackslashQuote = true;
+        } else {
+          ++i;
+        }
+      }
+    } else if (c == '/') {
+      const std::string_view rest = text.substr(i, kBegin.size());
+      if (rest.starts_with(kBegin) || rest.starts_with(kEnd)) traits.hasMarker = true;
+      if (traits.hasLineEnd && source.HasComment()) traits.hasComment = true;
+      ++i;
+    } else {
+      if (c == source.lineEnd) {
+        if (BeginsWithBlock(text.substr(i + 1))) {
+          traits.isClosed = false;
+          return traits;
+        }
+        traits.hasLineEnd = true;
+        source.EndLine();
+        source.atLineStart = false;
+      }
+      ++i;
+    }
+  }
+  traits.isClosed = false;
+  return traits;
+}
+
+}  // namespace a2l::mending

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+//
+// A file on its way through the lexer, and what the ASAP2 standard takes for white space, markers
+// and texts in it.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace a2l::mending {
+
+inline constexpr std::string_view kBegin = "/begin";
+inline constexpr std::string_view kEnd = "/end";
+
+/// Blank, tab, line feed, vertical tab, form feed and carriage return.
+[[nodiscard]] constexpr bool IsWhite(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+
+/// A file, and how far it is read.
+struct Source {
+  std::string_view text;
+  /// How findings name it.
+  std::string_view name;
+  /// What names of files in it are relative to.
+  std::string_view path;
+  std::size_t position = 0;
+  std::size_t line = 1;
+  std::size_t lineStart = 0;
+  /// True until the first word of the line has been taken.
+  bool atLineStart = true;
+  /// The byte that ends a line: a line feed, or a carriage return in a file without any.
+  char lineEnd = '\n';
+  /// True for the file itself, as against one that it includes.
+  bool isMain = false;
+
+  [[nodiscard]] bool AtEnd() const { return position >= text.size(); }
+  [[nodiscard]] std::string_view Rest() const { return text.substr(position); }
+  [[nodiscard]] bool HasComment() const {
+    return text[position] == '/' && position + 1 < text.size() &&
+           (text[position + 1] == '/' || text[position + 1] == '*');
+  }
+  /// To be called at the byte that ends a line.
+  void EndLine() {
+    ++line;
+    lineStart = position + 1;
+    atLineStart = true;
+  }
+};
+
+/// A file from its first byte on.
+[[nodiscard]] Source MakeSource(std::string_view text, std::string_view name,
+                                std::string_view path);
+
+/// Moves behind white space; counts lines.
+void SkipWhite(Source& source);
+
+/// Moves behind the comment that begins here. False when the file ends in it.
+bool SkipComment(Source& source);
+
+/// What is peculiar about a text.
+struct TextTraits {
+  bool isClosed = true;
+  bool hasLineEnd = false;
+  /// "/begin" or "/end" in it.
+  bool hasMarker = false;
+  /// "//" or "/*" behind a line end in it.
+  bool hasComment = false;
+  /// An even number of backslashes before a quote, which they therefore do not escape.
+  bool hasBackslashQuote = false;
+
+  [[nodiscard]] bool IsPlain() const {
+    return isClosed && !hasLineEnd && !hasMarker && !hasBackslashQuote;
+  }
+};
+
+/// Moves behind the text whose opening quote is here. A text that would take in a line that begins
+/// with /begin or /end and the keyword of a block ends before that line, and is not closed; so is
+/// one that goes on to the end of the file.
+TextTraits SkipText(Source& source);
+
+}  // namespace a2l::mending
