@@ -48,10 +48,10 @@ Word Lexer::Next() {
     Source& source = Top();
     SkipWhite(source);
     if (source.AtEnd()) {
-      if (!LeaveFile()) return Start(WordType::EndOfInput);
+      if (!LeaveFile()) return Here(WordType::EndOfInput);
       continue;
     }
-    Word word = Start(WordType::Plain);
+    Word word = Here(WordType::Plain);
     const char c = source.text[source.position];
     if (c == '"') {
       word.type = WordType::Text;
@@ -69,15 +69,15 @@ Word Lexer::Next() {
       if (FollowInclude(word)) continue;
       return word;
     } else {
-      TakePlain(word);
+      TakePlain();
     }
     Finish(word);
     return word;
   }
 }
 
-Word Lexer::Start(WordType type) {
-  const Source& source = Top();
+Word Lexer::Here(WordType type) const {
+  const Source& source = sources_.back();
   Word word;
   word.type = type;
   word.begin = word.end = source.position;
@@ -96,7 +96,7 @@ void Lexer::Finish(Word& word) {
   word.text = source.text.substr(word.begin, word.end - word.begin);
 }
 
-void Lexer::TakePlain(Word& /*word*/) {
+void Lexer::TakePlain() {
   Source& source = Top();
   ++source.position;
   while (!source.AtEnd()) {
@@ -104,6 +104,11 @@ void Lexer::TakePlain(Word& /*word*/) {
     if (IsWhite(c) || (c == '/' && IsMarkerOrComment(source.Rest()))) return;
     ++source.position;
   }
+}
+
+void Lexer::Return(const Word& marker) {
+  Top().position = marker.begin;
+  Top().atLineStart = marker.isFirst;
 }
 
 bool Lexer::LeaveFile() {
@@ -123,7 +128,7 @@ bool Lexer::HasInclude() const {
 
 bool Lexer::FollowInclude(Word& word) {
   Source& source = Top();
-  word = Start(WordType::Include);
+  word = Here(WordType::Include);
   source.position += kInclude.size();
   SkipWhite(source);
   const std::string_view rest = source.Rest();

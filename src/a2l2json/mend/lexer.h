@@ -55,23 +55,26 @@ class Lexer {
   /// The next word. Included files are followed, and reported.
   Word Next();
 
+  /// A word of no bytes at the place that is reached.
+  [[nodiscard]] Word Here(WordType type) const;
+  /// Goes back to the beginning of a marker that Next gave.
+  void Return(const Word& marker);
+
   /// The file that is being read; for those who read its bytes themselves.
   [[nodiscard]] Source& Top() { return sources_.back(); }
   /// Goes back to the file that included the one at whose end we are. False for the file itself.
   bool LeaveFile();
-  /// At the slash of what may be an /include: follows it, and gives true, in which case another
-  /// file is at the top. Otherwise gives false: then `word` is the /include with its name, and the
-  /// file is read to behind it, or there is none, and nothing has changed.
-  bool FollowInclude(Word& word);
   [[nodiscard]] bool HasInclude() const;
+  /// Reads the /include that is here, and gives true where its file is at the top then. Otherwise
+  /// `word` is the /include with its name.
+  bool FollowInclude(Word& word);
 
   /// The file itself.
   [[nodiscard]] const Source& Main() const { return sources_.front(); }
 
  private:
-  Word Start(WordType type);
   void Finish(Word& word);
-  void TakePlain(Word& word);
+  void TakePlain();
   bool Open(const Word& word, std::string_view name, MendRule& problem, std::string& detail);
   bool Push(const Word& word, std::string_view name, IncludedFile file);
 
@@ -81,7 +84,6 @@ class Lexer {
   /// The names, paths and bytes of all included files; words point into them to the end.
   std::deque<std::string> kept_;
   std::size_t included_ = 0;
-  bool commentIsReported_ = false;
 };
 
 }  // namespace a2l::mending

@@ -14,8 +14,19 @@ class Reporter {
   explicit Reporter(const MendOptions& options) : options_(options) {}
 
   void Report(const Finding& finding) {
-    ++counts_[static_cast<std::size_t>(RowOf(finding.rule).outcome)];
+    const MendOutcome outcome = RowOf(finding.rule).outcome;
+    ++counts_[static_cast<std::size_t>(outcome)];
+    if (outcome != MendOutcome::Unmendable || EndsTheRead(finding.rule)) {
+      line_ = finding.line;
+      file_ = finding.file;
+    }
     if (options_.report) options_.report(finding);
+  }
+
+  /// Whether the last finding that is not about a value was one about the line of `word`.
+  template <class Word>
+  [[nodiscard]] bool HasReported(const Word& word) const {
+    return line_ == word.line && file_ == word.file;
   }
 
   [[nodiscard]] std::size_t Count(MendOutcome outcome) const {
@@ -23,8 +34,16 @@ class Reporter {
   }
 
  private:
+  static bool EndsTheRead(MendRule rule) {
+    return rule == MendRule::Refused || rule == MendRule::BeginMissing ||
+           rule == MendRule::BeginRefused || rule == MendRule::EndUnmatched ||
+           rule == MendRule::IncludeMissing || rule == MendRule::CommentWithoutEnd;
+  }
+
   const MendOptions& options_;
   std::array<std::size_t, 3> counts_{};
+  std::size_t line_ = 0;
+  std::string_view file_;
 };
 
 }  // namespace a2l::mending

@@ -99,7 +99,10 @@ TextTraits SkipText(Source& source) {
     } else if (c == '/') {
       const std::string_view rest = text.substr(i, kBegin.size());
       if (rest.starts_with(kBegin) || rest.starts_with(kEnd)) traits.hasMarker = true;
-      if (traits.hasLineEnd && source.HasComment()) traits.hasComment = true;
+      if (source.HasComment()) {
+        traits.hasCommentSign = true;
+        traits.hasComment = traits.hasComment || traits.hasLineEnd;
+      }
       ++i;
     } else {
       if (c == source.lineEnd) {
@@ -108,6 +111,8 @@ TextTraits SkipText(Source& source) {
           return traits;
         }
         traits.hasLineEnd = true;
+        const bool isEven = !IsWhite(text[i - 1]) && i + 1 < text.size() && !IsWhite(text[i + 1]);
+        traits.hasUnevenLines = traits.hasUnevenLines || !isEven;
         source.EndLine();
         source.atLineStart = false;
       }

@@ -60,9 +60,12 @@ bool SkipComment(Source& source);
 struct TextTraits {
   bool isClosed = true;
   bool hasLineEnd = false;
+  /// White space beside a line end in it, which the converter keeps.
+  bool hasUnevenLines = false;
   /// "/begin" or "/end" in it.
   bool hasMarker = false;
-  /// "//" or "/*" behind a line end in it.
+  /// "//" or "/*" in it, and behind a line end in it.
+  bool hasCommentSign = false;
   bool hasComment = false;
   /// An even number of backslashes before a quote, which they therefore do not escape.
   bool hasBackslashQuote = false;

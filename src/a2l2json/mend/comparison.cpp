@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: MIT
+#include "a2l2json/mend/comparison.h"
+
+#include <algorithm>
+
+#include "a2l2json/mend/encodings.h"
+
+namespace a2l::mending {
+namespace {
+
+using Role = LineWord::Role;
+using Why = LineWord::Why;
+
+MendRule RuleOf(Why why) {
+  switch (why) {
+    case Why::BehindParameters:
+      return MendRule::SameLine;
+    case Why::BeforeBegin:
+      return MendRule::BeforeBegin;
+    case Why::BeforeEnd:
+      return MendRule::BeforeEnd;
+    case Why::BehindEnd:
+      return MendRule::BehindEnd;
+    case Why::UnknownLine:
+      return MendRule::BehindUnknown;
+  }
+  return MendRule::Otherwise;
+}
+
+}  // namespace
+
+Comparison::Comparison(const Source& main, bool isReadable, Reporter& reporter)
+    : text_(main.text), name_(main.name), isReadable_(isReadable), reporter_(reporter),
+      rules_(main.text) {
+  if (isReadable_) next_ = rules_.Next();
+}
+
+void Comparison::Keyword(const Word& word, Role role, const Element& parent, Element& element) {
+  const LineWord found = At(word);
+  if (!word.isInMain || !isReadable_ || parent.isLost) {
+    element.isLost = !word.isInMain || !isReadable_ || parent.isLost;
+  } else if (!isInterrupted_) {
+    element.isLost = found.role != role || found.kind != element.kind ||
+                     found.owner != parent.begin || found.end != word.end;
+    if (element.isLost) Report(RuleFor(word, found, role), word, parent);
+  }
+  const bool isFlag = element.declaration != nullptr && element.declaration->paramCount == 0;
+  if (element.isLost && isFlag && IsProperty(element.kind)) ++lost_;
+}
+
+void Comparison::Parameter(const Word& word, Element& element, std::size_t index, bool isList) {
+  const LineWord found = At(word, isList ? MendRule::ListKeyword : MendRule::ReadEnds);
+  if (element.isLost || !word.isInMain) {
+    ++lost_;
+    return;
+  }
+  if (!IsCompared(word)) return;
+  const bool isTaken =
+      found.role == Role::Parameter && found.owner == element.begin && found.end == word.end;
+  if (isTaken && (isList || found.index == index)) return;
+  ++lost_;
+  const bool isKnown = isTaken && element.isShifted;
+  element.isShifted = true;
+  if (isKnown || element.reportedLine == word.line) return;
+  element.reportedLine = word.line;
+  // What is peculiar about a text has been told already.
+  if (word.type == WordType::Text && reporter_.HasReported(word)) return;
+  Report(RuleFor(word, found, Role::Parameter), word, element);
+}
+
+void Comparison::InterfaceName(const Word& word, Element& element) {
+  const LineWord found = At(word);
+  if (element.isLost || !word.isInMain) {
+    ++lost_;
+    return;
+  }
+  if (!IsCompared(word) || (found.owner == element.begin && found.end == word.end)) return;
+  ++lost_;
+  Report(MendRule::InterfaceName, word, element);
+}
+
+void Comparison::End(const Word& word, const Element& element) {
+  const LineWord found = At(word);
+  if (!IsCompared(word) || element.isLost) return;
+  if (found.role == Role::End && found.owner == element.begin) return;
+  if (!reporter_.HasReported(word)) Report(MendRule::Otherwise, word, element);
+}
+
+bool Comparison::Surplus(const Word& word) {
+  const LineWord found = At(word);
+  if (!IsCompared(word)) return false;
+  if (found.role == Role::Dropped) return found.why != Why::UnknownLine || !word.isFirst;
+  if (found.role != Role::Nothing && !reporter_.HasReported(word)) {
+    Report(MendRule::Otherwise, word, {});
+  }
+  return found.role == Role::Nothing;
+}
+
+void Comparison::RawEnd(const Word& word, Element& element) {
+  if (!IsCompared(word) || element.isLost) {
+    At(word);
+    return;
+  }
+  for (; next_.begin < word.begin && next_.role != Role::ReadEnds; next_ = rules_.Next()) {
+    ++lost_;
+    if (element.isShifted) continue;
+    element.isShifted = true;
+    const bool isDropped = next_.role == Role::Dropped;
+    ReportPlace(isDropped ? RuleOf(next_.why) : MendRule::InterfaceText, next_, element);
+  }
+  End(word, element);
+}
+
+LineWord Comparison::At(const Word& word, MendRule ifReadEnds) {
+  if (!IsCompared(word)) return {};
+  for (; next_.begin < word.begin && next_.role != Role::ReadEnds; next_ = rules_.Next()) {
+    Skip(word);
+  }
+  if (next_.role == Role::ReadEnds && next_.begin < word.end) {
+    ReadEnds(word, next_.begin == word.begin ? ifReadEnds : MendRule::ReadEnds);
+    return {};
+  }
+  anchor_ = word.begin;
+  anchorLine_ = word.line;
+  anchorLineStart_ = word.begin + 1 - word.column;
+  if (next_.begin != word.begin) return {};
+  const LineWord found = next_;
+  next_ = rules_.Next();
+  return found;
+}
+
+// The converter has a word where there is none.
+void Comparison::Skip(const Word& word) {
+  if (next_.role == Role::Dropped) return;
+  if (!reporter_.HasReported(word)) ReportPlace(MendRule::Otherwise, next_, {});
+}
+
+void Comparison::ReadEnds(const Word& word, MendRule rule) {
+  isInterrupted_ = true;
+  if (!reporter_.HasReported(word)) Report(rule, word, {});
+}
+
+void Comparison::Resume(const Word& word, std::span<const OpenBlock> open) {
+  isInterrupted_ = false;
+  rules_.Restart(word.begin, open);
+  next_ = rules_.Next();
+}
+
+MendRule Comparison::RuleFor(const Word& word, const LineWord& found, Role role) const {
+  const auto joinedBy = [](char c) {
+    return c == '\t' ? MendRule::Tab : c == '/' ? MendRule::Comment : MendRule::WhiteSpace;
+  };
+  if (found.role == Role::Nothing) {
+    if (word.begin == kByteOrderMark.size() && text_.starts_with(kByteOrderMark)) {
+      return MendRule::ByteOrderMark;
+    }
+    const char before = word.begin > 0 ? text_[word.begin - 1] : '\n';
+    if (before != ' ' && before != '\n' && (IsWhite(before) || before == '/')) {
+      return joinedBy(before);
+    }
+    return MendRule::InsideText;
+  }
+  if (found.end != word.end) {
+    if (word.type == WordType::Text) return MendRule::InsideText;
+    return word.end < text_.size() && word.end < found.end ? joinedBy(text_[word.end])
+                                                           : MendRule::Otherwise;
+  }
+  if (found.role == Role::Dropped) return RuleOf(found.why);
+  if (role != Role::Parameter && found.role == Role::Parameter) return MendRule::TakenAsValue;
+  return MendRule::Otherwise;
+}
+
+void Comparison::Report(MendRule rule, const Word& word, const Element& owner) {
+  Finding finding = FindingAt(rule, word);
+  finding.owner = owner.keyword;
+  finding.ownerName = owner.name;
+  reporter_.Report(finding);
+}
+
+void Comparison::ReportPlace(MendRule rule, const LineWord& found, const Element& owner) {
+  for (; anchor_ < found.begin; ++anchor_) {
+    if (text_[anchor_] != '\n') continue;
+    ++anchorLine_;
+    anchorLineStart_ = anchor_ + 1;
+  }
+  Word word;
+  word.file = name_;
+  word.begin = found.begin;
+  const std::size_t end = found.end == kNowhere ? found.begin + 1 : found.end;
+  word.text = text_.substr(found.begin, end - found.begin);
+  word.line = anchorLine_;
+  word.column = found.begin + 1 - anchorLineStart_;
+  Report(rule, word, owner);
+}
+
+}  // namespace a2l::mending

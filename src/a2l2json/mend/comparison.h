@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+//
+// Holds what the converter makes of the words of a file against what they mean, and reports where
+// the two differ.
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <string_view>
+
+#include "a2l2json/mend/lexer.h"
+#include "a2l2json/mend/line_rules.h"
+#include "a2l2json/mend/reporter.h"
+
+namespace a2l::mending {
+
+/// A keyword and what is known of it.
+struct Element {
+  ElementKind kind = KIND_ROOT;
+  const detail::Declaration* declaration = nullptr;
+  /// Where its keyword stands in the file itself; kNowhere for the root and in included files.
+  std::size_t begin = kNowhere;
+  std::string_view keyword;
+  std::string_view name;
+  std::string_view file;
+  std::size_t line = 1;
+  std::size_t column = 1;
+  /// The converter does not have it, or has it elsewhere.
+  bool isLost = false;
+  /// Values of it are lost, so that those behind them have other places.
+  bool isShifted = false;
+  std::size_t reportedLine = 0;
+};
+
+class Comparison {
+ public:
+  Comparison(const Source& main, bool isReadable, Reporter& reporter);
+
+  /// What is lost is counted in values: parameters, and keywords that have none.
+  [[nodiscard]] std::size_t LostValues() const { return lost_; }
+
+  // Every word of the file is given to one of these, in order.
+
+  /// The keyword of `element`, which stands in `parent`; sets isLost.
+  void Keyword(const Word& word, LineWord::Role role, const Element& parent, Element& element);
+  /// The value number `index` of `element`.
+  void Parameter(const Word& word, Element& element, std::size_t index, bool isList);
+  /// The keyword behind /end, which closes `element`.
+  void End(const Word& word, const Element& element);
+  /// A word that no keyword takes. Gives true where the converter, too, drops it for standing
+  /// behind something else.
+  bool Surplus(const Word& word);
+  /// The name of an IF_DATA, and the keyword behind the /end of a block that is kept as text.
+  void InterfaceName(const Word& word, Element& element);
+  void RawEnd(const Word& word, Element& element);
+
+  /// Behind an error of the converter: goes on as if there had been none, if `word` begins a line.
+  void Resume(const Word& word, std::span<const OpenBlock> open);
+  [[nodiscard]] bool IsInterrupted() const { return isInterrupted_; }
+
+ private:
+  LineWord At(const Word& word, MendRule ifReadEnds = MendRule::ReadEnds);
+  void Skip(const Word& word);
+  void ReadEnds(const Word& word, MendRule rule);
+  void Report(MendRule rule, const Word& word, const Element& owner);
+  void ReportPlace(MendRule rule, const LineWord& found, const Element& owner);
+  [[nodiscard]] MendRule RuleFor(const Word& word, const LineWord& found, LineWord::Role role) const;
+  [[nodiscard]] bool IsCompared(const Word& word) const {
+    return isReadable_ && !isInterrupted_ && word.isInMain;
+  }
+
+  std::string_view text_;
+  std::string_view name_;
+  bool isReadable_;
+  bool isInterrupted_ = false;
+  Reporter& reporter_;
+  LineRules rules_;
+  LineWord next_;
+  std::size_t lost_ = 0;
+  // The last place whose line is known.
+  std::size_t anchor_ = 0;
+  std::size_t anchorLine_ = 1;
+  std::size_t anchorLineStart_ = 0;
+};
+
+}  // namespace a2l::mending

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "a2l2json/mend/layout.h"
+
+namespace a2l::mending {
+namespace {
+
+bool BeginsMarker(std::string_view rest) {
+  return rest.starts_with(kBegin) || rest.starts_with(kEnd);
+}
+
+}  // namespace
+
+// White space around a line end becomes one blank, a marker gets a blank behind its slash, and a
+// quote that closes, or is doubled, one before it where a backslash stands there.
+void Layout::AppendMended(std::string_view text, const TextTraits& traits) {
+  if (!traits.isClosed) {
+    while (text.size() > 1 && IsWhite(text.back())) text.remove_suffix(1);
+  }
+  text_ += text.front();
+  std::size_t backslashes = 0;
+  std::size_t i = 1;
+  while (i < text.size()) {
+    const char c = text[i];
+    if (IsWhite(c)) {
+      std::size_t end = i;
+      bool hasLineEnd = false;
+      for (; end < text.size() && IsWhite(text[end]); ++end) hasLineEnd |= text[end] == '\n';
+      if (hasLineEnd) {
+        text_ += ' ';
+      } else {
+        text_ += text.substr(i, end - i);
+      }
+      backslashes = 0;
+      i = end;
+      continue;
+    }
+    if (c == '"' && backslashes > 0 && backslashes % 2 == 0) text_ += ' ';
+    text_ += c;
+    if (c == '/' && BeginsMarker(text.substr(i))) text_ += ' ';
+    backslashes = c == '\\' ? backslashes + 1 : 0;
+    ++i;
+  }
+  if (!traits.isClosed) {
+    if (backslashes > 0) text_ += ' ';
+    text_ += '"';
+  }
+}
+
+}  // namespace a2l::mending

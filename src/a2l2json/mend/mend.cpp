@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#include "a2l2json/mend/mend.h"
+
+#include "a2l2json/mend/comparison.h"
+#include "a2l2json/mend/encodings.h"
+#include "a2l2json/mend/lexer.h"
+#include "a2l2json/mend/reporter.h"
+#include "a2l2json/mend/walk.h"
+
+namespace a2l {
+
+Mended Mend(std::string_view text, const MendOptions& options) {
+  using namespace mending;  // NOLINT(google-build-using-namespace): all of it is here
+  Reporter reporter(options);
+  const Encoding encoding = EncodingOf(text);
+  const bool isReadable = encoding == Encoding::Bytes;
+  std::string utf8;
+  if (!isReadable) {
+    utf8 = Utf8Of(text, encoding);
+    text = utf8;
+    Finding finding;
+    finding.rule = MendRule::Utf16;
+    finding.file = options.name;
+    reporter.Report(finding);
+  }
+  const std::size_t start = text.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0;
+  Lexer lexer(text, start, options, reporter);
+  Comparison comparison(lexer.Main(), isReadable, reporter);
+  Walk walk(lexer, comparison, reporter, options);
+  Mended result;
+  result.text = walk.Run();
+  result.lostValues = comparison.LostValues();
+  result.lost = reporter.Count(MendOutcome::Lost);
+  result.mended = reporter.Count(MendOutcome::Mended);
+  result.unmendable = reporter.Count(MendOutcome::Unmendable);
+  return result;
+}
+
+}  // namespace a2l

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+#include "a2l2json/mend/raw.h"
+
+namespace a2l::mending {
+
+Word RawText::CopyToEnd() {
+  SkipToContent();
+  const std::size_t start = out_.BeginRaw();
+  SkipToEnd();
+  out_.EndRaw(start);
+  return lexer_.Next();
+}
+
+// Behind the name: what follows on its line, or else the first line that is not blank, with its
+// indentation.
+void RawText::SkipToContent() {
+  Source& source = lexer_.Top();
+  bool isNewLine = false;
+  for (; !source.AtEnd() && IsWhite(source.text[source.position]); ++source.position) {
+    if (source.text[source.position] != source.lineEnd) continue;
+    source.EndLine();
+    isNewLine = true;
+  }
+  begin_ = isNewLine ? source.lineStart : source.position;
+}
+
+void RawText::SkipToEnd() {
+  for (std::size_t depth = 0;;) {
+    Source& source = lexer_.Top();
+    if (source.AtEnd()) {
+      Copy(source.position);
+      if (!lexer_.LeaveFile()) return;
+      begin_ = lexer_.Top().position;
+      continue;
+    }
+    const char c = source.text[source.position];
+    const std::string_view rest = c == '/' ? source.Rest() : std::string_view{};
+    if (c == '"') {
+      Text();
+    } else if (c == '/' && source.HasComment()) {
+      Comment();
+    } else if (c == '/' && lexer_.HasInclude()) {
+      Include();
+    } else if (rest.starts_with(kEnd) && depth == 0) {
+      return Copy(source.position);
+    } else {
+      if (rest.starts_with(kBegin)) ++depth;
+      if (rest.starts_with(kEnd)) --depth;
+      if (c == source.lineEnd) {
+        source.EndLine();
+      } else if (!IsWhite(c)) {
+        source.atLineStart = false;
+      }
+      ++source.position;
+    }
+  }
+}
+
+void RawText::Text() {
+  Source& source = lexer_.Top();
+  Word word = lexer_.Here(WordType::Text);
+  word.traits = SkipText(source);
+  if (!word.traits.hasMarker) return;
+  word.text = source.text.substr(word.begin, source.position - word.begin);
+  reporter_.Report(FindingAt(MendRule::TextMarker, word));
+  for (std::size_t i = word.begin; i < source.position; ++i) {
+    const std::string_view rest = source.text.substr(i, kBegin.size());
+    if (!rest.starts_with(kBegin) && !rest.starts_with(kEnd)) continue;
+    Copy(i + 1);
+    out_.Raw(" ");
+  }
+}
+
+void RawText::Comment() {
+  Source& source = lexer_.Top();
+  const Word word = lexer_.Here(WordType::Plain);
+  if (SkipComment(source)) return;
+  // Not closed, it would take in what is written behind it.
+  Copy(word.begin);
+  begin_ = source.position;
+  reporter_.Report(FindingAt(MendRule::CommentWithoutEnd, word));
+}
+
+void RawText::Include() {
+  Copy(lexer_.Top().position);
+  Word word;
+  if (lexer_.FollowInclude(word)) begin_ = lexer_.Top().position;
+}
+
+void RawText::Copy(std::size_t end) {
+  if (begin_ == end) return;
+  const std::string_view bytes = lexer_.Top().text.substr(begin_, end - begin_);
+  if (isFirst_ && bytes.front() != ' ') out_.Raw(" ");
+  isFirst_ = false;
+  out_.Raw(bytes);
+  begin_ = end;
+}
+
+}  // namespace a2l::mending

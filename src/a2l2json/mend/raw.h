@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+//
+// Blocks that are kept as text: IF_DATA, A2ML and those of unknown keywords. Their lines are
+// copied byte for byte, with two exceptions: the first begins with a blank, which ends the name of
+// an IF_DATA, and a marker inside of a text gets a blank behind its slash.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+#include "a2l2json/mend/layout.h"
+#include "a2l2json/mend/lexer.h"
+#include "a2l2json/mend/reporter.h"
+
+namespace a2l::mending {
+
+class RawText {
+ public:
+  RawText(Lexer& lexer, Layout& out, Reporter& reporter)
+      : lexer_(lexer), out_(out), reporter_(reporter) {}
+
+  /// Copies what follows, up to the /end that closes the block, and gives that; or the end of the
+  /// input.
+  Word CopyToEnd();
+
+ private:
+  void SkipToContent();
+  void SkipToEnd();
+  void Text();
+  void Comment();
+  void Include();
+  /// What has been read and not copied.
+  void Copy(std::size_t end);
+
+  Lexer& lexer_;
+  Layout& out_;
+  Reporter& reporter_;
+  std::size_t begin_ = 0;  // of what has not been copied
+  bool isFirst_ = true;
+};
+
+}  // namespace a2l::mending

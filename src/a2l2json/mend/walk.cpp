@@ -1,0 +1,458 @@
+// SPDX-License-Identifier: MIT
+#include "a2l2json/mend/walk.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include "a2l2json/mend/raw.h"
+#include "a2l2json/mend/repeated.h"
+#include "a2l2json/mend/values.h"
+#include "a2l2json/text/numbers.h"
+
+namespace a2l::mending {
+namespace {
+
+using detail::Declaration;
+using detail::DeclarationOf;
+using detail::ParameterType;
+using Role = LineWord::Role;
+
+// Blocks that lie deeper are not looked through for the one that an /end could mean, nor told to
+// the line rules: no file in use nests as deep.
+constexpr std::size_t kMostLevels = 64;
+
+ElementKind KindOf(const Word& word) {
+  return word.type == WordType::Plain ? KeywordToKind(word.text) : KIND_UNKNOWN;
+}
+
+bool LooksLikeAValue(const Word& word) {
+  const char c = word.text.empty() ? '"' : word.text.front();
+  return word.type != WordType::Plain || (c >= '0' && c <= '9') || c == '-' || c == '+' || c == '.';
+}
+
+bool IsText(ParameterType type) {
+  return type == ParameterType::Text || type == ParameterType::UnquotedText;
+}
+
+Element ElementAt(const Word& word, ElementKind kind) {
+  Element element;
+  element.kind = kind;
+  element.declaration = DeclarationOf(kind);
+  element.begin = word.isInMain ? word.begin : kNowhere;
+  element.keyword = word.text;
+  element.file = word.file;
+  element.line = word.line;
+  element.column = word.column;
+  return element;
+}
+
+}  // namespace
+
+Walk::Walk(Lexer& lexer, Comparison& comparison, Reporter& reporter, const MendOptions& options)
+    : lexer_(lexer), comparison_(comparison), reporter_(reporter), options_(options),
+      out_(lexer.Main().text.size()) {
+  root_.declaration = DeclarationOf(KIND_ROOT);
+}
+
+std::string Walk::Run() {
+  while (true) {
+    const Word word = Next();
+    switch (word.type) {
+      case WordType::Begin:
+        BeginMarker(word);
+        break;
+      case WordType::End:
+        EndMarker(word);
+        break;
+      case WordType::Include:
+        MissingInclude(word);
+        break;
+      case WordType::EndOfInput:
+        EndOfInput();
+        return out_.Take();
+      case WordType::Plain:
+      case WordType::Text:
+        if (phase_ == Phase::Keyword || phase_ == Phase::Surplus) {
+          KeywordDue(word);
+        } else {
+          ParameterDue(word);
+        }
+    }
+  }
+}
+
+Word Walk::Next() {
+  if (returned_) {
+    const Word word = *returned_;
+    returned_.reset();
+    return word;
+  }
+  Word word = lexer_.Next();
+  if (!word.isInMain || word.type == WordType::EndOfInput) return word;
+  const bool isBoundary = word.type == WordType::Begin || word.type == WordType::End ||
+                          phase_ == Phase::Keyword || phase_ == Phase::Surplus;
+  if (comparison_.IsInterrupted() && word.isFirst && isBoundary && frames_.size() <= kMostLevels) {
+    comparison_.Resume(word, OpenBlocks());
+  }
+  constexpr std::size_t kStep = std::size_t{1} << 20;
+  if (word.begin >= progress_ + kStep) {
+    progress_ = word.begin;
+    if (options_.progress) options_.progress(progress_);
+  }
+  return word;
+}
+
+std::vector<mending::OpenBlock> Walk::OpenBlocks() const {
+  std::vector<mending::OpenBlock> open;
+  for (const Frame& frame : frames_) open.push_back({frame.element.kind, frame.element.begin});
+  return open;
+}
+
+const Declaration& Walk::OpenDeclaration() const { return *OpenElement().declaration; }
+
+const Element& Walk::OpenElement() const {
+  return frames_.empty() ? root_ : frames_.back().element;
+}
+
+bool Walk::IsKeywordHere(const Word& word) const {
+  const ElementKind kind = KindOf(word);
+  return IsProperty(kind) && OpenDeclaration().accepts.Contains(kind);
+}
+
+// ---------------------------------------------------------------------------------------------
+// Keywords
+
+void Walk::BeginMarker(const Word& marker) {
+  FinishItem(marker);
+  Word word = Next();
+  if (word.type != WordType::Plain && word.type != WordType::Text) {
+    return BadMarker(marker, word, MendRule::BeginRefused);
+  }
+  const ElementKind kind = KindOf(word);
+  if (IsProperty(kind)) {
+    Report(MendRule::BeginRefused, word, OpenElement());
+    comparison_.Surplus(word);
+    out_.BeginLine(frames_.size());
+    out_.Plain(kBegin);
+    out_.Plain(word.text);
+    phase_ = Phase::Surplus;
+    return;
+  }
+  OpenBlock(word, kind);
+}
+
+// A marker without a keyword is written as it is: nothing better is known.
+void Walk::BadMarker(const Word& marker, const Word& word, MendRule rule) {
+  Report(rule, marker, OpenElement());
+  out_.BeginLine(frames_.size());
+  out_.Plain(marker.text);
+  returned_ = word;
+}
+
+void Walk::OpenBlock(const Word& word, ElementKind kind) {
+  const std::size_t level = frames_.size();
+  Element element = ElementAt(word, kind);
+  if (kind == KIND_UNKNOWN) {
+    Report(MendRule::UnknownBlock, word, OpenElement());
+  } else if (!OpenDeclaration().accepts.Contains(kind)) {
+    Report(MendRule::Refused, word, OpenElement());
+  } else if (!frames_.empty() && frames_.back().seen.Contains(kind) && !IsRepeated(kind)) {
+    Report(MendRule::Second, word, OpenElement());
+  }
+  if (!frames_.empty()) frames_.back().seen = frames_.back().seen.With(kind);
+  comparison_.Keyword(word, Role::Begin, OpenElement(), element);
+  frames_.push_back({element, {}});
+  out_.BeginLine(level);
+  out_.Plain(kBegin);
+  Write(word);
+  itemIsBlock_ = true;
+  phase_ = Phase::Keyword;
+  if (element.declaration->KeepsRawText()) return CopyRaw();
+  StartParameters(*element.declaration);
+}
+
+void Walk::OpenProperty(const Word& word, ElementKind kind) {
+  property_ = ElementAt(word, kind);
+  const bool isFlag = property_.declaration->paramCount == 0;
+  if (!frames_.empty()) {
+    KindSet& seen = frames_.back().seen;
+    if (seen.Contains(kind) && !isFlag && !IsRepeated(kind)) {
+      Report(MendRule::Second, word, OpenElement());
+    }
+    seen = seen.With(kind);
+  }
+  comparison_.Keyword(word, Role::Property, OpenElement(), property_);
+  itemIsBlock_ = false;
+  out_.BeginLine(frames_.size());
+  Write(word);
+  StartParameters(*property_.declaration);
+}
+
+void Walk::StartParameters(const Declaration& declaration) {
+  index_ = parameter_ = repeated_ = 0;
+  rows_ = 0;
+  phase_ = Phase::Fixed;
+  if (declaration.parameters.empty()) {
+    EndOfFixed();
+  } else if (declaration.parameters.front().isList) {
+    phase_ = Phase::List;
+  }
+}
+
+void Walk::KeywordDue(const Word& word) {
+  const ElementKind kind = KindOf(word);
+  if (kind == ElementKind::ENCODING) {
+    // The finding comes with the parameter, if there is one.
+    Report(MendRule::Encoding, word, OpenElement());
+    comparison_.Surplus(word);
+    phase_ = Phase::Encoding;
+  } else if (IsProperty(kind) && OpenDeclaration().accepts.Contains(kind)) {
+    OpenProperty(word, kind);
+  } else {
+    NotAKeyword(word, kind);
+  }
+}
+
+// Words that nothing takes stay where the converter had them: on a line of their own, or behind
+// something else, where it drops them without looking at them.
+void Walk::NotAKeyword(const Word& word, ElementKind kind) {
+  const bool isFirst = phase_ == Phase::Keyword;
+  if (isFirst) {
+    if (IsProperty(kind)) {
+      Report(MendRule::Refused, word, OpenElement());
+    } else if (IsBlock(kind)) {
+      Report(MendRule::BeginMissing, word, OpenElement());
+    } else if (LooksLikeAValue(word)) {
+      Report(MendRule::Surplus, word, Item());
+    } else {
+      Report(MendRule::UnknownKeyword, word, OpenElement());
+    }
+  }
+  const bool isBehind = comparison_.Surplus(word);
+  if (isFirst && !isBehind) out_.BeginLine(frames_.size());
+  Write(word);
+  phase_ = Phase::Surplus;
+}
+
+void Walk::MissingInclude(const Word& word) {
+  // Where values are due, the converter would take the words for values.
+  if (phase_ != Phase::Keyword) return;
+  out_.BeginLine(frames_.size());
+  out_.Plain(word.text);
+}
+
+void Walk::EndMarker(const Word& marker) {
+  const bool isRaw = !frames_.empty() && frames_.back().element.declaration->KeepsRawText();
+  FinishItem(marker);
+  const Word word = Next();
+  if (word.type != WordType::Plain && word.type != WordType::Text) {
+    return BadMarker(marker, word, MendRule::EndUnmatched);
+  }
+  const ElementKind kind = KindOf(word);
+  const std::size_t most = std::min(frames_.size(), kMostLevels);
+  std::size_t inner = 0;
+  while (inner < most && frames_[frames_.size() - 1 - inner].element.kind != kind) ++inner;
+  if (inner == most) {
+    Report(MendRule::EndUnmatched, word, OpenElement());
+    comparison_.Surplus(word);
+    if (isRaw) return CloseBlock(&word);
+    out_.BeginLine(frames_.size());
+    out_.Plain(kEnd);
+    Write(word);
+    return;
+  }
+  for (; inner > 0; --inner) CloseBlock(nullptr);
+  Element& element = frames_.back().element;
+  if (isRaw) {
+    comparison_.RawEnd(word, element);
+  } else {
+    comparison_.End(word, element);
+  }
+  CloseBlock(&word);
+}
+
+// The name of an IF_DATA stands on the line of its /begin, everything else below it.
+void Walk::CopyRaw() {
+  Element& element = frames_.back().element;
+  if (element.declaration->parameters.size() > 1) {
+    const Word name = lexer_.Next();
+    if (name.type == WordType::Plain || name.type == WordType::Text) {
+      comparison_.InterfaceName(name, element);
+      Check(name, element.declaration->parameters.front());
+      element.name = name.text;
+      Write(name);
+    } else if (name.type == WordType::Begin || name.type == WordType::End) {
+      lexer_.Return(name);
+    }
+  }
+  const Word marker = RawText(lexer_, out_, reporter_).CopyToEnd();
+  if (marker.type == WordType::End) return EndMarker(marker);
+  returned_ = marker;
+}
+
+void Walk::CloseBlock(const Word* keyword) {
+  const Element& element = frames_.back().element;
+  if (keyword == nullptr) ReportOpen(element);
+  out_.BeginLine(frames_.size() - 1);
+  out_.Plain(kEnd);
+  out_.Plain(keyword != nullptr ? keyword->text : element.keyword);
+  frames_.pop_back();
+  itemIsBlock_ = false;
+  property_ = {};
+  phase_ = Phase::Keyword;
+}
+
+void Walk::EndOfInput() {
+  Word end;
+  end.file = lexer_.Main().name;
+  end.line = lexer_.Main().line;
+  end.text = "the end of the file";
+  FinishItem(end);
+  while (!frames_.empty()) CloseBlock(nullptr);
+}
+
+// ---------------------------------------------------------------------------------------------
+// Parameters
+
+void Walk::ParameterDue(const Word& word) {
+  if (phase_ == Phase::Encoding) {
+    phase_ = Phase::Keyword;
+    if (IsKeywordHere(word)) return KeywordDue(word);
+    comparison_.Surplus(word);
+    return;
+  }
+  const bool mayEnd = phase_ == Phase::List || (phase_ == Phase::Rows && rowsFillLine_);
+  if (mayEnd && IsKeywordHere(word)) {
+    phase_ = Phase::Keyword;
+    return KeywordDue(word);
+  }
+  if (word.type == WordType::Text) {
+    if (!word.traits.isClosed) Report(MendRule::TextWithoutEnd, word, Item());
+    if (word.traits.hasMarker) Report(MendRule::TextMarker, word, Item());
+    if (word.traits.hasBackslashQuote) Report(MendRule::TextBackslash, word, Item());
+    if (word.traits.hasComment) {
+      Report(MendRule::TextComment, word, Item());
+    } else if (word.traits.hasUnevenLines && word.isInMain) {
+      Report(MendRule::TextLines, word, Item());
+    }
+  }
+  comparison_.Parameter(word, Item(), index_, phase_ == Phase::List);
+  switch (phase_) {
+    case Phase::Fixed:
+      FixedParameter(word);
+      break;
+    case Phase::Rows:
+      RowParameter(word);
+      break;
+    default:
+      ListParameter(word);
+  }
+  ++index_;
+  if (phase_ == Phase::Rows && index_ == rowsEnd_ && !rowsFillLine_) phase_ = Phase::Keyword;
+}
+
+void Walk::FixedParameter(const Word& word) {
+  Element& item = Item();
+  const Declaration& declaration = *item.declaration;
+  const detail::Parameter& parameter = declaration.parameters[parameter_];
+  Check(word, parameter);
+  Write(word);
+  if (itemIsBlock_ && index_ == 0 && parameter.type == ParameterType::Identifier) {
+    item.name = word.text;
+  }
+  if (declaration.HasRows() && parameter_ == declaration.rowCount) {
+    rows_ = ReadUnsigned(word.text).value;
+  }
+  if (++repeated_ < parameter.count) return;
+  repeated_ = 0;
+  ++parameter_;
+  if (parameter_ == declaration.parameters.size()) {
+    EndOfFixed();
+  } else if (declaration.parameters[parameter_].isList) {
+    phase_ = Phase::List;
+  }
+}
+
+// Counted as the converter counts: see LineRules.
+void Walk::EndOfFixed() {
+  const Declaration& declaration = *Item().declaration;
+  phase_ = Phase::Keyword;
+  if (!declaration.HasRows() || rows_ == 0) return;
+  const auto columns = static_cast<std::uint32_t>(declaration.columns.size());
+  const std::uint64_t needed = std::uint64_t{rows_} * columns;
+  rowsFillLine_ = needed > static_cast<std::uint64_t>(std::numeric_limits<std::int32_t>::max());
+  rowsEnd_ = index_ + 1 + static_cast<std::size_t>(needed);
+  parameter_ = 0;
+  phase_ = Phase::Rows;
+}
+
+void Walk::RowParameter(const Word& word) {
+  const Declaration& declaration = *Item().declaration;
+  if (parameter_ == 0 && !rowsFillLine_) out_.BeginLine(frames_.size());
+  Check(word, declaration.columns[parameter_]);
+  Write(word);
+  parameter_ = (parameter_ + 1) % declaration.columns.size();
+}
+
+// In a block, an entry has a line of its own, unless it is a keyword, which would end the list
+// there.
+void Walk::ListParameter(const Word& word) {
+  const detail::Parameter& parameter = Item().declaration->parameters.back();
+  const bool isSecond = parameter.type == ParameterType::NamedValue && repeated_ == 1;
+  if (itemIsBlock_ && !isSecond && KindOf(word) == KIND_UNKNOWN) out_.BeginLine(frames_.size());
+  repeated_ = isSecond ? 0 : 1;
+  Check(word, parameter);
+  Write(word);
+}
+
+void Walk::Check(const Word& word, const detail::Parameter& parameter) {
+  const auto trouble = CheckValue(Item().kind, parameter, word.text);
+  if (!trouble) return;
+  const bool isDue = IsText(parameter.type) || !IsNumber(parameter, word.text);
+  if (isDue && IsKeywordHere(word)) {
+    return Report(MendRule::ParameterMissing, word, Item());
+  }
+  Report(trouble->rule, word, Item(), trouble->becomes);
+}
+
+void Walk::FinishItem(const Word& behind) {
+  const bool isHalf = phase_ == Phase::List && repeated_ == 1 &&
+                      Item().declaration->parameters.back().type == ParameterType::NamedValue;
+  if (phase_ == Phase::Fixed || isHalf) {
+    Report(MendRule::ParameterMissing, behind, Item());
+  } else if (phase_ == Phase::Rows && !rowsFillLine_) {
+    Report(MendRule::Rows, behind, Item());
+  }
+  phase_ = Phase::Keyword;
+}
+
+void Walk::Write(const Word& word) {
+  if (word.type == WordType::Text) {
+    out_.Text(word.text, word.traits);
+  } else {
+    out_.Plain(word.text);
+  }
+}
+
+void Walk::Report(MendRule rule, const Word& word, const Element& owner, std::string_view detail) {
+  Finding finding = FindingAt(rule, word);
+  finding.owner = owner.keyword;
+  finding.ownerName = owner.name;
+  finding.detail = detail;
+  reporter_.Report(finding);
+}
+
+void Walk::ReportOpen(const Element& element) {
+  Finding finding;
+  finding.rule = MendRule::EndMissing;
+  finding.file = element.file;
+  finding.line = element.line;
+  finding.column = element.column;
+  finding.word = element.keyword;
+  finding.owner = element.keyword;
+  finding.ownerName = element.name;
+  reporter_.Report(finding);
+}
+
+}  // namespace a2l::mending

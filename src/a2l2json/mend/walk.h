@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+//
+// The way through the words of a file by the grammar of the format: what each word is, whether its
+// value can be held, and on which line it goes.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "a2l2json/mend/comparison.h"
+#include "a2l2json/mend/layout.h"
+#include "a2l2json/mend/lexer.h"
+
+namespace a2l::mending {
+
+class Walk {
+ public:
+  Walk(Lexer& lexer, Comparison& comparison, Reporter& reporter, const MendOptions& options);
+
+  /// The mended text.
+  std::string Run();
+
+ private:
+  enum class Phase : std::uint8_t {
+    Keyword,   // a keyword is due
+    Fixed,     // one of a certain number of parameters
+    Rows,      // the rows of a table
+    List,      // what may go on for ever
+    Encoding,  // the parameter of ENCODING, which is left out
+    Surplus,   // nothing is due until the next keyword
+  };
+  struct Frame {
+    Element element;
+    KindSet seen;
+  };
+
+  Word Next();
+  void BeginMarker(const Word& marker);
+  void EndMarker(const Word& marker);
+  void EndOfInput();
+  void MissingInclude(const Word& word);
+
+  void KeywordDue(const Word& word);
+  void OpenBlock(const Word& word, ElementKind kind);
+  void OpenProperty(const Word& word, ElementKind kind);
+  void StartParameters(const detail::Declaration& declaration);
+  void NotAKeyword(const Word& word, ElementKind kind);
+  void BadMarker(const Word& marker, const Word& word, MendRule rule);
+
+  void ParameterDue(const Word& word);
+  void FixedParameter(const Word& word);
+  void RowParameter(const Word& word);
+  void ListParameter(const Word& word);
+  void EndOfFixed();
+  void Check(const Word& word, const detail::Parameter& parameter);
+  void FinishItem(const Word& behind);
+
+  void CloseBlock(const Word* keyword);
+  void CopyRaw();
+  void Write(const Word& word);
+  void Report(MendRule rule, const Word& word, const Element& owner, std::string_view detail = {});
+  void ReportOpen(const Element& element);
+
+  [[nodiscard]] bool IsKeywordHere(const Word& word) const;
+  [[nodiscard]] const detail::Declaration& OpenDeclaration() const;
+  [[nodiscard]] const Element& OpenElement() const;
+  /// What the parameters belong to.
+  [[nodiscard]] Element& Item() { return itemIsBlock_ ? frames_.back().element : property_; }
+  [[nodiscard]] std::vector<mending::OpenBlock> OpenBlocks() const;
+
+  Lexer& lexer_;
+  Comparison& comparison_;
+  Reporter& reporter_;
+  const MendOptions& options_;
+  Layout out_;
+  std::optional<Word> returned_;
+  std::size_t progress_ = 0;
+
+  Element root_;
+  std::vector<Frame> frames_;
+  Phase phase_ = Phase::Keyword;
+  bool itemIsBlock_ = false;
+  Element property_;
+  std::size_t index_ = 0;      // of the parameter
+  std::size_t parameter_ = 0;  // in the declaration
+  std::size_t repeated_ = 0;   // of a parameter that stands for several
+  std::size_t rowsEnd_ = 0;
+  std::uint32_t rows_ = 0;
+  bool rowsFillLine_ = false;
+};
+
+}  // namespace a2l::mending
