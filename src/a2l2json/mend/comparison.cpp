@@ -114,7 +114,7 @@ void Comparison::RawEnd(const Word& word, Element& element) {
 LineWord Comparison::At(const Word& word, MendRule ifReadEnds) {
   if (!IsCompared(word)) return {};
   for (; next_.begin < word.begin && next_.role != Role::ReadEnds; next_ = rules_.Next()) {
-    Skip(word);
+    Skip();
   }
   if (next_.role == Role::ReadEnds && next_.begin < word.end) {
     ReadEnds(word, next_.begin == word.begin ? ifReadEnds : MendRule::ReadEnds);
@@ -130,9 +130,8 @@ LineWord Comparison::At(const Word& word, MendRule ifReadEnds) {
 }
 
 // The converter has a word where there is none.
-void Comparison::Skip(const Word& word) {
-  if (next_.role == Role::Dropped) return;
-  if (!reporter_.HasReported(word)) ReportPlace(MendRule::Otherwise, next_, {});
+void Comparison::Skip() {
+  if (next_.role != Role::Dropped) ReportPlace(MendRule::Otherwise, next_, {});
 }
 
 void Comparison::ReadEnds(const Word& word, MendRule rule) {
@@ -154,11 +153,14 @@ MendRule Comparison::RuleFor(const Word& word, const LineWord& found, Role role)
     if (word.begin == kByteOrderMark.size() && text_.starts_with(kByteOrderMark)) {
       return MendRule::ByteOrderMark;
     }
-    const char before = word.begin > 0 ? text_[word.begin - 1] : '\n';
-    if (before != ' ' && before != '\n' && (IsWhite(before) || before == '/')) {
-      return joinedBy(before);
+    std::size_t gap = word.begin;
+    while (gap > 0 && IsWhite(text_[gap - 1]) && text_[gap - 1] != ' ' && text_[gap - 1] != '\n') {
+      --gap;
     }
-    return MendRule::InsideText;
+    const char before = gap > 0 ? text_[gap - 1] : '\n';
+    if (before == ' ' || before == '\n') return MendRule::InsideText;
+    if (gap < word.begin) return joinedBy(text_[gap]);
+    return before == '/' ? MendRule::Comment : MendRule::InsideText;
   }
   if (found.end != word.end) {
     if (word.type == WordType::Text) return MendRule::InsideText;
@@ -190,7 +192,7 @@ void Comparison::ReportPlace(MendRule rule, const LineWord& found, const Element
   word.text = text_.substr(found.begin, end - found.begin);
   word.line = anchorLine_;
   word.column = found.begin + 1 - anchorLineStart_;
-  Report(rule, word, owner);
+  if (!reporter_.HasReported(word)) Report(rule, word, owner);
 }
 
 }  // namespace a2l::mending

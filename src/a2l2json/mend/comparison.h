@@ -56,11 +56,13 @@ class Comparison {
 
   /// Behind an error of the converter: goes on as if there had been none, if `word` begins a line.
   void Resume(const Word& word, std::span<const OpenBlock> open);
+  /// The converter ends here, which has been reported.
+  void Interrupt() { isInterrupted_ = true; }
   [[nodiscard]] bool IsInterrupted() const { return isInterrupted_; }
 
  private:
   LineWord At(const Word& word, MendRule ifReadEnds = MendRule::ReadEnds);
-  void Skip(const Word& word);
+  void Skip();
   void ReadEnds(const Word& word, MendRule rule);
   void Report(MendRule rule, const Word& word, const Element& owner);
   void ReportPlace(MendRule rule, const LineWord& found, const Element& owner);

@@ -225,15 +225,16 @@ void LineRules::OpenRaw() {
   rawDepth_ = 0;
   nameIsOpen_ = declaration_->parameters.size() > 1;
   openBegin_ = kNowhere;
-  if (nameIsOpen_) ContinueName(cursor_);
+  // Of this line, the white space at its end does not count.
+  if (nameIsOpen_) ContinueName(cursor_, TrimmedEnd(line_, cursor_, pieceEnd_));
 }
 
 void LineRules::RawPiece() {
-  if (nameIsOpen_) ContinueName(pieceBegin_);
+  if (nameIsOpen_) ContinueName(pieceBegin_, pieceEnd_);
 }
 
 // The name ends at the first blank behind it; line ends are none.
-void LineRules::ContinueName(std::size_t offset) {
+void LineRules::ContinueName(std::size_t offset, std::size_t pieceEnd) {
   const auto emit = [this](std::size_t end) {
     LineWord word;
     word.role = Role::Parameter;
@@ -244,19 +245,19 @@ void LineRules::ContinueName(std::size_t offset) {
     nameIsOpen_ = false;
   };
   if (openBegin_ == kNowhere) {
-    while (offset < pieceEnd_ && IsTrimmed(line_[offset])) ++offset;
-    if (offset == pieceEnd_) return;
+    while (offset < pieceEnd && IsTrimmed(line_[offset])) ++offset;
+    if (offset == pieceEnd) return;
     openBegin_ = lines_.PositionOf(offset);
     openEnd_ = openBegin_;
     if (line_[offset] == '"') {
-      const std::size_t close = FindClosingQuote(line_.substr(0, pieceEnd_), offset + 1);
+      const std::size_t close = FindClosingQuote(line_.substr(0, pieceEnd), offset + 1);
       return emit(close == kNone ? kNowhere : lines_.EndOf(close + 1));
     }
   }
-  const std::size_t blank = std::min(line_.find(' ', offset), pieceEnd_);
+  const std::size_t blank = std::min(line_.find(' ', offset), pieceEnd);
   const std::size_t end = TrimmedEnd(line_, offset, blank);
   if (end > offset) openEnd_ = lines_.EndOf(end);
-  if (blank < pieceEnd_) emit(openEnd_);
+  if (blank < pieceEnd) emit(openEnd_);
 }
 
 void LineRules::Collect() {

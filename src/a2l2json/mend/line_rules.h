@@ -95,7 +95,7 @@ class LineRules {
   void EndOfFixed();
   void EndOfPiece();
   void ContinueCollecting();
-  void ContinueName(std::size_t offset);
+  void ContinueName(std::size_t offset, std::size_t pieceEnd);
   void Close();
   void Drop();
   void DropRest(LineWord::Why why);

@@ -2,6 +2,18 @@
 #include "a2l2json/mend/raw.h"
 
 namespace a2l::mending {
+namespace {
+
+// The word behind a marker.
+std::string_view KeywordBehind(std::string_view rest) {
+  std::size_t begin = kBegin.size();
+  while (begin < rest.size() && IsWhite(rest[begin])) ++begin;
+  std::size_t end = begin;
+  while (end < rest.size() && !IsWhite(rest[end]) && rest[end] != '/' && rest[end] != '"') ++end;
+  return rest.substr(begin, end - begin);
+}
+
+}  // namespace
 
 Word RawText::CopyToEnd() {
   SkipToContent();
@@ -25,11 +37,11 @@ void RawText::SkipToContent() {
 }
 
 void RawText::SkipToEnd() {
-  for (std::size_t depth = 0;;) {
+  while (true) {
     Source& source = lexer_.Top();
     if (source.AtEnd()) {
       Copy(source.position);
-      if (!lexer_.LeaveFile()) return;
+      if (!lexer_.LeaveFile()) return CloseInner();
       begin_ = lexer_.Top().position;
       continue;
     }
@@ -41,11 +53,11 @@ void RawText::SkipToEnd() {
       Comment();
     } else if (c == '/' && lexer_.HasInclude()) {
       Include();
-    } else if (rest.starts_with(kEnd) && depth == 0) {
+    } else if (rest.starts_with(kEnd) && inner_.empty()) {
       return Copy(source.position);
     } else {
-      if (rest.starts_with(kBegin)) ++depth;
-      if (rest.starts_with(kEnd)) --depth;
+      if (rest.starts_with(kBegin)) inner_.push_back(KeywordBehind(rest));
+      if (rest.starts_with(kEnd)) inner_.pop_back();
       if (c == source.lineEnd) {
         source.EndLine();
       } else if (!IsWhite(c)) {
@@ -53,6 +65,17 @@ void RawText::SkipToEnd() {
       }
       ++source.position;
     }
+  }
+}
+
+// At the end of the file: blocks inside that are open are closed, or they would take the /end that
+// is written next for theirs.
+void RawText::CloseInner() {
+  for (; !inner_.empty(); inner_.pop_back()) {
+    out_.Raw("\n");
+    out_.Raw(kEnd);
+    out_.Raw(" ");
+    out_.Raw(inner_.back());
   }
 }
 
@@ -73,8 +96,20 @@ void RawText::Text() {
 
 void RawText::Comment() {
   Source& source = lexer_.Top();
-  const Word word = lexer_.Here(WordType::Plain);
-  if (SkipComment(source)) return;
+  Word word = lexer_.Here(WordType::Plain);
+  const std::string_view text = source.text;
+  if (SkipComment(source)) {
+    // Nothing stands in the place of a comment: words that touch it would become one.
+    const std::size_t behind = source.position;
+    const bool touches = word.begin > begin_ && !IsWhite(text[word.begin - 1]) &&
+                         behind < text.size() && !IsWhite(text[behind]);
+    if (!touches) return;
+    Copy(behind);
+    out_.Raw(" ");
+    word.text = text.substr(word.begin, behind - word.begin);
+    reporter_.Report(FindingAt(MendRule::Comment, word));
+    return;
+  }
   // Not closed, it would take in what is written behind it.
   Copy(word.begin);
   begin_ = source.position;

@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <string_view>
+#include <vector>
 
 #include "a2l2json/mend/layout.h"
 #include "a2l2json/mend/lexer.h"
@@ -26,6 +27,7 @@ class RawText {
  private:
   void SkipToContent();
   void SkipToEnd();
+  void CloseInner();
   void Text();
   void Comment();
   void Include();
@@ -37,6 +39,8 @@ class RawText {
   Reporter& reporter_;
   std::size_t begin_ = 0;  // of what has not been copied
   bool isFirst_ = true;
+  /// The keywords of the blocks inside that are open.
+  std::vector<std::string_view> inner_;
 };
 
 }  // namespace a2l::mending

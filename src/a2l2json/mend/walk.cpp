@@ -120,6 +120,13 @@ bool Walk::IsKeywordHere(const Word& word) const {
   return IsProperty(kind) && OpenDeclaration().accepts.Contains(kind);
 }
 
+// The converter finds the keyword of a child in a longer word as well.
+bool Walk::HoldsChild(const Word& word) {
+  const ElementKind child = Item().declaration->parameters.back().childInList;
+  return child != KIND_ROOT && word.type == WordType::Plain &&
+         word.text.find(KindToKeyword(child)) != std::string_view::npos;
+}
+
 // ---------------------------------------------------------------------------------------------
 // Keywords
 
@@ -135,7 +142,8 @@ void Walk::BeginMarker(const Word& marker) {
     comparison_.Surplus(word);
     out_.BeginLine(frames_.size());
     out_.Plain(kBegin);
-    out_.Plain(word.text);
+    Write(word);
+    mayFollow_ = false;
     phase_ = Phase::Surplus;
     return;
   }
@@ -145,8 +153,10 @@ void Walk::BeginMarker(const Word& marker) {
 // A marker without a keyword is written as it is: nothing better is known.
 void Walk::BadMarker(const Word& marker, const Word& word, MendRule rule) {
   Report(rule, marker, OpenElement());
+  comparison_.Interrupt();
   out_.BeginLine(frames_.size());
   out_.Plain(marker.text);
+  mayFollow_ = false;
   returned_ = word;
 }
 
@@ -162,6 +172,7 @@ void Walk::OpenBlock(const Word& word, ElementKind kind) {
   }
   if (!frames_.empty()) frames_.back().seen = frames_.back().seen.With(kind);
   comparison_.Keyword(word, Role::Begin, OpenElement(), element);
+  mayFollow_ = true;
   frames_.push_back({element, {}});
   out_.BeginLine(level);
   out_.Plain(kBegin);
@@ -183,6 +194,7 @@ void Walk::OpenProperty(const Word& word, ElementKind kind) {
     seen = seen.With(kind);
   }
   comparison_.Keyword(word, Role::Property, OpenElement(), property_);
+  mayFollow_ = true;
   itemIsBlock_ = false;
   out_.BeginLine(frames_.size());
   Write(word);
@@ -229,8 +241,11 @@ void Walk::NotAKeyword(const Word& word, ElementKind kind) {
       Report(MendRule::UnknownKeyword, word, OpenElement());
     }
   }
-  const bool isBehind = comparison_.Surplus(word);
-  if (isFirst && !isBehind) out_.BeginLine(frames_.size());
+  const bool isBehind = comparison_.Surplus(word) && mayFollow_;
+  if (isFirst && !isBehind) {
+    out_.BeginLine(frames_.size());
+    mayFollow_ = false;
+  }
   Write(word);
   phase_ = Phase::Surplus;
 }
@@ -260,6 +275,7 @@ void Walk::EndMarker(const Word& marker) {
     out_.BeginLine(frames_.size());
     out_.Plain(kEnd);
     Write(word);
+    mayFollow_ = false;
     return;
   }
   for (; inner > 0; --inner) CloseBlock(nullptr);
@@ -298,6 +314,7 @@ void Walk::CloseBlock(const Word* keyword) {
   out_.Plain(kEnd);
   out_.Plain(keyword != nullptr ? keyword->text : element.keyword);
   frames_.pop_back();
+  mayFollow_ = true;
   itemIsBlock_ = false;
   property_ = {};
   phase_ = Phase::Keyword;
@@ -326,6 +343,11 @@ void Walk::ParameterDue(const Word& word) {
   if (mayEnd && IsKeywordHere(word)) {
     phase_ = Phase::Keyword;
     return KeywordDue(word);
+  }
+  if (phase_ == Phase::List && HoldsChild(word)) {
+    const ElementKind child = Item().declaration->parameters.back().childInList;
+    Report(MendRule::UnknownValue, word, Item(), KindToKeyword(child));
+    return OpenProperty(word, child);
   }
   if (word.type == WordType::Text) {
     if (!word.traits.isClosed) Report(MendRule::TextWithoutEnd, word, Item());

@@ -66,6 +66,7 @@ class Walk {
   void ReportOpen(const Element& element);
 
   [[nodiscard]] bool IsKeywordHere(const Word& word) const;
+  [[nodiscard]] bool HoldsChild(const Word& word);
   [[nodiscard]] const detail::Declaration& OpenDeclaration() const;
   [[nodiscard]] const Element& OpenElement() const;
   /// What the parameters belong to.
@@ -84,6 +85,8 @@ class Walk {
   std::vector<Frame> frames_;
   Phase phase_ = Phase::Keyword;
   bool itemIsBlock_ = false;
+  /// The last line is one on which the converter drops what is more than it needs.
+  bool mayFollow_ = false;
   Element property_;
   std::size_t index_ = 0;      // of the parameter
   std::size_t parameter_ = 0;  // in the declaration
