@@ -24,9 +24,7 @@ struct KeptFinding {
 
   /// "same-line@3:14"
   [[nodiscard]] std::string Short() const;
-  [[nodiscard]] bool IsMendable() const {
-    return RowOf(rule).outcome != MendOutcome::Unmendable;
-  }
+  [[nodiscard]] bool IsMendable() const { return RowOf(rule).outcome != MendOutcome::Unmendable; }
 };
 
 struct MendRun {

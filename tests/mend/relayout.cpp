@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/mend/relayout.h"
 
+#include <algorithm>
 #include <cstddef>
-#include <vector>
 
 namespace a2l::test {
 namespace {
@@ -11,52 +11,43 @@ constexpr std::string_view kWhite = " \t\r\n\v\f";
 
 bool IsWhite(char c) { return kWhite.find(c) != std::string_view::npos; }
 
-// Words and texts; comments go.
-std::vector<std::string_view> WordsOf(std::string_view text) {
-  std::vector<std::string_view> words;
-  std::size_t i = 0;
-  while (i < text.size()) {
-    const std::string_view rest = text.substr(i);
-    if (IsWhite(rest[0])) {
-      ++i;
-    } else if (rest.starts_with("//")) {
-      i = std::min(text.find('\n', i), text.size());
-    } else if (rest.starts_with("/*")) {
-      i = std::min(text.find("*/", i + 2), text.size() - 2) + 2;
-    } else {
-      std::size_t end = i + 1;
-      if (rest[0] == '"') {
-        while (end < text.size()) {
-          if (text[end] == '\\') {
-            end += 2;
-          } else if (text[end] != '"') {
-            ++end;
-          } else if (end + 1 < text.size() && text[end + 1] == '"') {
-            end += 2;
-          } else {
-            ++end;
-            break;
-          }
-        }
-      } else {
-        while (end < text.size() && !IsWhite(text[end]) && !text.substr(end).starts_with("//") &&
-               !text.substr(end).starts_with("/*")) {
-          ++end;
-        }
-      }
-      end = std::min(end, text.size());
-      words.push_back(text.substr(i, end - i));
-      i = end;
+std::size_t EndOfText(std::string_view text, std::size_t begin) {
+  std::size_t end = begin + 1;
+  while (end < text.size()) {
+    if (text[end] == '\\' || text.substr(end).starts_with("\"\"")) {
+      end += 2;
+    } else if (text[end++] == '"') {
+      break;
     }
   }
-  return words;
+  return std::min(end, text.size());
+}
+
+std::size_t EndOfWord(std::string_view text, std::size_t begin) {
+  std::size_t end = begin + 1;
+  while (end < text.size() && !IsWhite(text[end]) && !text.substr(end).starts_with("//") &&
+         !text.substr(end).starts_with("/*")) {
+    ++end;
+  }
+  return end;
 }
 
 std::string Separator(std::size_t style, Random& random) {
-  static const std::vector<std::string> kMixed = {" ",      "  ",   "\t",      "\n",
-                                                  "\r\n",   " \t ", "\n\t",    "\n  ",
-                                                  " /* a comment */ ", "/**/", " // to the end\n",
-                                                  "/* over\nlines */", "// \"quote\n", "\n\n", "\f"};
+  static const std::vector<std::string> kMixed = {" ",
+                                                  "  ",
+                                                  "\t",
+                                                  "\n",
+                                                  "\r\n",
+                                                  " \t ",
+                                                  "\n\t",
+                                                  "\n  ",
+                                                  " /* a comment */ ",
+                                                  "/**/",
+                                                  " // to the end\n",
+                                                  "/* over\nlines */",
+                                                  "// \"quote\n",
+                                                  "\n\n",
+                                                  "\f"};
   switch (style) {
     case 0:
       return " ";
@@ -76,6 +67,26 @@ std::string Separator(std::size_t style, Random& random) {
 }
 
 }  // namespace
+
+std::vector<std::string_view> WordsOf(std::string_view text) {
+  std::vector<std::string_view> words;
+  std::size_t i = 0;
+  while (i < text.size()) {
+    const std::string_view rest = text.substr(i);
+    if (IsWhite(rest[0])) {
+      ++i;
+    } else if (rest.starts_with("//")) {
+      i = std::min(text.find('\n', i), text.size());
+    } else if (rest.starts_with("/*")) {
+      i = std::min(text.find("*/", i + 2), text.size() - 2) + 2;
+    } else {
+      const std::size_t end = rest[0] == '"' ? EndOfText(text, i) : EndOfWord(text, i);
+      words.push_back(text.substr(i, end - i));
+      i = end;
+    }
+  }
+  return words;
+}
 
 std::string LaidOutAnew(std::string_view text, Random& random) {
   const std::size_t style = random.Below(8);

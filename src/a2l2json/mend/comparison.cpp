@@ -30,7 +30,10 @@ MendRule RuleOf(Why why) {
 }  // namespace
 
 Comparison::Comparison(const Source& main, bool isReadable, Reporter& reporter)
-    : text_(main.text), name_(main.name), isReadable_(isReadable), reporter_(reporter),
+    : text_(main.text),
+      name_(main.name),
+      isReadable_(isReadable),
+      reporter_(reporter),
       rules_(main.text) {
   if (isReadable_) next_ = rules_.Next();
 }

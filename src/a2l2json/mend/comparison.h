@@ -66,7 +66,8 @@ class Comparison {
   void ReadEnds(const Word& word, MendRule rule);
   void Report(MendRule rule, const Word& word, const Element& owner);
   void ReportPlace(MendRule rule, const LineWord& found, const Element& owner);
-  [[nodiscard]] MendRule RuleFor(const Word& word, const LineWord& found, LineWord::Role role) const;
+  [[nodiscard]] MendRule RuleFor(const Word& word, const LineWord& found,
+                                 LineWord::Role role) const;
   [[nodiscard]] bool IsCompared(const Word& word) const {
     return isReadable_ && !isInterrupted_ && word.isInMain;
   }

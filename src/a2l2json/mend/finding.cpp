@@ -11,7 +11,8 @@ void AppendShort(std::string& text, std::string_view word) {
   constexpr std::size_t kMost = 60;
   std::size_t size = std::min(word.size(), kMost);
   // Not in the middle of a character of UTF-8.
-  while (size < word.size() && size > 0 && (static_cast<unsigned char>(word[size]) & 0xC0U) == 0x80U)
+  while (size < word.size() && size > 0 &&
+         (static_cast<unsigned char>(word[size]) & 0xC0U) == 0x80U)
     --size;
   for (const char c : word.substr(0, size)) {
     text += static_cast<unsigned char>(c) < ' ' || c == '\x7F' ? ' ' : c;

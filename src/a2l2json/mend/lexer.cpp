@@ -152,7 +152,8 @@ bool Lexer::FollowInclude(Word& word) {
   if (!name.empty()) {
     if (Open(word, name, problem, detail)) return true;
     // A name without quotes may have blanks in it.
-    if (problem == MendRule::IncludeMissing && !rest.starts_with('"') && line.size() > name.size()) {
+    if (problem == MendRule::IncludeMissing && !rest.starts_with('"') &&
+        line.size() > name.size()) {
       std::string ignored;
       const std::size_t position = source.position;
       source.position += line.size() - name.size();

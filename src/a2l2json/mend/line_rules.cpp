@@ -313,7 +313,8 @@ void LineRules::EndOfFixed() {
   if (declaration_->HasRows()) {
     const auto columns = static_cast<std::uint32_t>(declaration_->columns.size());
     const std::uint32_t needed = rows_ * columns;
-    const bool isNegative = needed > static_cast<std::uint32_t>(std::numeric_limits<std::int32_t>::max());
+    const bool isNegative =
+        needed > static_cast<std::uint32_t>(std::numeric_limits<std::int32_t>::max());
     rowsFillLine_ = isNegative || std::uint64_t{rows_} * columns != needed;
     if (rowsFillLine_ || needed > 0) {
       state_ = State::Rows;
@@ -327,8 +328,7 @@ void LineRules::EndOfFixed() {
 
 void LineRules::EndOfPiece() {
   task_ = Task::NextPiece;
-  const bool isFullLine =
-      state_ == State::List && onKeywordPiece_ && index_ >= kOpenParameterList;
+  const bool isFullLine = state_ == State::List && onKeywordPiece_ && index_ >= kOpenParameterList;
   const bool isFullTable = state_ == State::Rows && rowsFillLine_ && index_ >= needed_;
   if (isFullLine || isFullTable) Close();
 }

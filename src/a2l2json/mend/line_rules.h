@@ -31,7 +31,13 @@ struct LineWord {
     ReadEnds,  ///< an error; nothing more is read
   };
   /// Where a word stands that is dropped.
-  enum class Why : std::uint8_t { BehindParameters, BeforeBegin, BeforeEnd, BehindEnd, UnknownLine };
+  enum class Why : std::uint8_t {
+    BehindParameters,
+    BeforeBegin,
+    BeforeEnd,
+    BehindEnd,
+    UnknownLine
+  };
 
   Role role = Role::Nothing;
   Why why = Why::BehindParameters;

@@ -49,8 +49,8 @@ void SkipWhite(Source& source) {
 
 bool SkipComment(Source& source) {
   if (source.text[source.position + 1] == '/') {
-    source.position = std::min(source.text.find(source.lineEnd, source.position),
-                               source.text.size());
+    source.position =
+        std::min(source.text.find(source.lineEnd, source.position), source.text.size());
     return true;
   }
   for (source.position += 2; !source.AtEnd(); ++source.position) {

@@ -152,8 +152,8 @@ std::optional<ValueTrouble> CheckReal(std::string_view word) {
   const Number number = Split(word);
   const bool isShort = number.digits.size() + number.rest.size() < 16;
   if (isShort && !number.isHex && !number.digits.empty() &&
-      (number.rest.empty() || (number.rest[0] == '.' && SkipDigits(number.rest, 1, false) ==
-                                                            number.rest.size()))) {
+      (number.rest.empty() ||
+       (number.rest[0] == '.' && SkipDigits(number.rest, 1, false) == number.rest.size()))) {
     return {};
   }
   const Converted<double> read = ReadReal(word);

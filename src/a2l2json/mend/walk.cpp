@@ -50,7 +50,10 @@ Element ElementAt(const Word& word, ElementKind kind) {
 }  // namespace
 
 Walk::Walk(Lexer& lexer, Comparison& comparison, Reporter& reporter, const MendOptions& options)
-    : lexer_(lexer), comparison_(comparison), reporter_(reporter), options_(options),
+    : lexer_(lexer),
+      comparison_(comparison),
+      reporter_(reporter),
+      options_(options),
       out_(lexer.Main().text.size()) {
   root_.declaration = DeclarationOf(KIND_ROOT);
 }
