@@ -32,7 +32,7 @@ function(a2l2json_archive name output)
 endfunction()
 
 a2l2json_archive(a2l2json_library a2l2json a2l2json_text a2l2json_model a2l2json_elements
-                 a2l2json_reader a2l2json_export)
+                 a2l2json_mend a2l2json_reader a2l2json_export)
 add_library(a2l2json::a2l2json ALIAS a2l2json_library)
 set_target_properties(a2l2json_library PROPERTIES EXPORT_NAME a2l2json)
 

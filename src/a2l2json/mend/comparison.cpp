@@ -29,12 +29,9 @@ MendRule RuleOf(Why why) {
 
 }  // namespace
 
-Comparison::Comparison(const Source& main, bool isReadable, Reporter& reporter)
-    : text_(main.text),
-      name_(main.name),
-      isReadable_(isReadable),
-      reporter_(reporter),
-      rules_(main.text) {
+Comparison::Comparison(std::string_view text, std::string_view name, bool isReadable,
+                       Reporter& reporter)
+    : text_(text), name_(name), isReadable_(isReadable), reporter_(reporter), rules_(text) {
   if (isReadable_) next_ = rules_.Next();
 }
 
@@ -96,7 +93,7 @@ bool Comparison::Surplus(const Word& word) {
   if (found.role != Role::Nothing && !reporter_.HasReported(word)) {
     Report(MendRule::Otherwise, word, {});
   }
-  return found.role == Role::Nothing;
+  return false;
 }
 
 void Comparison::RawEnd(const Word& word, Element& element) {
@@ -104,7 +101,8 @@ void Comparison::RawEnd(const Word& word, Element& element) {
     At(word);
     return;
   }
-  for (; next_.begin < word.begin && next_.role != Role::ReadEnds; next_ = rules_.Next()) {
+  for (; next_.begin < word.begin; next_ = rules_.Next()) {
+    if (next_.role == Role::ReadEnds) return ReadEnds(word, MendRule::InterfaceText, element);
     ++lost_;
     if (element.isShifted) continue;
     element.isShifted = true;
@@ -114,13 +112,19 @@ void Comparison::RawEnd(const Word& word, Element& element) {
   End(word, element);
 }
 
+void Comparison::EndOfText(const Word& end) {
+  if (!IsCompared(end)) return;
+  for (; next_.role != Role::Nothing && next_.role != Role::ReadEnds; next_ = rules_.Next()) Skip();
+  if (next_.role == Role::ReadEnds) ReadEnds(end, MendRule::ReadEnds, {});
+}
+
 LineWord Comparison::At(const Word& word, MendRule ifReadEnds) {
   if (!IsCompared(word)) return {};
   for (; next_.begin < word.begin && next_.role != Role::ReadEnds; next_ = rules_.Next()) {
     Skip();
   }
   if (next_.role == Role::ReadEnds && next_.begin < word.end) {
-    ReadEnds(word, next_.begin == word.begin ? ifReadEnds : MendRule::ReadEnds);
+    ReadEnds(word, next_.begin == word.begin ? ifReadEnds : MendRule::ReadEnds, {});
     return {};
   }
   anchor_ = word.begin;
@@ -137,9 +141,9 @@ void Comparison::Skip() {
   if (next_.role != Role::Dropped) ReportPlace(MendRule::Otherwise, next_, {});
 }
 
-void Comparison::ReadEnds(const Word& word, MendRule rule) {
+void Comparison::ReadEnds(const Word& word, MendRule rule, const Element& owner) {
   isInterrupted_ = true;
-  if (!reporter_.HasReported(word)) Report(rule, word, {});
+  if (!reporter_.HasReported(word)) Report(rule, word, owner);
 }
 
 void Comparison::Resume(const Word& word, std::span<const OpenBlock> open) {

@@ -34,7 +34,7 @@ struct Element {
 
 class Comparison {
  public:
-  Comparison(const Source& main, bool isReadable, Reporter& reporter);
+  Comparison(std::string_view text, std::string_view name, bool isReadable, Reporter& reporter);
 
   /// What is lost is counted in values: parameters, and keywords that have none.
   [[nodiscard]] std::size_t LostValues() const { return lost_; }
@@ -54,6 +54,9 @@ class Comparison {
   void InterfaceName(const Word& word, Element& element);
   void RawEnd(const Word& word, Element& element);
 
+  /// The end of the file; `end` has no bytes.
+  void EndOfText(const Word& end);
+
   /// Behind an error of the converter: goes on as if there had been none, if `word` begins a line.
   void Resume(const Word& word, std::span<const OpenBlock> open);
   /// The converter ends here, which has been reported.
@@ -63,7 +66,7 @@ class Comparison {
  private:
   LineWord At(const Word& word, MendRule ifReadEnds = MendRule::ReadEnds);
   void Skip();
-  void ReadEnds(const Word& word, MendRule rule);
+  void ReadEnds(const Word& word, MendRule rule, const Element& owner);
   void Report(MendRule rule, const Word& word, const Element& owner);
   void ReportPlace(MendRule rule, const LineWord& found, const Element& owner);
   [[nodiscard]] MendRule RuleFor(const Word& word, const LineWord& found,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "a2l2json/mend/encodings.h"
 
+#include <algorithm>
 #include <cstddef>
 
 namespace a2l::mending {
@@ -65,6 +66,14 @@ std::string Utf8Of(std::string_view bytes, Encoding encoding) {
   }
   if (i < bytes.size()) AppendUtf8(text, kReplacement);
   return text;
+}
+
+bool MakeLineFeeds(std::string_view text, std::string& changed) {
+  if (text.find('\n') != std::string_view::npos) return false;
+  if (text.find('\r') == std::string_view::npos) return false;
+  changed = text;
+  std::ranges::replace(changed, '\r', '\n');
+  return true;
 }
 
 }  // namespace a2l::mending

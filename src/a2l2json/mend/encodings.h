@@ -26,4 +26,8 @@ enum class Encoding : std::uint8_t {
 /// become the replacement character.
 [[nodiscard]] std::string Utf8Of(std::string_view bytes, Encoding encoding);
 
+/// Carriage returns as line feeds, where there is no line feed: the lines of such a text end in
+/// them. Gives false, and changes nothing, where there is one, or no carriage return.
+bool MakeLineFeeds(std::string_view text, std::string& changed);
+
 }  // namespace a2l::mending

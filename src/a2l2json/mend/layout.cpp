@@ -10,13 +10,12 @@ bool BeginsMarker(std::string_view rest) {
 
 }  // namespace
 
-// White space around a line end becomes one blank, a marker gets a blank behind its slash, and a
-// quote that closes, or is doubled, one before it where a backslash stands there.
-void Layout::AppendMended(std::string_view text, const TextTraits& traits) {
+std::string MendedText(std::string_view text, const TextTraits& traits) {
+  std::string mended;
   if (!traits.isClosed) {
     while (text.size() > 1 && IsWhite(text.back())) text.remove_suffix(1);
   }
-  text_ += text.front();
+  mended += text.front();
   std::size_t backslashes = 0;
   std::size_t i = 1;
   while (i < text.size()) {
@@ -26,24 +25,25 @@ void Layout::AppendMended(std::string_view text, const TextTraits& traits) {
       bool hasLineEnd = false;
       for (; end < text.size() && IsWhite(text[end]); ++end) hasLineEnd |= text[end] == '\n';
       if (hasLineEnd) {
-        text_ += ' ';
+        mended += ' ';
       } else {
-        text_ += text.substr(i, end - i);
+        mended += text.substr(i, end - i);
       }
       backslashes = 0;
       i = end;
       continue;
     }
-    if (c == '"' && backslashes > 0 && backslashes % 2 == 0) text_ += ' ';
-    text_ += c;
-    if (c == '/' && BeginsMarker(text.substr(i))) text_ += ' ';
+    if (c == '"' && backslashes > 0 && backslashes % 2 == 0) mended += ' ';
+    mended += c;
+    if (c == '/' && BeginsMarker(text.substr(i))) mended += ' ';
     backslashes = c == '\\' ? backslashes + 1 : 0;
     ++i;
   }
   if (!traits.isClosed) {
-    if (backslashes > 0) text_ += ' ';
-    text_ += '"';
+    if (backslashes > 0) mended += ' ';
+    mended += '"';
   }
+  return mended;
 }
 
 }  // namespace a2l::mending

@@ -13,6 +13,11 @@
 
 namespace a2l::mending {
 
+/// A text with its quotes, in the form in which the converter can read it: white space around a
+/// line end is one blank, a marker has a blank behind its slash, and a quote that closes, or is
+/// doubled, one before it where a backslash stands there.
+[[nodiscard]] std::string MendedText(std::string_view text, const TextTraits& traits);
+
 class Layout {
  public:
   /// Makes room for what a text of `size` bytes is likely to become.
@@ -48,7 +53,7 @@ class Layout {
     if (traits.IsPlain()) {
       text_ += text;
     } else {
-      AppendMended(text, traits);
+      text_ += MendedText(text, traits);
     }
   }
 
@@ -74,7 +79,6 @@ class Layout {
     if (!lineIsEmpty_) text_ += ' ';
     lineIsEmpty_ = false;
   }
-  void AppendMended(std::string_view text, const TextTraits& traits);
 
   std::string text_;
   std::size_t level_ = 0;

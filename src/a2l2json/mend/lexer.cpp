@@ -199,6 +199,8 @@ bool Lexer::Push(const Word& word, std::string_view name, IncludedFile file) {
   }
   const Encoding encoding = EncodingOf(file.bytes);
   if (encoding != Encoding::Bytes) file.bytes = Utf8Of(file.bytes, encoding);
+  std::string changed;
+  if (MakeLineFeeds(file.bytes, changed)) file.bytes = std::move(changed);
   const std::string& path = kept_.emplace_back(std::move(file.path));
   const std::string& bytes = kept_.emplace_back(std::move(file.bytes));
   Source source = MakeSource(bytes, path, path);

@@ -60,7 +60,7 @@ void LineRules::Step() {
 
 void LineRules::NextLine() {
   if (!lines_.Next()) {
-    if (lines_.CommentIsOpen()) return Fail(lines_.Position());
+    if (lines_.CommentIsOpen()) return Fail(lines_.Begin());
     isOver_ = true;
     return;
   }

@@ -47,6 +47,7 @@ bool LogicalLines::NextPhysical(std::string_view& line) {
 }
 
 bool LogicalLines::Next() {
+  begin_ = next_;
   if (!NextPhysical(line_)) return false;
   if (!MayHoldComment(line_)) {
     pieces_.clear();

@@ -29,8 +29,8 @@ class LogicalLines {
   [[nodiscard]] std::size_t EndOf(std::size_t offset) const { return PositionOf(offset - 1) + 1; }
 
   [[nodiscard]] bool CommentIsOpen() const { return commentIsOpen_; }
-  /// The end of what has been handed out.
-  [[nodiscard]] std::size_t Position() const { return next_; }
+  /// Where the line begins in the text; also of one that is not handed out for an open comment.
+  [[nodiscard]] std::size_t Begin() const { return begin_; }
 
  private:
   /// From `offset` of the joined line on, its bytes are those from `position` of the text on.
@@ -49,6 +49,7 @@ class LogicalLines {
 
   std::string_view text_;
   std::size_t next_ = 0;
+  std::size_t begin_ = 0;
   std::string_view line_;
   std::string joined_;
   std::vector<Piece> pieces_;

@@ -24,11 +24,18 @@ Mended Mend(std::string_view text, const MendOptions& options) {
     reporter.Report(finding);
   }
   const std::size_t start = text.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0;
-  Lexer lexer(text, start, options, reporter);
-  Comparison comparison(lexer.Main(), isReadable, reporter);
+  // What the lines are to the converter must be asked of the text as it is.
+  std::string withLineFeeds;
+  const bool isChanged = MakeLineFeeds(text, withLineFeeds);
+  Lexer lexer(isChanged ? withLineFeeds : text, start, options, reporter);
+  Comparison comparison(text, options.name, isReadable, reporter);
   Walk walk(lexer, comparison, reporter, options);
   Mended result;
   result.text = walk.Run();
+  // What is no word of any A2L file must not be taken for a mark of an encoding.
+  const bool looksMarked =
+      result.text.starts_with(kByteOrderMark) || EncodingOf(result.text) != Encoding::Bytes;
+  if (looksMarked) result.text.insert(0, 2, '\n');
   result.lostValues = comparison.LostValues();
   result.lost = reporter.Count(MendOutcome::Lost);
   result.mended = reporter.Count(MendOutcome::Mended);

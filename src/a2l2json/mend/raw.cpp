@@ -13,6 +13,13 @@ std::string_view KeywordBehind(std::string_view rest) {
   return rest.substr(begin, end - begin);
 }
 
+// Whether a comment begins on the rest of the line, or what looks like one.
+bool CommentFollows(const Source& source) {
+  const std::string_view rest = source.Rest();
+  const std::string_view line = rest.substr(0, rest.find('\n'));
+  return line.find("//") != std::string_view::npos || line.find("/*") != std::string_view::npos;
+}
+
 }  // namespace
 
 Word RawText::CopyToEnd() {
@@ -29,7 +36,7 @@ void RawText::SkipToContent() {
   Source& source = lexer_.Top();
   bool isNewLine = false;
   for (; !source.AtEnd() && IsWhite(source.text[source.position]); ++source.position) {
-    if (source.text[source.position] != source.lineEnd) continue;
+    if (source.text[source.position] != '\n') continue;
     source.EndLine();
     isNewLine = true;
   }
@@ -58,7 +65,7 @@ void RawText::SkipToEnd() {
     } else {
       if (rest.starts_with(kBegin)) inner_.push_back(KeywordBehind(rest));
       if (rest.starts_with(kEnd)) inner_.pop_back();
-      if (c == source.lineEnd) {
+      if (c == '\n') {
         source.EndLine();
       } else if (!IsWhite(c)) {
         source.atLineStart = false;
@@ -82,14 +89,33 @@ void RawText::CloseInner() {
 void RawText::Text() {
   Source& source = lexer_.Top();
   Word word = lexer_.Here(WordType::Text);
-  word.traits = SkipText(source);
-  if (!word.traits.hasMarker) return;
+  word.traits = SkipText(source, keyword_);
   word.text = source.text.substr(word.begin, source.position - word.begin);
+  if (!word.traits.isClosed && source.AtEnd()) {
+    // What is written behind the end of the file must not get into the text.
+    Rewrite(word, MendRule::TextWithoutEnd);
+  } else if (word.traits.hasComment || (word.traits.hasLineEnd && CommentFollows(source))) {
+    // On the lines in which a text goes on, the converter takes comments out of it, and none behind
+    // it.
+    Rewrite(word, MendRule::TextComment);
+  } else if (word.traits.hasMarker) {
+    PartMarkers(word);
+  }
+}
+
+void RawText::Rewrite(const Word& word, MendRule rule) {
+  reporter_.Report(FindingAt(rule, word));
+  Copy(word.begin);
+  Append(MendedText(word.text, word.traits));
+  begin_ = lexer_.Top().position;
+}
+
+void RawText::PartMarkers(const Word& word) {
   reporter_.Report(FindingAt(MendRule::TextMarker, word));
-  for (std::size_t i = word.begin; i < source.position; ++i) {
-    const std::string_view rest = source.text.substr(i, kBegin.size());
+  for (std::size_t i = 0; i < word.text.size(); ++i) {
+    const std::string_view rest = word.text.substr(i, kBegin.size());
     if (!rest.starts_with(kBegin) && !rest.starts_with(kEnd)) continue;
-    Copy(i + 1);
+    Copy(word.begin + i + 1);
     out_.Raw(" ");
   }
 }
@@ -124,11 +150,14 @@ void RawText::Include() {
 
 void RawText::Copy(std::size_t end) {
   if (begin_ == end) return;
-  const std::string_view bytes = lexer_.Top().text.substr(begin_, end - begin_);
-  if (isFirst_ && bytes.front() != ' ') out_.Raw(" ");
+  Append(lexer_.Top().text.substr(begin_, end - begin_));
+  begin_ = end;
+}
+
+void RawText::Append(std::string_view bytes) {
+  if (isFirst_ && !bytes.starts_with(' ')) out_.Raw(" ");
   isFirst_ = false;
   out_.Raw(bytes);
-  begin_ = end;
 }
 
 }  // namespace a2l::mending

@@ -17,8 +17,9 @@ namespace a2l::mending {
 
 class RawText {
  public:
-  RawText(Lexer& lexer, Layout& out, Reporter& reporter)
-      : lexer_(lexer), out_(out), reporter_(reporter) {}
+  /// For the block of `keyword`.
+  RawText(std::string_view keyword, Lexer& lexer, Layout& out, Reporter& reporter)
+      : keyword_(keyword), lexer_(lexer), out_(out), reporter_(reporter) {}
 
   /// Copies what follows, up to the /end that closes the block, and gives that; or the end of the
   /// input.
@@ -29,11 +30,15 @@ class RawText {
   void SkipToEnd();
   void CloseInner();
   void Text();
+  void Rewrite(const Word& word, MendRule rule);
+  void PartMarkers(const Word& word);
   void Comment();
   void Include();
   /// What has been read and not copied.
   void Copy(std::size_t end);
+  void Append(std::string_view bytes);
 
+  std::string_view keyword_;
   Lexer& lexer_;
   Layout& out_;
   Reporter& reporter_;

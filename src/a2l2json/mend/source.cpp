@@ -11,7 +11,7 @@ namespace {
 constexpr std::size_t kNone = std::string_view::npos;
 
 // True where a line begins with a marker and the keyword of a block, which no text would.
-bool BeginsWithBlock(std::string_view line) {
+bool BeginsWithBlock(std::string_view line, std::string_view keyword) {
   std::size_t i = 0;
   while (i < line.size() && (line[i] == ' ' || line[i] == '\t')) ++i;
   line.remove_prefix(i);
@@ -23,10 +23,12 @@ bool BeginsWithBlock(std::string_view line) {
   std::size_t end = begin;
   // No keyword is as long.
   while (end < line.size() && end - begin < 64 && !IsWhite(line[end]) && line[end] != '/') ++end;
-  return begin > 0 && IsBlock(KeywordToKind(line.substr(begin, end - begin)));
+  if (begin == 0) return false;
+  const bool isGiven = !keyword.empty() && line.substr(begin).starts_with(keyword);
+  return isGiven || IsBlock(KeywordToKind(line.substr(begin, end - begin)));
 }
 
-bool IsMarkedByte(char c) { return c == '"' || c == '\\' || c == '/' || c == '\n' || c == '\r'; }
+bool IsMarkedByte(char c) { return c == '"' || c == '\\' || c == '/' || c == '\n'; }
 
 }  // namespace
 
@@ -35,14 +37,12 @@ Source MakeSource(std::string_view text, std::string_view name, std::string_view
   source.text = text;
   source.name = name;
   source.path = path;
-  const bool hasNoLineFeed = text.find('\n') == kNone;
-  if (hasNoLineFeed && text.find('\r') != kNone) source.lineEnd = '\r';
   return source;
 }
 
 void SkipWhite(Source& source) {
   while (!source.AtEnd() && IsWhite(source.text[source.position])) {
-    if (source.text[source.position] == source.lineEnd) source.EndLine();
+    if (source.text[source.position] == '\n') source.EndLine();
     ++source.position;
   }
 }
@@ -50,7 +50,7 @@ void SkipWhite(Source& source) {
 bool SkipComment(Source& source) {
   if (source.text[source.position + 1] == '/') {
     source.position =
-        std::min(source.text.find(source.lineEnd, source.position), source.text.size());
+        std::min(source.text.find('\n', source.position), source.text.size());
     return true;
   }
   for (source.position += 2; !source.AtEnd(); ++source.position) {
@@ -59,7 +59,7 @@ bool SkipComment(Source& source) {
       source.position += 2;
       return true;
     }
-    if (c == source.lineEnd) {
+    if (c == '\n') {
       // What follows the comment joins the line that it began on.
       const bool atLineStart = source.atLineStart;
       source.EndLine();
@@ -69,7 +69,7 @@ bool SkipComment(Source& source) {
   return false;
 }
 
-TextTraits SkipText(Source& source) {
+TextTraits SkipText(Source& source, std::string_view keyword) {
   TextTraits traits;
   source.atLineStart = false;
   const std::string_view text = source.text;
@@ -105,8 +105,8 @@ TextTraits SkipText(Source& source) {
       }
       ++i;
     } else {
-      if (c == source.lineEnd) {
-        if (BeginsWithBlock(text.substr(i + 1))) {
+      if (c == '\n') {
+        if (BeginsWithBlock(text.substr(i + 1), keyword)) {
           traits.isClosed = false;
           return traits;
         }

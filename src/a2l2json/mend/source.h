@@ -27,8 +27,6 @@ struct Source {
   std::size_t lineStart = 0;
   /// True until the first word of the line has been taken.
   bool atLineStart = true;
-  /// The byte that ends a line: a line feed, or a carriage return in a file without any.
-  char lineEnd = '\n';
   /// True for the file itself, as against one that it includes.
   bool isMain = false;
 
@@ -38,7 +36,7 @@ struct Source {
     return text[position] == '/' && position + 1 < text.size() &&
            (text[position + 1] == '/' || text[position + 1] == '*');
   }
-  /// To be called at the byte that ends a line.
+  /// To be called at a line feed.
   void EndLine() {
     ++line;
     lineStart = position + 1;
@@ -76,8 +74,8 @@ struct TextTraits {
 };
 
 /// Moves behind the text whose opening quote is here. A text that would take in a line that begins
-/// with /begin or /end and the keyword of a block ends before that line, and is not closed; so is
-/// one that goes on to the end of the file.
-TextTraits SkipText(Source& source);
+/// with /begin or /end and the keyword of a block, or the one given, ends before that line, and is
+/// not closed; so is one that goes on to the end of the file.
+TextTraits SkipText(Source& source, std::string_view keyword = {});
 
 }  // namespace a2l::mending

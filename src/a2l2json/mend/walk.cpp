@@ -72,7 +72,7 @@ std::string Walk::Run() {
         MissingInclude(word);
         break;
       case WordType::EndOfInput:
-        EndOfInput();
+        EndOfInput(word);
         return out_.Take();
       case WordType::Plain:
       case WordType::Text:
@@ -135,7 +135,7 @@ bool Walk::HoldsChild(const Word& word) {
 
 void Walk::BeginMarker(const Word& marker) {
   FinishItem(marker);
-  Word word = Next();
+  const Word word = lexer_.Next();
   if (word.type != WordType::Plain && word.type != WordType::Text) {
     return BadMarker(marker, word, MendRule::BeginRefused);
   }
@@ -166,6 +166,10 @@ void Walk::BadMarker(const Word& marker, const Word& word, MendRule rule) {
 void Walk::OpenBlock(const Word& word, ElementKind kind) {
   const std::size_t level = frames_.size();
   Element element = ElementAt(word, kind);
+  if (word.type == WordType::Text) {
+    // It makes no sense, but it must look the same at the other end.
+    element.keyword = kept_.emplace_back(MendedText(word.text, word.traits));
+  }
   if (kind == KIND_UNKNOWN) {
     Report(MendRule::UnknownBlock, word, OpenElement());
   } else if (!OpenDeclaration().accepts.Contains(kind)) {
@@ -175,7 +179,7 @@ void Walk::OpenBlock(const Word& word, ElementKind kind) {
   }
   if (!frames_.empty()) frames_.back().seen = frames_.back().seen.With(kind);
   comparison_.Keyword(word, Role::Begin, OpenElement(), element);
-  mayFollow_ = true;
+  mayFollow_ = OpenDeclaration().accepts.Contains(kind) && !comparison_.IsInterrupted();
   frames_.push_back({element, {}});
   out_.BeginLine(level);
   out_.Plain(kBegin);
@@ -197,7 +201,7 @@ void Walk::OpenProperty(const Word& word, ElementKind kind) {
     seen = seen.With(kind);
   }
   comparison_.Keyword(word, Role::Property, OpenElement(), property_);
-  mayFollow_ = true;
+  mayFollow_ = !comparison_.IsInterrupted();
   itemIsBlock_ = false;
   out_.BeginLine(frames_.size());
   Write(word);
@@ -221,6 +225,7 @@ void Walk::KeywordDue(const Word& word) {
     // The finding comes with the parameter, if there is one.
     Report(MendRule::Encoding, word, OpenElement());
     comparison_.Surplus(word);
+    behindEncoding_ = phase_;
     phase_ = Phase::Encoding;
   } else if (IsProperty(kind) && OpenDeclaration().accepts.Contains(kind)) {
     OpenProperty(word, kind);
@@ -263,7 +268,7 @@ void Walk::MissingInclude(const Word& word) {
 void Walk::EndMarker(const Word& marker) {
   const bool isRaw = !frames_.empty() && frames_.back().element.declaration->KeepsRawText();
   FinishItem(marker);
-  const Word word = Next();
+  const Word word = lexer_.Next();
   if (word.type != WordType::Plain && word.type != WordType::Text) {
     return BadMarker(marker, word, MendRule::EndUnmatched);
   }
@@ -274,10 +279,13 @@ void Walk::EndMarker(const Word& marker) {
   if (inner == most) {
     Report(MendRule::EndUnmatched, word, OpenElement());
     comparison_.Surplus(word);
-    if (isRaw) return CloseBlock(&word);
-    out_.BeginLine(frames_.size());
-    out_.Plain(kEnd);
-    Write(word);
+    if (isRaw) {
+      CloseBlock(&word);
+    } else {
+      out_.BeginLine(frames_.size());
+      out_.Plain(kEnd);
+      Write(word);
+    }
     mayFollow_ = false;
     return;
   }
@@ -305,7 +313,7 @@ void Walk::CopyRaw() {
       lexer_.Return(name);
     }
   }
-  const Word marker = RawText(lexer_, out_, reporter_).CopyToEnd();
+  const Word marker = RawText(element.keyword, lexer_, out_, reporter_).CopyToEnd();
   if (marker.type == WordType::End) return EndMarker(marker);
   returned_ = marker;
 }
@@ -315,20 +323,23 @@ void Walk::CloseBlock(const Word* keyword) {
   if (keyword == nullptr) ReportOpen(element);
   out_.BeginLine(frames_.size() - 1);
   out_.Plain(kEnd);
-  out_.Plain(keyword != nullptr ? keyword->text : element.keyword);
+  if (keyword != nullptr) {
+    Write(*keyword);
+  } else {
+    out_.Plain(element.keyword);
+  }
   frames_.pop_back();
-  mayFollow_ = true;
+  mayFollow_ = !comparison_.IsInterrupted();
   itemIsBlock_ = false;
   property_ = {};
   phase_ = Phase::Keyword;
 }
 
-void Walk::EndOfInput() {
-  Word end;
-  end.file = lexer_.Main().name;
-  end.line = lexer_.Main().line;
+void Walk::EndOfInput(const Word& word) {
+  Word end = word;
   end.text = "the end of the file";
   FinishItem(end);
+  comparison_.EndOfText(end);
   while (!frames_.empty()) CloseBlock(nullptr);
 }
 
@@ -337,7 +348,7 @@ void Walk::EndOfInput() {
 
 void Walk::ParameterDue(const Word& word) {
   if (phase_ == Phase::Encoding) {
-    phase_ = Phase::Keyword;
+    phase_ = behindEncoding_;
     if (IsKeywordHere(word)) return KeywordDue(word);
     comparison_.Surplus(word);
     return;

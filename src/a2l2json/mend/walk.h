@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -41,7 +42,7 @@ class Walk {
   Word Next();
   void BeginMarker(const Word& marker);
   void EndMarker(const Word& marker);
-  void EndOfInput();
+  void EndOfInput(const Word& word);
   void MissingInclude(const Word& word);
 
   void KeywordDue(const Word& word);
@@ -79,11 +80,13 @@ class Walk {
   const MendOptions& options_;
   Layout out_;
   std::optional<Word> returned_;
+  std::deque<std::string> kept_;
   std::size_t progress_ = 0;
 
   Element root_;
   std::vector<Frame> frames_;
   Phase phase_ = Phase::Keyword;
+  Phase behindEncoding_ = Phase::Keyword;
   bool itemIsBlock_ = false;
   /// The last line is one on which the converter drops what is more than it needs.
   bool mayFollow_ = false;
