@@ -29,16 +29,16 @@ MendRule RuleOf(Why why) {
 
 }  // namespace
 
-Comparison::Comparison(std::string_view text, std::string_view name, bool isReadable,
+Comparison::Comparison(std::string_view text, std::string_view name, LineEnds lineEnds,
                        Reporter& reporter)
-    : text_(text), name_(name), isReadable_(isReadable), reporter_(reporter), rules_(text) {
-  if (isReadable_) next_ = rules_.Next();
+    : text_(text), name_(name), lineEnds_(lineEnds), reporter_(reporter), rules_(text) {
+  if (IsReadable()) next_ = rules_.Next();
 }
 
 void Comparison::Keyword(const Word& word, Role role, const Element& parent, Element& element) {
   const LineWord found = At(word);
-  if (!word.isInMain || !isReadable_ || parent.isLost) {
-    element.isLost = !word.isInMain || !isReadable_ || parent.isLost;
+  if (!word.isInMain || !IsReadable() || parent.isLost) {
+    element.isLost = !word.isInMain || !IsReadable() || parent.isLost;
   } else if (!isInterrupted_) {
     element.isLost = found.role != role || found.kind != element.kind ||
                      found.owner != parent.begin || found.end != word.end;
@@ -143,7 +143,11 @@ void Comparison::Skip() {
 
 void Comparison::ReadEnds(const Word& word, MendRule rule, const Element& owner) {
   isInterrupted_ = true;
-  if (!reporter_.HasReported(word)) Report(rule, word, owner);
+  if (next_.begin < word.begin) {
+    ReportPlace(rule, next_, owner);
+  } else if (!reporter_.HasReported(word)) {
+    Report(rule, word, owner);
+  }
 }
 
 void Comparison::Resume(const Word& word, std::span<const OpenBlock> open) {
@@ -153,6 +157,7 @@ void Comparison::Resume(const Word& word, std::span<const OpenBlock> open) {
 }
 
 MendRule Comparison::RuleFor(const Word& word, const LineWord& found, Role role) const {
+  if (lineEnds_ == LineEnds::CarriageReturns) return MendRule::LineEnds;
   const auto joinedBy = [](char c) {
     return c == '\t' ? MendRule::Tab : c == '/' ? MendRule::Comment : MendRule::WhiteSpace;
   };
@@ -187,6 +192,7 @@ void Comparison::Report(MendRule rule, const Word& word, const Element& owner) {
 }
 
 void Comparison::ReportPlace(MendRule rule, const LineWord& found, const Element& owner) {
+  if (found.begin < told_) return;
   for (; anchor_ < found.begin; ++anchor_) {
     if (text_[anchor_] != '\n') continue;
     ++anchorLine_;

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <span>
 #include <string_view>
 
@@ -32,9 +33,16 @@ struct Element {
   std::size_t reportedLine = 0;
 };
 
+/// What the lines of a file are to the converter.
+enum class LineEnds : std::uint8_t {
+  LineFeeds,
+  CarriageReturns,  ///< all of it is one line
+  Unreadable,       ///< nothing of it is read
+};
+
 class Comparison {
  public:
-  Comparison(std::string_view text, std::string_view name, bool isReadable, Reporter& reporter);
+  Comparison(std::string_view text, std::string_view name, LineEnds lineEnds, Reporter& reporter);
 
   /// What is lost is counted in values: parameters, and keywords that have none.
   [[nodiscard]] std::size_t LostValues() const { return lost_; }
@@ -57,6 +65,8 @@ class Comparison {
   /// The end of the file; `end` has no bytes.
   void EndOfText(const Word& end);
 
+  /// What the converter makes of the inside of `word` has been told.
+  void SetTold(const Word& word) { told_ = word.isInMain ? word.end : told_; }
   /// Behind an error of the converter: goes on as if there had been none, if `word` begins a line.
   void Resume(const Word& word, std::span<const OpenBlock> open);
   /// The converter ends here, which has been reported.
@@ -71,18 +81,20 @@ class Comparison {
   void ReportPlace(MendRule rule, const LineWord& found, const Element& owner);
   [[nodiscard]] MendRule RuleFor(const Word& word, const LineWord& found,
                                  LineWord::Role role) const;
+  [[nodiscard]] bool IsReadable() const { return lineEnds_ != LineEnds::Unreadable; }
   [[nodiscard]] bool IsCompared(const Word& word) const {
-    return isReadable_ && !isInterrupted_ && word.isInMain;
+    return IsReadable() && !isInterrupted_ && word.isInMain;
   }
 
   std::string_view text_;
   std::string_view name_;
-  bool isReadable_;
+  LineEnds lineEnds_;
   bool isInterrupted_ = false;
   Reporter& reporter_;
   LineRules rules_;
   LineWord next_;
   std::size_t lost_ = 0;
+  std::size_t told_ = 0;  // everything before this place
   // The last place whose line is known.
   std::size_t anchor_ = 0;
   std::size_t anchorLine_ = 1;

@@ -28,7 +28,10 @@ Mended Mend(std::string_view text, const MendOptions& options) {
   std::string withLineFeeds;
   const bool isChanged = MakeLineFeeds(text, withLineFeeds);
   Lexer lexer(isChanged ? withLineFeeds : text, start, options, reporter);
-  Comparison comparison(text, options.name, isReadable, reporter);
+  const LineEnds lineEnds = !isReadable ? LineEnds::Unreadable
+                            : isChanged ? LineEnds::CarriageReturns
+                                        : LineEnds::LineFeeds;
+  Comparison comparison(text, options.name, lineEnds, reporter);
   Walk walk(lexer, comparison, reporter, options);
   Mended result;
   result.text = walk.Run();

@@ -8,8 +8,6 @@
 namespace a2l::mending {
 namespace {
 
-constexpr std::size_t kNone = std::string_view::npos;
-
 // True where a line begins with a marker and the keyword of a block, which no text would.
 bool BeginsWithBlock(std::string_view line, std::string_view keyword) {
   std::size_t i = 0;
@@ -49,8 +47,7 @@ void SkipWhite(Source& source) {
 
 bool SkipComment(Source& source) {
   if (source.text[source.position + 1] == '/') {
-    source.position =
-        std::min(source.text.find('\n', source.position), source.text.size());
+    source.position = std::min(source.text.find('\n', source.position), source.text.size());
     return true;
   }
   for (source.position += 2; !source.AtEnd(); ++source.position) {

@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <limits>
 
-#include "a2l2json/elements/fields.h"
+#include "a2l2json/elements/parameter_text.h"
 #include "a2l2json/text/numbers.h"
 
 namespace a2l::mending {
@@ -78,16 +78,6 @@ std::optional<ValueTrouble> Trouble(MendRule rule, std::string becomes = {}) {
   return ValueTrouble{rule, std::move(becomes)};
 }
 
-std::string Hex(std::uint64_t value) {
-  constexpr std::string_view kDigits = "0123456789ABCDEF";
-  std::string text;
-  do {
-    text.insert(text.begin(), kDigits[value % 16]);
-    value /= 16;
-  } while (value > 0);
-  return "0x" + text;
-}
-
 // What the document has for the bits of an unsigned number in a member without a sign of its own.
 std::string Narrowed(std::uint64_t value) {
   return std::to_string(static_cast<std::int32_t>(static_cast<std::uint32_t>(value)));
@@ -99,13 +89,13 @@ std::optional<ValueTrouble> CheckUnsigned(const Parameter& parameter, const Numb
   constexpr std::uint64_t kMostSigned = std::numeric_limits<std::int32_t>::max();
   const std::uint64_t value = ReadUnsigned64(word).value;
   if (number.isNegative) {
-    if (!parameter.isHex || IsZeros(number.digits)) return {};
-    return Trouble(MendRule::NumberRange, Hex(ReadUnsigned(word).value));
+    // As a pattern of bits, it is the same in the document.
+    return {};
   }
   if (parameter.type == ParameterType::Unsigned64) {
     if (value > kMost32) return Trouble(MendRule::NumberRange, Narrowed(value));
   } else if (value > kMost32) {
-    return Trouble(MendRule::NumberRange, parameter.isHex ? Hex(kMost32) : Narrowed(kMost32));
+    return Trouble(MendRule::NumberRange, std::to_string(kMost32));
   }
   // In hexadecimal digits a number is a pattern of bits, and those are all there.
   if (!parameter.isHex && !number.isHex && value > kMostSigned) {
@@ -167,7 +157,7 @@ std::optional<ValueTrouble> CheckReal(std::string_view word) {
 }
 
 std::optional<ValueTrouble> CheckName(std::string_view word) {
-  if (word.size() > kMostIdentifierBytes) return Trouble(MendRule::NameCut);
+  if (word.size() > detail::kMostIdentifierBytes) return Trouble(MendRule::NameCut);
   if (word.find(',') != std::string_view::npos) return Trouble(MendRule::NameComma);
   return {};
 }
@@ -190,6 +180,7 @@ std::optional<ValueTrouble> CheckValue(ElementKind kind, const Parameter& parame
       return parameter.isDropped ? std::nullopt : CheckName(word);
     case ParameterType::Text:
     case ParameterType::UnquotedText:
+      if (kind == ElementKind::FORMAT && word == R"("")") return Trouble(MendRule::EmptyFormat);
       if (word.starts_with('"')) return {};
       return Trouble(MendRule::TextWithoutQuotes);
     case ParameterType::Unsigned:

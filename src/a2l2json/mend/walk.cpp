@@ -363,16 +363,7 @@ void Walk::ParameterDue(const Word& word) {
     Report(MendRule::UnknownValue, word, Item(), KindToKeyword(child));
     return OpenProperty(word, child);
   }
-  if (word.type == WordType::Text) {
-    if (!word.traits.isClosed) Report(MendRule::TextWithoutEnd, word, Item());
-    if (word.traits.hasMarker) Report(MendRule::TextMarker, word, Item());
-    if (word.traits.hasBackslashQuote) Report(MendRule::TextBackslash, word, Item());
-    if (word.traits.hasComment) {
-      Report(MendRule::TextComment, word, Item());
-    } else if (word.traits.hasUnevenLines && word.isInMain) {
-      Report(MendRule::TextLines, word, Item());
-    }
-  }
+  if (word.type == WordType::Text && !word.traits.IsPlain()) CheckText(word);
   comparison_.Parameter(word, Item(), index_, phase_ == Phase::List);
   switch (phase_) {
     case Phase::Fixed:
@@ -386,6 +377,17 @@ void Walk::ParameterDue(const Word& word) {
   }
   ++index_;
   if (phase_ == Phase::Rows && index_ == rowsEnd_ && !rowsFillLine_) phase_ = Phase::Keyword;
+}
+
+void Walk::CheckText(const Word& word) {
+  const TextTraits& traits = word.traits;
+  const bool isUneven = traits.hasUnevenLines && !traits.hasComment && word.isInMain;
+  if (!traits.isClosed) Report(MendRule::TextWithoutEnd, word, Item());
+  if (traits.hasMarker) Report(MendRule::TextMarker, word, Item());
+  if (traits.hasBackslashQuote) Report(MendRule::TextBackslash, word, Item());
+  if (traits.hasComment) Report(MendRule::TextComment, word, Item());
+  if (isUneven) Report(MendRule::TextLines, word, Item());
+  if (traits.hasMarker || traits.hasComment) comparison_.SetTold(word);
 }
 
 void Walk::FixedParameter(const Word& word) {

@@ -53,6 +53,7 @@ class Walk {
   void BadMarker(const Word& marker, const Word& word, MendRule rule);
 
   void ParameterDue(const Word& word);
+  void CheckText(const Word& word);
   void FixedParameter(const Word& word);
   void RowParameter(const Word& word);
   void ListParameter(const Word& word);
