@@ -262,8 +262,7 @@ TEST(MendEncodings, PassOtherBytes) {
 
 TEST(MendEncodings, ReadFilesWhoseLinesEndInCarriageReturns) {
   Expect({"ASAP2_VERSION 1 71 // old\r/begin PROJECT p \"\"\r/end PROJECT\r",
-          "ASAP2_VERSION 1 71\n/begin PROJECT p \"\"\n/end PROJECT\n",
-          "line-ends@2:8"});
+          "ASAP2_VERSION 1 71\n/begin PROJECT p \"\"\n/end PROJECT\n", "line-ends@2:8"});
 }
 
 // What no layout can mend -----------------------------------------------------------------------

@@ -298,6 +298,8 @@ void LineRules::CollectWord(std::string_view word, std::size_t begin, std::size_
     rows_ = ReadUnsigned(word).value;
   }
   ++index_;
+  // A handle that is no number ends the list, and what follows is not looked at.
+  if (child != KIND_ROOT && !ReadSigned(word).ok) needed_ = index_;
   if (index_ != needed_) return;
   if (state_ == State::Fixed) {
     EndOfFixed();

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+//
+// Files that include others.
+#include <string>
+#include <string_view>
+
+#include <gtest/gtest.h>
+
+#include "a2l2json/mend/mend.h"
+#include "tests/mend/mending.h"
+
+namespace a2l::test {
+namespace {
+
+void Expect(std::string_view text, const Files& files, std::string_view mended,
+            std::string_view findings) {
+  const MendRun run = RunMend(text, files);
+  EXPECT_EQ(run.mended.text, mended) << text;
+  EXPECT_EQ(run.Short(), findings) << text << "\n" << run.Texts();
+}
+
+TEST(MendInclude, PutsTheFileInItsPlace) {
+  Expect("/begin PROJECT p \"\"\n/include \"a.a2l\"\n/end PROJECT\n",
+         {{"a.a2l", "/begin MODULE m \"\"\n/end MODULE\n"}},
+         "/begin PROJECT p \"\"\n  /begin MODULE m \"\"\n  /end MODULE\n/end PROJECT\n",
+         "include@2:1");
+}
+
+TEST(MendInclude, TakesNamesInAllTheirForms) {
+  for (const std::string_view directive :
+       {"/include a.a2l", "/INCLUDE \"a.a2l\"", "/Include\n\"a.a2l\"", "/include\"a.a2l\""}) {
+    Expect(std::string(directive) + " 71", {{"a.a2l", "ASAP2_VERSION 1"}}, "ASAP2_VERSION 1 71\n",
+           "include@1:1");
+  }
+  Expect("/include \"with blank\\and.a2l\"", {{"with blank\\and.a2l", "ASAP2_VERSION 1 71"}},
+         "ASAP2_VERSION 1 71\n", "include@1:1");
+  Expect("/include with blank.a2l  \n", {{"with blank.a2l", "ASAP2_VERSION 1 71"}},
+         "ASAP2_VERSION 1 71\n", "include@1:1");
+}
+
+TEST(MendInclude, IsNoWordThatOnlyBeginsSo) {
+  Expect("/included 1", {{"1", "x"}}, "/included 1\n", "unknown-keyword@1:1");
+}
+
+TEST(MendInclude, GoesOnBehindTheDirective) {
+  Expect("ASAP2_VERSION /include a.a2l 71\n", {{"a.a2l", "1"}}, "ASAP2_VERSION 1 71\n",
+         "include@1:15 same-line@1:30");
+}
+
+TEST(MendInclude, FollowsFilesInFiles) {
+  Expect("/include \"a\"\n", {{"a", "ASAP2_VERSION /include \"b\"\n 71"}, {"b", "1"}},
+         "ASAP2_VERSION 1 71\n", "include@1:1");
+}
+
+TEST(MendInclude, TellsOfFilesThatAreNotThere) {
+  const MendRun run = RunMend("/begin PROJECT p \"\"\n  /include \"a\"\n/end PROJECT\n");
+  EXPECT_EQ(run.mended.text, "/begin PROJECT p \"\"\n  /include \"a\"\n/end PROJECT\n");
+  EXPECT_EQ(run.Texts(),
+            "file.a2l:2:3: cannot be mended: the file a cannot be read: it is not there "
+            "[include-missing]\n");
+}
+
+TEST(MendInclude, EndsCircles) {
+  const Files files = {{"a", "ASAP2_VERSION /include b"}, {"b", "1 /include \"a\" 71"}};
+  const MendRun run = RunMend("/include a", files);
+  EXPECT_EQ(run.mended.text, "ASAP2_VERSION 1 71\n");
+  EXPECT_EQ(run.Texts(),
+            "file.a2l:1:1: lost: /include a is not followed [include]\n"
+            "b:1:3: cannot be mended: the file a includes itself [include-circle]\n");
+  Expect("/include file.a2l", {{"file.a2l", "x"}}, "/include file.a2l\n", "include-circle@1:1");
+}
+
+TEST(MendInclude, EndsFilesThatIncludeOthersManyTimes) {
+  // Sixteen files each of which includes the next one twice would make 65536 of the last.
+  Files files;
+  for (int i = 0; i < 16; ++i) {
+    const std::string next = std::to_string(i + 1);
+    files[std::to_string(i)] = "/include " + next + " /include " + next + "\n";
+  }
+  files["16"] = "ASAP2_VERSION 1 71\n";
+  const MendRun run = RunMend("/include 0", files);
+  EXPECT_EQ(run.findings.back().rule, MendRule::IncludeLimit);
+  EXPECT_LT(run.mended.text.size(), std::size_t{100000});
+}
+
+TEST(MendInclude, PutsInterfaceDataInTheirPlace) {
+  Expect(
+      "/begin PROJECT p \"\"\n/begin MODULE m \"\"\n/begin A2ML\n/include \"x.aml\"\n/end A2ML\n"
+      "/end MODULE\n/end PROJECT\n",
+      {{"x.aml", "block \"IF_DATA\"\n\tstruct {};\n"}},
+      "/begin PROJECT p \"\"\n  /begin MODULE m \"\"\n    /begin A2ML\n block \"IF_DATA\"\n"
+      "\tstruct {};\n    /end A2ML\n  /end MODULE\n/end PROJECT\n",
+      "include@4:1");
+}
+
+TEST(MendInclude, NamesTheFileOfAFinding) {
+  const MendRun run = RunMend("/include a", {{"a", "\n  ASAP2_VERSION x 71"}});
+  EXPECT_EQ(run.Texts(),
+            "file.a2l:1:1: lost: /include a is not followed [include]\n"
+            "a:2:17: cannot be mended: x of ASAP2_VERSION is no number [not-a-number]\n");
+}
+
+TEST(MendInclude, ReadsOtherEncodings) {
+  std::string utf16 = "\xFF\xFE";
+  for (const char c : std::string_view("ASAP2_VERSION 1 71")) utf16 += {c, '\0'};
+  Expect("/include a", {{"a", utf16}}, "ASAP2_VERSION 1 71\n", "include@1:1");
+  Expect("/include a",
+         {{"a",
+           "\xEF\xBB\xBF"
+           "ASAP2_VERSION 1 71"}},
+         "ASAP2_VERSION 1 71\n", "include@1:1");
+  Expect("/include a", {{"a", "// old\rASAP2_VERSION 1 71"}}, "ASAP2_VERSION 1 71\n",
+         "include@1:1");
+}
+
+TEST(MendInclude, CountsWhatIsInTheFileAsLost) {
+  const MendRun run = RunMend("/include a", {{"a", "ASAP2_VERSION 1 71"}});
+  EXPECT_EQ(run.mended.lostValues, 2U);
+}
+
+}  // namespace
+}  // namespace a2l::test
