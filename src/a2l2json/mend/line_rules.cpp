@@ -211,6 +211,7 @@ void LineRules::OpenElement(ElementKind kind, const Taken& keyword, Role role) {
   if (declaration_->KeepsRawText()) return OpenRaw();
   state_ = declaration_->IsOpenList() ? State::List : State::Fixed;
   needed_ = declaration_->IsOpenList() ? kNoEnd : declaration_->paramCount;
+  mayHoldChild_ = true;
   if (needed_ == 0) EndOfFixed();
 }
 
@@ -279,7 +280,7 @@ void LineRules::CollectWord(std::string_view word, std::size_t begin, std::size_
   found.end = end;
   found.owner = owner_;
   found.index = index_;
-  const ElementKind child = state_ == State::List && needed_ == kNoEnd
+  const ElementKind child = state_ == State::List && mayHoldChild_
                                 ? declaration_->parameters.back().childInList
                                 : KIND_ROOT;
   if (child != KIND_ROOT && word.find(KindToKeyword(child)) != kNone) {
@@ -287,6 +288,7 @@ void LineRules::CollectWord(std::string_view word, std::size_t begin, std::size_
     found.kind = child;
     Emit(found);
     declaration_ = detail::DeclarationOf(child);
+    mayHoldChild_ = false;
     owner_ = begin;
     index_ = 0;
     needed_ = declaration_->paramCount;
@@ -298,8 +300,8 @@ void LineRules::CollectWord(std::string_view word, std::size_t begin, std::size_
     rows_ = ReadUnsigned(word).value;
   }
   ++index_;
-  // A handle that is no number ends the list, and what follows is not looked at.
-  if (child != KIND_ROOT && !ReadSigned(word).ok) needed_ = index_;
+  // A handle that is no number ends the list: no keyword is looked for behind it.
+  if (child != KIND_ROOT && !ReadSigned(word).ok) mayHoldChild_ = false;
   if (index_ != needed_) return;
   if (state_ == State::Fixed) {
     EndOfFixed();

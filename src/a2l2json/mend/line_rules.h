@@ -141,6 +141,8 @@ class LineRules {
   /// The rows go on to the end of the line on which enough of them are there.
   bool rowsFillLine_ = false;
   bool onKeywordPiece_ = false;
+  /// A list may end at the keyword of a child among its values.
+  bool mayHoldChild_ = false;
   /// A text that its line does not close, or the name of an IF_DATA that goes on.
   bool textIsOpen_ = false;
   bool nameIsOpen_ = false;
