@@ -9,8 +9,7 @@
 
 #include "capi/a2l2json.h"
 
-#define A2L2JSON_FROM_JAVASCRIPT(name) \
-  __attribute__((import_module("a2l2json"), import_name(name)))
+#define A2L2JSON_FROM_JAVASCRIPT(name) __attribute__((import_module("a2l2json"), import_name(name)))
 #define A2L2JSON_TO_JAVASCRIPT(name) __attribute__((export_name(name)))
 
 extern "C" {

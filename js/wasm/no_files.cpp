@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What the library does with files where there are none, in the place of the sources that open them.
+// What the library does with files where there are none, in the place of the sources that open
+// them.
 #include <ostream>
 
 #include "a2l2json/model/file_stream.h"

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// A program that has names of its own which are the library's, too: macros, some from <endian.h> and
-// from the command line (VERSION is "1.0" there), and headers. Neither side is to notice the other.
+// A program that has names of its own which are the library's, too: macros, some from <endian.h>
+// and from the command line (VERSION is "1.0" there), and headers. Neither side is to notice the
+// other.
 #if __has_include(<endian.h>)
 #include <endian.h>
 #else
@@ -13,11 +14,11 @@
 #define ABSOLUTE 1
 #define DIFFERENCE 11
 
-#include <a2l2json/a2l2json.h>
-
 #include <bit>
 #include <iostream>
 #include <string_view>
+
+#include <a2l2json/a2l2json.h>
 
 #include "elements/elements.h"
 #include "export/json_writer.h"

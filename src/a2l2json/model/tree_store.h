@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "a2l2json/text/bytes.h"
+
 #include "a2l2json/names_begin.h"
 
 namespace a2l {
