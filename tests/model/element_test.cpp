@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <fstream>
-#include <map>
 #include <set>
 #include <sstream>
 #include <string>
@@ -21,6 +20,7 @@
 #include "a2l2json/elements/properties/record_layout_entries.h"
 #include "a2l2json/reader/a2l_reader.h"
 #include "a2l2json/reader/element_factory.h"
+#include "tests/generator/grammar.h"
 #include "tests/support/files.h"
 #include "tests/support/kinds.h"
 #include "tests/support/trees.h"
@@ -354,66 +354,15 @@ TEST_F(ElementTest, DeepTreesAreWrittenAndDestroyed) {
   DestroyTree(root_.release());
 }
 
-struct ParameterCount {
-  std::uint32_t count;
-  std::string_view keywords;
-};
-
-// The number of tokens that a keyword waits for.
-constexpr ParameterCount kParameterCounts[] = {
-    {0,
-     "BIT_OPERATION ANNOTATION VARIANT_CODING CONSISTENT_EXCHANGE DISCRETE GUARD_RAILS READ_ONLY "
-     "READ_WRITE ROOT SIGN_EXTEND STATIC_ADDRESS_OFFSETS STATIC_RECORD_LAYOUT"},
-    {1,
-     "HEADER MOD_PAR MOD_COMMON FORMULA RECORD_LAYOUT AR_COMPONENT USER_RIGHTS "
-     "ANNOTATION_LABEL ANNOTATION_ORIGIN CALIBRATION_HANDLE_TEXT CPU_TYPE CUSTOMER CUSTOMER_NO "
-     "DEFAULT_VALUE ECU EPK FORMAT FORMULA_INV FUNCTION_VERSION MODEL_LINK PHONE_NO PHYS_UNIT "
-     "SUPPLIER SYMBOL_TYPE_LINK USER VAR_SEPARATOR VERSION AR_PROTOTYPE_OF AXIS_PTS_REF "
-     "COMPARISON_QUANTITY COMPU_TAB_REF CONVERSION CURVE_AXIS_REF DISPLAY_IDENTIFIER "
-     "INPUT_QUANTITY PROJECT_NO REF_MEMORY_SEGMENT REF_UNIT S_REC_LAYOUT STATUS_STRING_REF "
-     "VAR_MEASUREMENT VAR_SELECTION_CHARACTERISTIC ADDR_EPK ALIGNMENT_BYTE "
-     "ALIGNMENT_FLOAT16_IEEE ALIGNMENT_FLOAT32_IEEE ALIGNMENT_FLOAT64_IEEE ALIGNMENT_INT64 "
-     "ALIGNMENT_LONG ALIGNMENT_WORD ARRAY_SIZE BIT_MASK DATA_SIZE DEFAULT_VALUE_NUMERIC "
-     "ECU_ADDRESS ECU_ADDRESS_EXTENSION ECU_CALIBRATION_OFFSET ERROR_MASK LEFT_SHIFT MAX_GRAD "
-     "NO_OF_INTERFACES NUMBER RIGHT_SHIFT STEP_SIZE BYTE_ORDER CALIBRATION_ACCESS DEPOSIT LAYOUT "
-     "MONOTONY VAR_NAMING ADDRESS_TYPE FIX_NO_AXIS_PTS_*"},
-    {2,
-     "PROJECT MODULE FUNCTION GROUP OVERWRITE CALIBRATION_METHOD A2ML_VERSION ASAP2_VERSION "
-     "MAX_REFRESH COEFFS_LINEAR EXTENDED_LIMITS LIMITS UNIT_CONVERSION SYMBOL_LINK "
-     "SYSTEM_CONSTANT DIST_OP_* NO_AXIS_PTS_* NO_RESCALE_* OFFSET_* RIP_ADDR_W RIP_ADDR_* "
-     "SHIFT_OP_* SRC_ADDR_* IDENTIFICATION RESERVED"},
-    {3,
-     "COMPU_VTAB_RANGE STRUCTURE_COMPONENT TYPEDEF_BLOB TYPEDEF_STRUCTURE FIX_AXIS_PAR "
-     "FIX_AXIS_PAR_DIST"},
-    {4, "BLOB COMPU_TAB COMPU_VTAB FRAME INSTANCE UNIT AXIS_PTS_* FNC_VALUES"},
-    {5, "COMPU_METHOD AXIS_RESCALE_*"},
-    {6, "AXIS_DESCR COEFFS"},
-    {7, "TRANSFORMER SI_EXPONENTS"},
-    {8, "MEASUREMENT MEMORY_LAYOUT TYPEDEF_CHARACTERISTIC TYPEDEF_MEASUREMENT"},
-    {9, "CHARACTERISTIC TYPEDEF_AXIS"},
-    {10, "AXIS_PTS"},
-    {12, "MEMORY_SEGMENT"},
-    {65535,
-     "ANNOTATION_TEXT CALIBRATION_HANDLE DEF_CHARACTERISTIC DEPENDENT_CHARACTERISTIC "
-     "FIX_AXIS_PAR_LIST FUNCTION_LIST IN_MEASUREMENT LOC_MEASUREMENT MAP_LIST OUT_MEASUREMENT "
-     "REF_CHARACTERISTIC REF_GROUP REF_MEASUREMENT SUB_FUNCTION SUB_GROUP TRANSFORMER_IN_OBJECTS "
-     "TRANSFORMER_OUT_OBJECTS VAR_ADDRESS VAR_CHARACTERISTIC VAR_CRITERION VAR_FORBIDDEN_COMB "
-     "VIRTUAL VIRTUAL_CHARACTERISTIC FRAME_MEASUREMENT MATRIX_DIM IF_DATA A2ML"},
-};
-
+// The number of tokens that a keyword waits for; without a limit for lists and for raw text.
 TEST_F(ElementTest, EveryKeywordWaitsForItsParameters) {
-  std::map<std::string, std::uint32_t> counts;
-  for (const ParameterCount& row : kParameterCounts) {
-    for (const std::string& keyword : Words(row.keywords)) counts[keyword] = row.count;
+  for (const Keyword& keyword : Grammar()) {
+    const bool isOpen = keyword.isRaw || !keyword.list.empty();
+    EXPECT_EQ(Make(KeywordToKind(keyword.text))->ParamCount(),
+              isOpen ? 65535U : keyword.parameters.size())
+        << keyword.text;
   }
-  EXPECT_EQ(counts.size(), 204U);
-  for (const ElementKind kind : KindsWithAClass()) {
-    const VoA2LElement* element = Make(kind);
-    ASSERT_NE(element, nullptr) << Shown(kind);
-    EXPECT_EQ(element->ParamCount(),
-              kind == KIND_UNKNOWN ? 65535U : counts.at(std::string(KindToKeyword(kind))))
-        << Shown(kind);
-  }
+  EXPECT_EQ(Make(KIND_UNKNOWN)->ParamCount(), 65535U);
 }
 
 TEST_F(ElementTest, KeywordsOfTheLaterStandardSaySo) {

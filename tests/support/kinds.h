@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -17,16 +18,16 @@ namespace a2l::test {
 /// Keywords with consecutive numbers.
 struct KeywordGroup {
   std::int32_t first;
-  std::int32_t last;
   std::string_view keywords;  ///< in the order of their numbers
 };
 
+inline constexpr std::int32_t kFirstProperty = 1001;
 inline constexpr KeywordGroup kKeywordGroups[] = {
-    {1, 20,
+    {1,
      "AXIS_DESCR AXIS_PTS BLOB CHARACTERISTIC COMPU_METHOD COMPU_TAB COMPU_VTAB COMPU_VTAB_RANGE "
      "FRAME FUNCTION GROUP HEADER INSTANCE MEASUREMENT MOD_COMMON MOD_PAR MODULE PROJECT "
      "RECORD_LAYOUT TRANSFORMER"},
-    {100, 141,
+    {100,
      "IF_DATA A2ML ANNOTATION ANNOTATION_TEXT AR_COMPONENT BIT_OPERATION CALIBRATION_HANDLE "
      "CALIBRATION_METHOD DEF_CHARACTERISTIC DEPENDENT_CHARACTERISTIC FIX_AXIS_PAR_LIST FORMULA "
      "FUNCTION_LIST IN_MEASUREMENT LOC_MEASUREMENT MAP_LIST MEMORY_LAYOUT MEMORY_SEGMENT "
@@ -35,7 +36,7 @@ inline constexpr KeywordGroup kKeywordGroups[] = {
      "TYPEDEF_BLOB TYPEDEF_CHARACTERISTIC TYPEDEF_MEASUREMENT TYPEDEF_STRUCTURE UNIT USER_RIGHTS "
      "VAR_ADDRESS VAR_CHARACTERISTIC VAR_CRITERION VAR_FORBIDDEN_COMB VARIANT_CODING VIRTUAL "
      "VIRTUAL_CHARACTERISTIC"},
-    {1001, 1143,
+    {kFirstProperty,
      "A2ML_VERSION ADDR_EPK ADDRESS_TYPE ALIGNMENT_BYTE ALIGNMENT_FLOAT16_IEEE "
      "ALIGNMENT_FLOAT32_IEEE ALIGNMENT_FLOAT64_IEEE ALIGNMENT_INT64 ALIGNMENT_LONG ALIGNMENT_WORD "
      "ANNOTATION_LABEL ANNOTATION_ORIGIN ARRAY_SIZE ASAP2_VERSION AR_PROTOTYPE_OF AXIS_PTS_REF "
@@ -91,6 +92,19 @@ inline std::vector<NumberedKeyword> AllKeywords() {
     for (const std::string& keyword : Words(group.keywords)) all.push_back({number++, keyword});
   }
   return all;
+}
+
+/// Numbers that stand for no kind: those in front of each group and behind it, those in front of
+/// KIND_UNKNOWN and behind it, and the limits of the type. The 0 in front of the first group is
+/// KIND_ROOT.
+inline std::vector<std::int32_t> NumbersBesideTheKinds() {
+  std::vector<std::int32_t> numbers = {-1, 25534, 25536, std::numeric_limits<std::int32_t>::max(),
+                                       std::numeric_limits<std::int32_t>::min()};
+  for (const KeywordGroup& group : kKeywordGroups) {
+    if (group.first != 1) numbers.push_back(group.first - 1);
+    numbers.push_back(group.first + static_cast<std::int32_t>(Words(group.keywords).size()));
+  }
+  return numbers;
 }
 
 /// The kinds that have elements: those of all keywords except ENCODING, and KIND_UNKNOWN.
