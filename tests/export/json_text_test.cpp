@@ -227,7 +227,7 @@ TEST(JsonText, WritesPreparedRowsLikeOtherMembers) {
 
 TEST(RowSet, GivesItsRowsInOrder) {
   RowSet rows;
-  for (const std::size_t row : {127, 64, 0, 63}) rows.Add(row);
+  for (const std::size_t row : {127U, 64U, 0U, 63U}) rows.Add(row);
   std::vector<std::size_t> given;
   rows.ForEach([&](std::size_t row) { given.push_back(row); });
   EXPECT_EQ(given, (std::vector<std::size_t>{0, 63, 64, 127}));

@@ -32,7 +32,7 @@ TEST(MendInclude, TakesNamesInAllTheirForms) {
     Expect(std::string(directive) + " 71", {{"a.a2l", "ASAP2_VERSION 1"}}, "ASAP2_VERSION 1 71\n",
            "include@1:1");
   }
-  Expect("/include \"with blank\\and.a2l\"", {{"with blank\\and.a2l", "ASAP2_VERSION 1 71"}},
+  Expect(R"(/include "with blank\and.a2l")", {{R"(with blank\and.a2l)", "ASAP2_VERSION 1 71"}},
          "ASAP2_VERSION 1 71\n", "include@1:1");
   Expect("/include with blank.a2l  \n", {{"with blank.a2l", "ASAP2_VERSION 1 71"}},
          "ASAP2_VERSION 1 71\n", "include@1:1");

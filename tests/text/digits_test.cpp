@@ -93,7 +93,7 @@ TEST(Digits, AroundPowersOfTenAreThoseOfTheCLibrary) {
   for (int exponent = -320; exponent < 309; ++exponent) {
     const double power = std::strtod(("1e" + std::to_string(exponent)).c_str(), nullptr);
     for (std::uint64_t i = 0; i < 32; ++i) {
-      const double near = std::bit_cast<double>(std::bit_cast<std::uint64_t>(power) + i - 16);
+      const auto near = std::bit_cast<double>(std::bit_cast<std::uint64_t>(power) + i - 16);
       if (std::isfinite(near)) {
         ASSERT_EQ(TextOf(near), Printed(near));
       }

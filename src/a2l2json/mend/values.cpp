@@ -107,7 +107,7 @@ std::optional<ValueTrouble> CheckUnsigned(const Parameter& parameter, const Numb
 std::optional<ValueTrouble> CheckSigned(std::string_view word, const Number& number) {
   const std::int64_t read = ReadSigned(word).value;
   const std::uint64_t magnitude = ReadUnsigned64(number.isNegative ? word.substr(1) : word).value;
-  const std::uint64_t held = static_cast<std::uint64_t>(read < 0 ? -read : read);
+  const auto held = static_cast<std::uint64_t>(read < 0 ? -read : read);
   if (magnitude != held) return Trouble(MendRule::NumberRange, std::to_string(read));
   return {};
 }

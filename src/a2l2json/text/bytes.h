@@ -73,7 +73,7 @@ class Block {
 #if defined(__SSE2__) || defined(__ARM_NEON)
  public:
   using Vector = unsigned char __attribute__((vector_size(kBlock)));
-  using Set = decltype(std::declval<Vector>() == std::declval<Vector>());
+  using Set = decltype(std::declval<Vector>() == Vector{});
 
   [[nodiscard]] static Block Load(const char* from) {
     Block block;
@@ -97,7 +97,7 @@ class Block {
  private:
   static Vector Each(char c) { return Vector{} + static_cast<unsigned char>(c); }
 
-  Vector bytes_;
+  Vector bytes_ = {};
 #else
  public:
   using Set = Words;

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <ranges>
 #include <string_view>
 
 namespace a2l {
@@ -81,8 +82,8 @@ char* Append(char* out, std::string_view text) { return std::ranges::copy(text, 
 
 char* WriteDecimal(Decimal number, char* out) {
   std::array<char, kDigits> all{};
-  for (auto digit = all.rbegin(); digit != all.rend(); ++digit) {
-    *digit = static_cast<char>('0' + number.digits % 10);
+  for (char& digit : std::views::reverse(all)) {
+    digit = static_cast<char>('0' + number.digits % 10);
     number.digits /= 10;
   }
   std::string_view digits(all.data(), all.size());
