@@ -8,7 +8,6 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
-#include <ranges>
 #include <string_view>
 
 namespace a2l {
@@ -31,11 +30,12 @@ constexpr std::uint64_t Power(std::uint64_t base, int exponent) {
 }
 
 // The powers of five that fit into 64 bits.
-constexpr auto kPowersOfFive = [] {
+constexpr std::array<std::uint64_t, 28> MakePowersOfFive() {
   std::array<std::uint64_t, 28> powers{};
   for (std::size_t i = 0; i < powers.size(); ++i) powers[i] = Power(5, static_cast<int>(i));
   return powers;
-}();
+}
+constexpr auto kPowersOfFive = MakePowersOfFive();
 
 // A number as digits: 17 of them in a whole number, and the power of ten that the first one
 // stands for.
@@ -82,9 +82,8 @@ char* Append(char* out, std::string_view text) { return std::ranges::copy(text, 
 
 char* WriteDecimal(Decimal number, char* out) {
   std::array<char, kDigits> all{};
-  for (char& digit : std::views::reverse(all)) {
-    digit = static_cast<char>('0' + number.digits % 10);
-    number.digits /= 10;
+  for (std::size_t i = all.size(); i-- > 0; number.digits /= 10) {
+    all[i] = static_cast<char>('0' + number.digits % 10);
   }
   std::string_view digits(all.data(), all.size());
   digits = digits.substr(0, digits.find_last_not_of('0') + 1);
