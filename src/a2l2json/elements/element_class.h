@@ -168,10 +168,3 @@ class AxisProperty : public ElementClass<Class, kFirstKind, kKinds...> {
 };
 
 }  // namespace a2l::detail
-
-namespace a2l {
-
-// For the rooms that have not yet changed over to the one name.
-using Kind = ElementKind;
-
-}  // namespace a2l
