@@ -118,28 +118,28 @@ string(REGEX REPLACE "/$" "" A2L2JSON_PC_PREFIX "${A2L2JSON_PC_PREFIX}")
 # The library, its headers, its CMake package and its pkg-config file
 
 if(A2L2JSON_LIBRARY)
-  set(headers "${CMAKE_INSTALL_INCLUDEDIR}/a2l2json")
   set(package "${CMAKE_INSTALL_LIBDIR}/cmake/a2l2json")
   set(version_file "${generated}/a2l2json-config-version.cmake")
 
-  # The headers that a user includes, and those that these include.
-  set(sources "${PROJECT_SOURCE_DIR}/src/a2l2json")
-  install(
-    DIRECTORY "${sources}/text" "${sources}/model" "${sources}/elements"
-    DESTINATION "${headers}"
-    COMPONENT library
-    FILES_MATCHING
-    PATTERN "*.h"
-    PATTERN "*.def"
-    PATTERN "file_path.h" EXCLUDE)
-  foreach(header a2l2json.h names_begin.h names_end.h reader/a2l_reader.h reader/diagnostics.h
-                 reader/read.h export/json_writer.h)
-    cmake_path(GET header PARENT_PATH room)
+  # The header that a user includes, and those that it includes.
+  set(sources "${PROJECT_SOURCE_DIR}/src")
+  set(open "a2l2json/a2l2json.h")
+  set(installed "")
+  while(open)
+    list(POP_FRONT open header)
+    list(APPEND installed "${header}")
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${sources}/${header}")
+    file(STRINGS "${sources}/${header}" includes REGEX "^#include \"a2l2json/")
+    list(TRANSFORM includes REPLACE "^#include \"([^\"]+)\".*" "\\1")
+    list(APPEND open ${includes})
+    list(REMOVE_ITEM open ${installed})
+    list(REMOVE_DUPLICATES open)
+    cmake_path(GET header PARENT_PATH folder)
     install(
       FILES "${sources}/${header}"
-      DESTINATION "${headers}/${room}"
+      DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${folder}"
       COMPONENT library)
-  endforeach()
+  endwhile()
 
   install(TARGETS a2l2json_library EXPORT a2l2json-targets COMPONENT library)
   install(
@@ -149,8 +149,8 @@ if(A2L2JSON_LIBRARY)
     COMPONENT library)
   if(TARGET a2l2json_json11)
     install(
-      FILES "${sources}/export/json11_document.h"
-      DESTINATION "${headers}/export"
+      FILES "${sources}/a2l2json/export/json11_document.h"
+      DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/a2l2json/export"
       COMPONENT library)
     install(TARGETS a2l2json_json11 EXPORT a2l2json-json11-targets COMPONENT library)
     install(

@@ -202,13 +202,14 @@ completed() (
 cmp "$(pkg-config --variable=schema a2l2json)" docs/json.schema.json
 say 'program, library, manual page, completions and schema are in their places'
 
-# dead_links <folder>: the links of the pages there that lead nowhere
+# dead_links <folder>: the links of the pages there that lead nowhere; code has none
 dead_links() {
   local page target
   for page in "$1"/**/*.md; do
-    { grep -oP '(\]\(|^\[[^]]+\]: )\K[^)#]+' "$page" || true; } | while read -r target; do
-      [[ $target == http* || -e ${page%/*}/$target ]] || printf '%s: %s\n' "$page" "$target"
-    done
+    { sed '/^```/,/^```/d' "$page" | grep -oP '(\]\(|^\[[^]]+\]: )\K[^)#]+' || true; } |
+      while read -r target; do
+        [[ $target == http* || -e ${page%/*}/$target ]] || printf '%s: %s\n' "$page" "$target"
+      done
   done
 }
 for folder in "$root/usr" "$work/installed" "$work/static"; do
