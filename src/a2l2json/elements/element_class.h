@@ -21,7 +21,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <iosfwd>
-#include <iterator>
 #include <span>
 #include <string>
 #include <string_view>

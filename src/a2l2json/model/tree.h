@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <iterator>
 #include <string_view>
 #include <type_traits>
 #include <utility>
@@ -75,6 +74,9 @@ template <class Class>
 
 namespace detail {
 
+/// The end of every walk. (The one of <iterator> costs each user the streams that come with it.)
+struct EndOfWalk {};
+
 /// A range of elements of `Class`: of all elements that Steps::Next gives one after the other, null
 /// behind the last.
 template <class Class, class Steps>
@@ -98,11 +100,11 @@ class Walk {
       return *this;
     }
     void operator++(int) { ++*this; }
-    friend bool operator==(const Iterator& iterator, std::default_sentinel_t /*end*/) {
+    friend bool operator==(const Iterator& iterator, EndOfWalk /*end*/) {
       return iterator.element_ == nullptr;
     }
     // Follows from ==, which static analysis does not see everywhere.
-    friend bool operator!=(const Iterator& iterator, std::default_sentinel_t /*end*/) {
+    friend bool operator!=(const Iterator& iterator, EndOfWalk /*end*/) {
       return iterator.element_ != nullptr;
     }
 
@@ -114,7 +116,7 @@ class Walk {
   explicit Walk(const VoA2LElement& from) : from_(&from) {}
 
   [[nodiscard]] Iterator begin() const { return Iterator(Steps(*from_)); }
-  [[nodiscard]] std::default_sentinel_t end() const { return {}; }
+  [[nodiscard]] EndOfWalk end() const { return {}; }
   /// Null where there is none.
   [[nodiscard]] Class* First() const {
     const Iterator first = begin();
