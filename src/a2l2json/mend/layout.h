@@ -63,6 +63,10 @@ class Layout {
     return text_.size();
   }
   void Raw(std::string_view bytes) { text_ += bytes; }
+  [[nodiscard]] bool LineHasWords() const {
+    const std::size_t last = text_.find_last_not_of(" \t\v\f\r");
+    return last != std::string::npos && text_[last] != '\n';
+  }
   void EndRaw(std::size_t start) {
     while (text_.size() > start && IsWhite(text_.back())) text_.pop_back();
     lineIsEmpty_ = text_.size() == start;

@@ -120,16 +120,18 @@ bool Lexer::LeaveFile() {
 bool Lexer::HasInclude() const {
   const Source& source = sources_.back();
   const std::string_view rest = source.Rest();
-  return rest.size() > kInclude.size() &&
+  return rest.size() >= kInclude.size() &&
          std::equal(kInclude.begin(), kInclude.end(), rest.begin(),
                     [](char a, char b) { return a == LowerCase(b); }) &&
-         (IsWhite(rest[kInclude.size()]) || rest[kInclude.size()] == '"');
+         (rest.size() == kInclude.size() || IsWhite(rest[kInclude.size()]) ||
+          rest[kInclude.size()] == '"');
 }
 
 bool Lexer::FollowInclude(Word& word) {
   Source& source = Top();
   word = Here(WordType::Include);
   source.position += kInclude.size();
+  const Source behind = source;
   SkipWhite(source);
   const std::string_view rest = source.Rest();
   // To the end of the line at most, without the white space there.
@@ -144,6 +146,8 @@ bool Lexer::FollowInclude(Word& word) {
     source.position += name.size();
     while (!line.empty() && IsWhite(line.back())) line.remove_suffix(1);
   }
+  if (name.starts_with(kBegin) || name.starts_with(kEnd)) name = {};
+  if (name.empty()) source = behind;
   Finish(word);
   MendRule problem = MendRule::IncludeMissing;
   std::string detail = "no name is given";

@@ -107,7 +107,7 @@ void RawText::Rewrite(const Word& word, MendRule rule) {
   reporter_.Report(FindingAt(rule, word));
   Copy(word.begin);
   // On a line of its own: what stood before it, may have been the last line of another such text.
-  if (!isFirst_) out_.Raw("\n ");
+  if (!isFirst_ && out_.LineHasWords()) out_.Raw("\n ");
   Append(MendedText(word.text, word.traits));
   begin_ = lexer_.Top().position;
 }

@@ -9,6 +9,7 @@
 #include "a2l2json/mend/repeated.h"
 #include "a2l2json/mend/values.h"
 #include "a2l2json/text/numbers.h"
+#include "a2l2json/text/tokenizer.h"
 
 namespace a2l::mending {
 namespace {
@@ -262,7 +263,9 @@ void Walk::MissingInclude(const Word& word) {
   // Where values are due, the converter would take the words for values.
   if (phase_ != Phase::Keyword) return;
   out_.BeginLine(frames_.size());
-  out_.Plain(word.text);
+  const std::size_t end = std::min(word.text.find_first_of(" \t\n\v\f\r\""), word.text.size());
+  out_.Plain(word.text.substr(0, end));
+  if (const std::string_view name = Trim(word.text.substr(end)); !name.empty()) out_.Plain(name);
 }
 
 void Walk::EndMarker(const Word& marker) {
