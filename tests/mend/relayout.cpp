@@ -8,6 +8,7 @@ namespace a2l::test {
 namespace {
 
 constexpr std::string_view kWhite = " \t\r\n\v\f";
+constexpr std::string_view kSigns = ";,)}=";
 
 bool IsWhite(char c) { return kWhite.find(c) != std::string_view::npos; }
 
@@ -91,9 +92,13 @@ std::vector<std::string_view> WordsOf(std::string_view text) {
 std::string LaidOutAnew(std::string_view text, Random& random) {
   const std::size_t style = random.Below(8);
   std::string laidOut;
+  const char* end = nullptr;
   for (const std::string_view word : WordsOf(text)) {
-    if (!laidOut.empty()) laidOut += Separator(style, random);
+    // In interface text such a sign stands directly behind a quote, and belongs there.
+    const bool belongsThere = end == word.data() && kSigns.find(word[0]) != std::string_view::npos;
+    if (end != nullptr && !belongsThere) laidOut += Separator(style, random);
     laidOut += word;
+    end = word.data() + word.size();
   }
   return laidOut + "\n";
 }
