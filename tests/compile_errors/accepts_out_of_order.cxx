@@ -6,7 +6,7 @@
 namespace a2l {
 
 struct VoA2LElementColour final : detail::Block<VoA2LElementColour, ElementKind::UNIT> {
-  static constexpr Kind accepts[] = {Kind::ANNOTATION, Kind::VERSION, Kind::USER};
+  static constexpr ElementKind accepts[] = {ElementKind::ANNOTATION, ElementKind::VERSION, ElementKind::USER};
 };
 const auto* const kChecked = detail::Checked<VoA2LElementColour, ElementKind::UNIT>();
 

@@ -13,7 +13,7 @@ struct VoA2LElementColour final : detail::Block<VoA2LElementColour, ElementKind:
   static constexpr Parameter parameters[] = {Text<&Self::NAME>, Word<&Self::TYPE>,
                                              RowCount<&Self::SIZE>};
   static constexpr Parameter columns[] = {RealList<&Self::SHADES>};
-  static constexpr Kind accepts[] = {Kind::ANNOTATION, Kind::USER, Kind::VERSION};
+  static constexpr ElementKind accepts[] = {ElementKind::ANNOTATION, ElementKind::USER, ElementKind::VERSION};
 };
 const auto* const kChecked = detail::Checked<VoA2LElementColour, ElementKind::UNIT>();
 

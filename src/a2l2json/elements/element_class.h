@@ -116,7 +116,6 @@ inline constexpr Declaration kDeclaration = Declare<Class>();
 template <class Class, ElementKind... kKinds>
 class ElementClass : public DeclaredElement, protected ParameterWords<Class> {
  protected:
-  using Kind = ElementKind;
   using OnBadNumber = detail::OnBadNumber;
   using Parameter = detail::Parameter;
 

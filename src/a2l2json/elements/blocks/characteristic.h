@@ -36,34 +36,34 @@ struct VoA2LElementCharacteristic final
       Real<&Self::UPPER_LIMIT>,
   };
   static constexpr OnBadNumber onBadNumber = OnBadNumber::MarkAndGoOn;
-  static constexpr Kind accepts[] = {
-      Kind::ANNOTATION,
-      Kind::AXIS_DESCR,
-      Kind::BIT_MASK,
-      Kind::BYTE_ORDER,
-      Kind::CALIBRATION_ACCESS,
-      Kind::COMPARISON_QUANTITY,
-      Kind::DEPENDENT_CHARACTERISTIC,
-      Kind::DISCRETE,
-      Kind::DISPLAY_IDENTIFIER,
-      Kind::ECU_ADDRESS_EXTENSION,
-      Kind::ENCODING,
-      Kind::EXTENDED_LIMITS,
-      Kind::FORMAT,
-      Kind::FUNCTION_LIST,
-      Kind::GUARD_RAILS,
-      Kind::IF_DATA,
-      Kind::MAP_LIST,
-      Kind::MATRIX_DIM,
-      Kind::MAX_REFRESH,
-      Kind::MODEL_LINK,
-      Kind::NUMBER,
-      Kind::PHYS_UNIT,
-      Kind::READ_ONLY,
-      Kind::REF_MEMORY_SEGMENT,
-      Kind::STEP_SIZE,
-      Kind::SYMBOL_LINK,
-      Kind::VIRTUAL_CHARACTERISTIC,
+  static constexpr ElementKind accepts[] = {
+      ElementKind::ANNOTATION,
+      ElementKind::AXIS_DESCR,
+      ElementKind::BIT_MASK,
+      ElementKind::BYTE_ORDER,
+      ElementKind::CALIBRATION_ACCESS,
+      ElementKind::COMPARISON_QUANTITY,
+      ElementKind::DEPENDENT_CHARACTERISTIC,
+      ElementKind::DISCRETE,
+      ElementKind::DISPLAY_IDENTIFIER,
+      ElementKind::ECU_ADDRESS_EXTENSION,
+      ElementKind::ENCODING,
+      ElementKind::EXTENDED_LIMITS,
+      ElementKind::FORMAT,
+      ElementKind::FUNCTION_LIST,
+      ElementKind::GUARD_RAILS,
+      ElementKind::IF_DATA,
+      ElementKind::MAP_LIST,
+      ElementKind::MATRIX_DIM,
+      ElementKind::MAX_REFRESH,
+      ElementKind::MODEL_LINK,
+      ElementKind::NUMBER,
+      ElementKind::PHYS_UNIT,
+      ElementKind::READ_ONLY,
+      ElementKind::REF_MEMORY_SEGMENT,
+      ElementKind::STEP_SIZE,
+      ElementKind::SYMBOL_LINK,
+      ElementKind::VIRTUAL_CHARACTERISTIC,
   };
 };
 
@@ -80,11 +80,12 @@ struct VoA2LElementAxisDescr final : detail::Block<VoA2LElementAxisDescr, Elemen
       Identifier<&Self::CONVERSION>,    Unsigned<&Self::MAX_AXIS_POINTS>,
       Real<&Self::LOWER_LIMIT>,         Real<&Self::UPPER_LIMIT>,
   };
-  static constexpr Kind accepts[] = {
-      Kind::ANNOTATION,        Kind::AXIS_PTS_REF,    Kind::BYTE_ORDER,   Kind::CURVE_AXIS_REF,
-      Kind::DEPOSIT,           Kind::EXTENDED_LIMITS, Kind::FIX_AXIS_PAR, Kind::FIX_AXIS_PAR_DIST,
-      Kind::FIX_AXIS_PAR_LIST, Kind::FORMAT,          Kind::MAX_GRAD,     Kind::MONOTONY,
-      Kind::PHYS_UNIT,         Kind::READ_ONLY,       Kind::STEP_SIZE,
+  static constexpr ElementKind accepts[] = {
+      ElementKind::ANNOTATION,     ElementKind::AXIS_PTS_REF,      ElementKind::BYTE_ORDER,
+      ElementKind::CURVE_AXIS_REF, ElementKind::DEPOSIT,           ElementKind::EXTENDED_LIMITS,
+      ElementKind::FIX_AXIS_PAR,   ElementKind::FIX_AXIS_PAR_DIST, ElementKind::FIX_AXIS_PAR_LIST,
+      ElementKind::FORMAT,         ElementKind::MAX_GRAD,          ElementKind::MONOTONY,
+      ElementKind::PHYS_UNIT,      ElementKind::READ_ONLY,         ElementKind::STEP_SIZE,
   };
 };
 
@@ -108,26 +109,26 @@ struct VoA2LElementAxisPts final : detail::Block<VoA2LElementAxisPts, ElementKin
       Real<&Self::LOWER_LIMIT>,      Real<&Self::UPPER_LIMIT>,
   };
   static constexpr OnBadNumber onBadNumber = OnBadNumber::MarkAndGoOn;
-  static constexpr Kind accepts[] = {
-      Kind::ANNOTATION,
-      Kind::BYTE_ORDER,
-      Kind::CALIBRATION_ACCESS,
-      Kind::DEPOSIT,
-      Kind::DISPLAY_IDENTIFIER,
-      Kind::ECU_ADDRESS_EXTENSION,
-      Kind::EXTENDED_LIMITS,
-      Kind::FORMAT,
-      Kind::FUNCTION_LIST,
-      Kind::GUARD_RAILS,
-      Kind::IF_DATA,
-      Kind::MAX_REFRESH,
-      Kind::MODEL_LINK,
-      Kind::MONOTONY,
-      Kind::PHYS_UNIT,
-      Kind::READ_ONLY,
-      Kind::REF_MEMORY_SEGMENT,
-      Kind::STEP_SIZE,
-      Kind::SYMBOL_LINK,
+  static constexpr ElementKind accepts[] = {
+      ElementKind::ANNOTATION,
+      ElementKind::BYTE_ORDER,
+      ElementKind::CALIBRATION_ACCESS,
+      ElementKind::DEPOSIT,
+      ElementKind::DISPLAY_IDENTIFIER,
+      ElementKind::ECU_ADDRESS_EXTENSION,
+      ElementKind::EXTENDED_LIMITS,
+      ElementKind::FORMAT,
+      ElementKind::FUNCTION_LIST,
+      ElementKind::GUARD_RAILS,
+      ElementKind::IF_DATA,
+      ElementKind::MAX_REFRESH,
+      ElementKind::MODEL_LINK,
+      ElementKind::MONOTONY,
+      ElementKind::PHYS_UNIT,
+      ElementKind::READ_ONLY,
+      ElementKind::REF_MEMORY_SEGMENT,
+      ElementKind::STEP_SIZE,
+      ElementKind::SYMBOL_LINK,
   };
 };
 
@@ -145,12 +146,12 @@ struct VoA2LElementBlob final : detail::Block<VoA2LElementBlob, ElementKind::BLO
   };
   static constexpr OnBadNumber onBadNumber = OnBadNumber::MarkAndGoOn;
   static constexpr std::uint32_t revision = kRevision171;
-  static constexpr Kind accepts[] = {
-      Kind::ADDRESS_TYPE,          Kind::ANNOTATION,
-      Kind::CALIBRATION_ACCESS,    Kind::DISPLAY_IDENTIFIER,
-      Kind::ECU_ADDRESS_EXTENSION, Kind::IF_DATA,
-      Kind::MAX_REFRESH,           Kind::MODEL_LINK,
-      Kind::SYMBOL_LINK,
+  static constexpr ElementKind accepts[] = {
+      ElementKind::ADDRESS_TYPE,          ElementKind::ANNOTATION,
+      ElementKind::CALIBRATION_ACCESS,    ElementKind::DISPLAY_IDENTIFIER,
+      ElementKind::ECU_ADDRESS_EXTENSION, ElementKind::IF_DATA,
+      ElementKind::MAX_REFRESH,           ElementKind::MODEL_LINK,
+      ElementKind::SYMBOL_LINK,
   };
 };
 

@@ -24,9 +24,9 @@ struct VoA2LElementCompuMethod final
       Text<&Self::FORMAT>,
       Text<&Self::UNIT>,
   };
-  static constexpr Kind accepts[] = {
-      Kind::COEFFS,  Kind::COEFFS_LINEAR, Kind::COMPU_TAB_REF,
-      Kind::FORMULA, Kind::REF_UNIT,      Kind::STATUS_STRING_REF,
+  static constexpr ElementKind accepts[] = {
+      ElementKind::COEFFS,  ElementKind::COEFFS_LINEAR, ElementKind::COMPU_TAB_REF,
+      ElementKind::FORMULA, ElementKind::REF_UNIT,      ElementKind::STATUS_STRING_REF,
   };
 };
 
@@ -45,7 +45,8 @@ struct VoA2LElementCompuTab final : detail::Block<VoA2LElementCompuTab, ElementK
       RowCount<&Self::NUMBER_VALUE_PAIRS>,
   };
   static constexpr Parameter columns[] = {RealList<&Self::IN_VAL>, RealList<&Self::OUT_VAL>};
-  static constexpr Kind accepts[] = {Kind::DEFAULT_VALUE, Kind::DEFAULT_VALUE_NUMERIC};
+  static constexpr ElementKind accepts[] = {ElementKind::DEFAULT_VALUE,
+                                            ElementKind::DEFAULT_VALUE_NUMERIC};
 };
 
 /// A table from numbers to texts.
@@ -63,7 +64,7 @@ struct VoA2LElementCompuVtab final : detail::Block<VoA2LElementCompuVtab, Elemen
       RowCount<&Self::NUMBER_VALUE_PAIRS>,
   };
   static constexpr Parameter columns[] = {RealList<&Self::IN_VAL>, Texts<&Self::OUT_VAL>};
-  static constexpr Kind accepts[] = {Kind::DEFAULT_VALUE};
+  static constexpr ElementKind accepts[] = {ElementKind::DEFAULT_VALUE};
 };
 
 /// A table from ranges of numbers to texts.
@@ -82,13 +83,13 @@ struct VoA2LElementCompuVtabRange final
   };
   static constexpr Parameter columns[] = {RealList<&Self::IN_VAL_MIN>, RealList<&Self::IN_VAL_MAX>,
                                           Texts<&Self::OUT_VAL>};
-  static constexpr Kind accepts[] = {Kind::DEFAULT_VALUE};
+  static constexpr ElementKind accepts[] = {ElementKind::DEFAULT_VALUE};
 };
 
 struct VoA2LElementFormula final : detail::Block<VoA2LElementFormula, ElementKind::FORMULA> {
   std::string_view FORMULA;
   static constexpr Parameter parameters[] = {NextLine(Text<&Self::FORMULA>)};
-  static constexpr Kind accepts[] = {Kind::FORMULA_INV};
+  static constexpr ElementKind accepts[] = {ElementKind::FORMULA_INV};
 };
 
 }  // namespace a2l

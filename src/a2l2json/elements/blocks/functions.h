@@ -14,11 +14,11 @@ struct VoA2LElementFunction final : detail::Block<VoA2LElementFunction, ElementK
   std::string_view NAME;
   std::string_view LONG_IDENTIFIER;
   static constexpr Parameter parameters[] = {Identifier<&Self::NAME>, Text<&Self::LONG_IDENTIFIER>};
-  static constexpr Kind accepts[] = {
-      Kind::ANNOTATION,       Kind::AR_COMPONENT,    Kind::DEF_CHARACTERISTIC,
-      Kind::FUNCTION_VERSION, Kind::IF_DATA,         Kind::IN_MEASUREMENT,
-      Kind::LOC_MEASUREMENT,  Kind::OUT_MEASUREMENT, Kind::REF_CHARACTERISTIC,
-      Kind::SUB_FUNCTION,
+  static constexpr ElementKind accepts[] = {
+      ElementKind::ANNOTATION,       ElementKind::AR_COMPONENT,    ElementKind::DEF_CHARACTERISTIC,
+      ElementKind::FUNCTION_VERSION, ElementKind::IF_DATA,         ElementKind::IN_MEASUREMENT,
+      ElementKind::LOC_MEASUREMENT,  ElementKind::OUT_MEASUREMENT, ElementKind::REF_CHARACTERISTIC,
+      ElementKind::SUB_FUNCTION,
   };
 };
 
@@ -32,9 +32,10 @@ struct VoA2LElementGroup final : detail::Block<VoA2LElementGroup, ElementKind::G
       Identifier<&Self::GROUP_NAME>,
       Text<&Self::GROUP_LONG_IDENTIFIER>,
   };
-  static constexpr Kind accepts[] = {
-      Kind::ANNOTATION,      Kind::FUNCTION_LIST, Kind::IF_DATA,   Kind::REF_CHARACTERISTIC,
-      Kind::REF_MEASUREMENT, Kind::ROOT,          Kind::SUB_GROUP,
+  static constexpr ElementKind accepts[] = {
+      ElementKind::ANNOTATION,         ElementKind::FUNCTION_LIST,   ElementKind::IF_DATA,
+      ElementKind::REF_CHARACTERISTIC, ElementKind::REF_MEASUREMENT, ElementKind::ROOT,
+      ElementKind::SUB_GROUP,
   };
 };
 

@@ -27,20 +27,20 @@ struct VoA2LElementInstance final : detail::Block<VoA2LElementInstance, ElementK
   };
   static constexpr OnBadNumber onBadNumber = OnBadNumber::MarkAndGoOn;
   static constexpr std::uint32_t revision = kRevision171;
-  static constexpr Kind accepts[] = {
-      Kind::ADDRESS_TYPE,
-      Kind::ANNOTATION,
-      Kind::CALIBRATION_ACCESS,
-      Kind::DISPLAY_IDENTIFIER,
-      Kind::ECU_ADDRESS_EXTENSION,
-      Kind::IF_DATA,
-      Kind::LAYOUT,
-      Kind::MATRIX_DIM,
-      Kind::MAX_REFRESH,
-      Kind::MODEL_LINK,
-      Kind::OVERWRITE,
-      Kind::READ_WRITE,
-      Kind::SYMBOL_LINK,
+  static constexpr ElementKind accepts[] = {
+      ElementKind::ADDRESS_TYPE,
+      ElementKind::ANNOTATION,
+      ElementKind::CALIBRATION_ACCESS,
+      ElementKind::DISPLAY_IDENTIFIER,
+      ElementKind::ECU_ADDRESS_EXTENSION,
+      ElementKind::IF_DATA,
+      ElementKind::LAYOUT,
+      ElementKind::MATRIX_DIM,
+      ElementKind::MAX_REFRESH,
+      ElementKind::MODEL_LINK,
+      ElementKind::OVERWRITE,
+      ElementKind::READ_WRITE,
+      ElementKind::SYMBOL_LINK,
   };
 };
 
@@ -50,9 +50,10 @@ struct VoA2LElementOverwrite final : detail::Block<VoA2LElementOverwrite, Elemen
   std::uint32_t AXIS_NUMBER = 0;
   static constexpr Parameter parameters[] = {Identifier<&Self::NAME>, Unsigned<&Self::AXIS_NUMBER>};
   static constexpr std::uint32_t revision = kRevision171;
-  static constexpr Kind accepts[] = {
-      Kind::CONVERSION, Kind::EXTENDED_LIMITS, Kind::FORMAT,    Kind::INPUT_QUANTITY,
-      Kind::LIMITS,     Kind::MONOTONY,        Kind::PHYS_UNIT,
+  static constexpr ElementKind accepts[] = {
+      ElementKind::CONVERSION,     ElementKind::EXTENDED_LIMITS, ElementKind::FORMAT,
+      ElementKind::INPUT_QUANTITY, ElementKind::LIMITS,          ElementKind::MONOTONY,
+      ElementKind::PHYS_UNIT,
   };
 };
 
@@ -68,11 +69,11 @@ struct VoA2LElementStructureComponent final
       Unsigned<&Self::ADDRESS_OFFSET>,
   };
   static constexpr std::uint32_t revision = kRevision171;
-  static constexpr Kind accepts[] = {
-      Kind::ADDRESS_TYPE,
-      Kind::LAYOUT,
-      Kind::MATRIX_DIM,
-      Kind::SYMBOL_TYPE_LINK,
+  static constexpr ElementKind accepts[] = {
+      ElementKind::ADDRESS_TYPE,
+      ElementKind::LAYOUT,
+      ElementKind::MATRIX_DIM,
+      ElementKind::SYMBOL_TYPE_LINK,
   };
 };
 
@@ -99,9 +100,10 @@ struct VoA2LElementTypedefAxis final
       Real<&Self::UPPER_LIMIT>,
   };
   static constexpr std::uint32_t revision = kRevision171;
-  static constexpr Kind accepts[] = {
-      Kind::BYTE_ORDER, Kind::DEPOSIT,   Kind::EXTENDED_LIMITS, Kind::FORMAT,
-      Kind::MONOTONY,   Kind::PHYS_UNIT, Kind::STEP_SIZE,
+  static constexpr ElementKind accepts[] = {
+      ElementKind::BYTE_ORDER, ElementKind::DEPOSIT,  ElementKind::EXTENDED_LIMITS,
+      ElementKind::FORMAT,     ElementKind::MONOTONY, ElementKind::PHYS_UNIT,
+      ElementKind::STEP_SIZE,
   };
 };
 
@@ -116,7 +118,7 @@ struct VoA2LElementTypedefBlob final
       NextLine(Unsigned<&Self::SIZE>),
   };
   static constexpr std::uint32_t revision = kRevision171;
-  static constexpr Kind accepts[] = {Kind::ADDRESS_TYPE};
+  static constexpr ElementKind accepts[] = {ElementKind::ADDRESS_TYPE};
 };
 
 struct VoA2LElementTypedefCharacteristic final
@@ -140,10 +142,11 @@ struct VoA2LElementTypedefCharacteristic final
       Real<&Self::UPPER_LIMIT>,
   };
   static constexpr std::uint32_t revision = kRevision171;
-  static constexpr Kind accepts[] = {
-      Kind::AXIS_DESCR, Kind::BIT_MASK,        Kind::BYTE_ORDER, Kind::DISCRETE,
-      Kind::ENCODING,   Kind::EXTENDED_LIMITS, Kind::FORMAT,     Kind::MATRIX_DIM,
-      Kind::NUMBER,     Kind::PHYS_UNIT,       Kind::STEP_SIZE,
+  static constexpr ElementKind accepts[] = {
+      ElementKind::AXIS_DESCR, ElementKind::BIT_MASK,   ElementKind::BYTE_ORDER,
+      ElementKind::DISCRETE,   ElementKind::ENCODING,   ElementKind::EXTENDED_LIMITS,
+      ElementKind::FORMAT,     ElementKind::MATRIX_DIM, ElementKind::NUMBER,
+      ElementKind::PHYS_UNIT,  ElementKind::STEP_SIZE,
   };
 };
 
@@ -163,9 +166,11 @@ struct VoA2LElementTypedefMeasurement final
       Real<&Self::LOWER_LIMIT>,      Real<&Self::UPPER_LIMIT>,
   };
   static constexpr std::uint32_t revision = kRevision171;
-  static constexpr Kind accepts[] = {
-      Kind::ADDRESS_TYPE, Kind::BIT_MASK, Kind::BIT_OPERATION, Kind::BYTE_ORDER, Kind::DISCRETE,
-      Kind::ERROR_MASK,   Kind::FORMAT,   Kind::LAYOUT,        Kind::MATRIX_DIM, Kind::PHYS_UNIT,
+  static constexpr ElementKind accepts[] = {
+      ElementKind::ADDRESS_TYPE, ElementKind::BIT_MASK, ElementKind::BIT_OPERATION,
+      ElementKind::BYTE_ORDER,   ElementKind::DISCRETE, ElementKind::ERROR_MASK,
+      ElementKind::FORMAT,       ElementKind::LAYOUT,   ElementKind::MATRIX_DIM,
+      ElementKind::PHYS_UNIT,
   };
 };
 
@@ -180,11 +185,11 @@ struct VoA2LElementTypedefStructure final
       NextLine(Unsigned<&Self::SIZE>),
   };
   static constexpr std::uint32_t revision = kRevision171;
-  static constexpr Kind accepts[] = {
-      Kind::ADDRESS_TYPE,
-      Kind::CONSISTENT_EXCHANGE,
-      Kind::STRUCTURE_COMPONENT,
-      Kind::SYMBOL_TYPE_LINK,
+  static constexpr ElementKind accepts[] = {
+      ElementKind::ADDRESS_TYPE,
+      ElementKind::CONSISTENT_EXCHANGE,
+      ElementKind::STRUCTURE_COMPONENT,
+      ElementKind::SYMBOL_TYPE_LINK,
   };
 };
 

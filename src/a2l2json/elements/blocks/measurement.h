@@ -28,37 +28,38 @@ struct VoA2LElementMeasurement final
       Real<&Self::LOWER_LIMIT>,      Real<&Self::UPPER_LIMIT>,
   };
   static constexpr OnBadNumber onBadNumber = OnBadNumber::MarkAndGoOn;
-  static constexpr Kind accepts[] = {
-      Kind::ADDRESS_TYPE,
-      Kind::ANNOTATION,
-      Kind::ARRAY_SIZE,
-      Kind::BIT_MASK,
-      Kind::BIT_OPERATION,
-      Kind::BYTE_ORDER,
-      Kind::DISCRETE,
-      Kind::DISPLAY_IDENTIFIER,
-      Kind::ECU_ADDRESS,
-      Kind::ECU_ADDRESS_EXTENSION,
-      Kind::ERROR_MASK,
-      Kind::FORMAT,
-      Kind::FUNCTION_LIST,
-      Kind::IF_DATA,
-      Kind::LAYOUT,
-      Kind::MATRIX_DIM,
-      Kind::MAX_REFRESH,
-      Kind::MODEL_LINK,
-      Kind::PHYS_UNIT,
-      Kind::READ_WRITE,
-      Kind::REF_MEMORY_SEGMENT,
-      Kind::SYMBOL_LINK,
-      Kind::VIRTUAL,
+  static constexpr ElementKind accepts[] = {
+      ElementKind::ADDRESS_TYPE,
+      ElementKind::ANNOTATION,
+      ElementKind::ARRAY_SIZE,
+      ElementKind::BIT_MASK,
+      ElementKind::BIT_OPERATION,
+      ElementKind::BYTE_ORDER,
+      ElementKind::DISCRETE,
+      ElementKind::DISPLAY_IDENTIFIER,
+      ElementKind::ECU_ADDRESS,
+      ElementKind::ECU_ADDRESS_EXTENSION,
+      ElementKind::ERROR_MASK,
+      ElementKind::FORMAT,
+      ElementKind::FUNCTION_LIST,
+      ElementKind::IF_DATA,
+      ElementKind::LAYOUT,
+      ElementKind::MATRIX_DIM,
+      ElementKind::MAX_REFRESH,
+      ElementKind::MODEL_LINK,
+      ElementKind::PHYS_UNIT,
+      ElementKind::READ_WRITE,
+      ElementKind::REF_MEMORY_SEGMENT,
+      ElementKind::SYMBOL_LINK,
+      ElementKind::VIRTUAL,
   };
 };
 
 /// Shifts and sign extension that are applied to a raw value, in its children.
 struct VoA2LElementBitOperation final
     : detail::Block<VoA2LElementBitOperation, ElementKind::BIT_OPERATION> {
-  static constexpr Kind accepts[] = {Kind::LEFT_SHIFT, Kind::RIGHT_SHIFT, Kind::SIGN_EXTEND};
+  static constexpr ElementKind accepts[] = {ElementKind::LEFT_SHIFT, ElementKind::RIGHT_SHIFT,
+                                            ElementKind::SIGN_EXTEND};
 };
 
 }  // namespace a2l

@@ -25,16 +25,16 @@ struct VoA2LElementFrame final : detail::Block<VoA2LElementFrame, ElementKind::F
       NextLine(Unsigned<&Self::SCALING_UNIT>),
       Unsigned<&Self::RATE>,
   };
-  static constexpr Kind accepts[] = {Kind::FRAME_MEASUREMENT, Kind::IF_DATA};
+  static constexpr ElementKind accepts[] = {ElementKind::FRAME_MEASUREMENT, ElementKind::IF_DATA};
 };
 
 /// A labelled comment of several lines, in its children.
 struct VoA2LElementAnnotation final
     : detail::Block<VoA2LElementAnnotation, ElementKind::ANNOTATION> {
-  static constexpr Kind accepts[] = {
-      Kind::ANNOTATION_LABEL,
-      Kind::ANNOTATION_ORIGIN,
-      Kind::ANNOTATION_TEXT,
+  static constexpr ElementKind accepts[] = {
+      ElementKind::ANNOTATION_LABEL,
+      ElementKind::ANNOTATION_ORIGIN,
+      ElementKind::ANNOTATION_TEXT,
   };
 };
 
@@ -44,7 +44,7 @@ struct VoA2LElementArComponent final
   std::string_view COMPONENT_TYPE;
   static constexpr Parameter parameters[] = {NextLine(Text<&Self::COMPONENT_TYPE>)};
   static constexpr std::uint32_t revision = kRevision171;
-  static constexpr Kind accepts[] = {Kind::AR_PROTOTYPE_OF};
+  static constexpr ElementKind accepts[] = {ElementKind::AR_PROTOTYPE_OF};
 };
 
 struct VoA2LElementCalibrationMethod final
@@ -57,7 +57,7 @@ struct VoA2LElementCalibrationMethod final
       NextLine(Text<&Self::METHOD>),
       Unsigned<&Self::VERSION>,
   };
-  static constexpr Kind accepts[] = {Kind::CALIBRATION_HANDLE};
+  static constexpr ElementKind accepts[] = {ElementKind::CALIBRATION_HANDLE};
 };
 
 /// Numbers that a calibration method goes by. A CALIBRATION_HANDLE_TEXT behind the numbers on
@@ -67,9 +67,9 @@ struct VoA2LElementCalibrationHandle final
     : detail::Block<VoA2LElementCalibrationHandle, ElementKind::CALIBRATION_HANDLE> {
   List<std::int32_t> HANDLE;
   static constexpr Parameter parameters[] = {
-      EndedBy(Kind::CALIBRATION_HANDLE_TEXT,
+      EndedBy(ElementKind::CALIBRATION_HANDLE_TEXT,
               WithoutBlanks(KeepingWrong(InHex(SignedList<&Self::HANDLE>))))};
-  static constexpr Kind accepts[] = {Kind::CALIBRATION_HANDLE_TEXT};
+  static constexpr ElementKind accepts[] = {ElementKind::CALIBRATION_HANDLE_TEXT};
 
  protected:
   VoA2LElement* MakeChildInList() override;
@@ -99,9 +99,9 @@ struct VoA2LElementTransformer final
       Dropped(Identifier<&Self::INVERSE_TRANSFORMER>),
   };
   static constexpr std::uint32_t revision = kRevision171;
-  static constexpr Kind accepts[] = {
-      Kind::TRANSFORMER_IN_OBJECTS,
-      Kind::TRANSFORMER_OUT_OBJECTS,
+  static constexpr ElementKind accepts[] = {
+      ElementKind::TRANSFORMER_IN_OBJECTS,
+      ElementKind::TRANSFORMER_OUT_OBJECTS,
   };
 };
 
@@ -116,10 +116,10 @@ struct VoA2LElementUnit final : detail::Block<VoA2LElementUnit, ElementKind::UNI
       NextLine(Text<&Self::DISPLAY>),
       Word<&Self::UNIT_TYPE>,
   };
-  static constexpr Kind accepts[] = {
-      Kind::REF_UNIT,
-      Kind::SI_EXPONENTS,
-      Kind::UNIT_CONVERSION,
+  static constexpr ElementKind accepts[] = {
+      ElementKind::REF_UNIT,
+      ElementKind::SI_EXPONENTS,
+      ElementKind::UNIT_CONVERSION,
   };
 };
 
@@ -128,7 +128,7 @@ struct VoA2LElementUserRights final
     : detail::Block<VoA2LElementUserRights, ElementKind::USER_RIGHTS> {
   std::string_view USER_LEVEL_ID;
   static constexpr Parameter parameters[] = {NextLine(Identifier<&Self::USER_LEVEL_ID>)};
-  static constexpr Kind accepts[] = {Kind::READ_ONLY, Kind::REF_GROUP};
+  static constexpr ElementKind accepts[] = {ElementKind::READ_ONLY, ElementKind::REF_GROUP};
 };
 
 /// The measurements that a virtual one is computed from.

@@ -21,13 +21,13 @@ struct VoA2LElementProject final : detail::Block<VoA2LElementProject, ElementKin
   std::string_view NAME;
   std::string_view LONG_IDENTIFIER;
   static constexpr Parameter parameters[] = {Identifier<&Self::NAME>, Text<&Self::LONG_IDENTIFIER>};
-  static constexpr Kind accepts[] = {Kind::HEADER, Kind::MODULE};
+  static constexpr ElementKind accepts[] = {ElementKind::HEADER, ElementKind::MODULE};
 };
 
 struct VoA2LElementHeader final : detail::Block<VoA2LElementHeader, ElementKind::HEADER> {
   std::string_view COMMENT;
   static constexpr Parameter parameters[] = {Text<&Self::COMMENT>};
-  static constexpr Kind accepts[] = {Kind::PROJECT_NO, Kind::VERSION};
+  static constexpr ElementKind accepts[] = {ElementKind::PROJECT_NO, ElementKind::VERSION};
 };
 
 /// The described objects of one control unit.
@@ -35,33 +35,33 @@ struct VoA2LElementModule final : detail::Block<VoA2LElementModule, ElementKind:
   std::string_view NAME;
   std::string_view LONG_IDENTIFIER;
   static constexpr Parameter parameters[] = {Identifier<&Self::NAME>, Text<&Self::LONG_IDENTIFIER>};
-  static constexpr Kind accepts[] = {
-      Kind::A2ML,
-      Kind::AXIS_PTS,
-      Kind::BLOB,
-      Kind::CHARACTERISTIC,
-      Kind::COMPU_METHOD,
-      Kind::COMPU_TAB,
-      Kind::COMPU_VTAB,
-      Kind::COMPU_VTAB_RANGE,
-      Kind::FRAME,
-      Kind::FUNCTION,
-      Kind::GROUP,
-      Kind::IF_DATA,
-      Kind::INSTANCE,
-      Kind::MEASUREMENT,
-      Kind::MOD_COMMON,
-      Kind::MOD_PAR,
-      Kind::RECORD_LAYOUT,
-      Kind::TRANSFORMER,
-      Kind::TYPEDEF_AXIS,
-      Kind::TYPEDEF_BLOB,
-      Kind::TYPEDEF_CHARACTERISTIC,
-      Kind::TYPEDEF_MEASUREMENT,
-      Kind::TYPEDEF_STRUCTURE,
-      Kind::UNIT,
-      Kind::USER_RIGHTS,
-      Kind::VARIANT_CODING,
+  static constexpr ElementKind accepts[] = {
+      ElementKind::A2ML,
+      ElementKind::AXIS_PTS,
+      ElementKind::BLOB,
+      ElementKind::CHARACTERISTIC,
+      ElementKind::COMPU_METHOD,
+      ElementKind::COMPU_TAB,
+      ElementKind::COMPU_VTAB,
+      ElementKind::COMPU_VTAB_RANGE,
+      ElementKind::FRAME,
+      ElementKind::FUNCTION,
+      ElementKind::GROUP,
+      ElementKind::IF_DATA,
+      ElementKind::INSTANCE,
+      ElementKind::MEASUREMENT,
+      ElementKind::MOD_COMMON,
+      ElementKind::MOD_PAR,
+      ElementKind::RECORD_LAYOUT,
+      ElementKind::TRANSFORMER,
+      ElementKind::TYPEDEF_AXIS,
+      ElementKind::TYPEDEF_BLOB,
+      ElementKind::TYPEDEF_CHARACTERISTIC,
+      ElementKind::TYPEDEF_MEASUREMENT,
+      ElementKind::TYPEDEF_STRUCTURE,
+      ElementKind::UNIT,
+      ElementKind::USER_RIGHTS,
+      ElementKind::VARIANT_CODING,
   };
 };
 
@@ -69,23 +69,23 @@ struct VoA2LElementModule final : detail::Block<VoA2LElementModule, ElementKind:
 struct VoA2LElementModPar final : detail::Block<VoA2LElementModPar, ElementKind::MOD_PAR> {
   std::string_view COMMENT;
   static constexpr Parameter parameters[] = {Text<&Self::COMMENT>};
-  static constexpr Kind accepts[] = {
-      Kind::ADDR_EPK,
-      Kind::CALIBRATION_METHOD,
-      Kind::CPU_TYPE,
-      Kind::CUSTOMER,
-      Kind::CUSTOMER_NO,
-      Kind::ECU,
-      Kind::ECU_CALIBRATION_OFFSET,
-      Kind::EPK,
-      Kind::MEMORY_LAYOUT,
-      Kind::MEMORY_SEGMENT,
-      Kind::NO_OF_INTERFACES,
-      Kind::PHONE_NO,
-      Kind::SUPPLIER,
-      Kind::SYSTEM_CONSTANT,
-      Kind::USER,
-      Kind::VERSION,
+  static constexpr ElementKind accepts[] = {
+      ElementKind::ADDR_EPK,
+      ElementKind::CALIBRATION_METHOD,
+      ElementKind::CPU_TYPE,
+      ElementKind::CUSTOMER,
+      ElementKind::CUSTOMER_NO,
+      ElementKind::ECU,
+      ElementKind::ECU_CALIBRATION_OFFSET,
+      ElementKind::EPK,
+      ElementKind::MEMORY_LAYOUT,
+      ElementKind::MEMORY_SEGMENT,
+      ElementKind::NO_OF_INTERFACES,
+      ElementKind::PHONE_NO,
+      ElementKind::SUPPLIER,
+      ElementKind::SYSTEM_CONSTANT,
+      ElementKind::USER,
+      ElementKind::VERSION,
   };
 };
 
@@ -93,18 +93,18 @@ struct VoA2LElementModPar final : detail::Block<VoA2LElementModPar, ElementKind:
 struct VoA2LElementModCommon final : detail::Block<VoA2LElementModCommon, ElementKind::MOD_COMMON> {
   std::string_view COMMENT;
   static constexpr Parameter parameters[] = {Text<&Self::COMMENT>};
-  static constexpr Kind accepts[] = {
-      Kind::ALIGNMENT_BYTE,
-      Kind::ALIGNMENT_FLOAT16_IEEE,
-      Kind::ALIGNMENT_FLOAT32_IEEE,
-      Kind::ALIGNMENT_FLOAT64_IEEE,
-      Kind::ALIGNMENT_INT64,
-      Kind::ALIGNMENT_LONG,
-      Kind::ALIGNMENT_WORD,
-      Kind::BYTE_ORDER,
-      Kind::DATA_SIZE,
-      Kind::DEPOSIT,
-      Kind::S_REC_LAYOUT,
+  static constexpr ElementKind accepts[] = {
+      ElementKind::ALIGNMENT_BYTE,
+      ElementKind::ALIGNMENT_FLOAT16_IEEE,
+      ElementKind::ALIGNMENT_FLOAT32_IEEE,
+      ElementKind::ALIGNMENT_FLOAT64_IEEE,
+      ElementKind::ALIGNMENT_INT64,
+      ElementKind::ALIGNMENT_LONG,
+      ElementKind::ALIGNMENT_WORD,
+      ElementKind::BYTE_ORDER,
+      ElementKind::DATA_SIZE,
+      ElementKind::DEPOSIT,
+      ElementKind::S_REC_LAYOUT,
   };
 };
 
@@ -121,7 +121,7 @@ struct VoA2LElementMemoryLayout final
       Hex<&Self::SIZE>,
       SignedNumbers<&Self::OFFSET>,
   };
-  static constexpr Kind accepts[] = {Kind::IF_DATA};
+  static constexpr ElementKind accepts[] = {ElementKind::IF_DATA};
 };
 
 /// A part of memory; belongs into MOD_PAR.
@@ -145,7 +145,7 @@ struct VoA2LElementMemorySegment final
       Hex<&Self::SIZE>,
       NextLine(SignedNumbers<&Self::OFFSET>),
   };
-  static constexpr Kind accepts[] = {Kind::IF_DATA};
+  static constexpr ElementKind accepts[] = {ElementKind::IF_DATA};
 };
 
 }  // namespace a2l

@@ -11,9 +11,9 @@ namespace a2l {
 
 struct VoA2LElementVariantCoding final
     : detail::Block<VoA2LElementVariantCoding, ElementKind::VARIANT_CODING> {
-  static constexpr Kind accepts[] = {
-      Kind::VAR_CHARACTERISTIC, Kind::VAR_CRITERION, Kind::VAR_FORBIDDEN_COMB,
-      Kind::VAR_NAMING,         Kind::VAR_SEPARATOR,
+  static constexpr ElementKind accepts[] = {
+      ElementKind::VAR_CHARACTERISTIC, ElementKind::VAR_CRITERION, ElementKind::VAR_FORBIDDEN_COMB,
+      ElementKind::VAR_NAMING,         ElementKind::VAR_SEPARATOR,
   };
 };
 
@@ -28,9 +28,9 @@ struct VoA2LElementVarCriterion final
       Text<&Self::LONG_IDENTIFIER>,
       Adding(Identifiers<&Self::VALUE>),
   };
-  static constexpr Kind accepts[] = {
-      Kind::VAR_MEASUREMENT,
-      Kind::VAR_SELECTION_CHARACTERISTIC,
+  static constexpr ElementKind accepts[] = {
+      ElementKind::VAR_MEASUREMENT,
+      ElementKind::VAR_SELECTION_CHARACTERISTIC,
   };
 };
 
@@ -43,7 +43,7 @@ struct VoA2LElementVarCharacteristic final
       Identifier<&Self::NAME>,
       Adding(Identifiers<&Self::CRITERION_NAME>),
   };
-  static constexpr Kind accepts[] = {Kind::VAR_ADDRESS};
+  static constexpr ElementKind accepts[] = {ElementKind::VAR_ADDRESS};
 };
 
 /// The addresses of a variant-coded characteristic.

@@ -30,7 +30,7 @@ struct VoA2LElementCalibrationHandleText final
     : detail::Property<VoA2LElementCalibrationHandleText, ElementKind::CALIBRATION_HANDLE_TEXT> {
   std::string_view HANDLE_TEXT;
   static constexpr Parameter parameters[] = {Text<&Self::HANDLE_TEXT>};
-  static constexpr Kind writtenAs = Kind::CALIBRATION_ACCESS;
+  static constexpr ElementKind writtenAs = ElementKind::CALIBRATION_ACCESS;
 };
 
 /// Processor of the control unit.
