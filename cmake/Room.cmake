@@ -5,8 +5,8 @@ include_guard(GLOBAL)
 # a2l2json_room(<name> SOURCES <file>... [FILE_SOURCES <file>...] [LINKS <target>...]
 #               [PRIVATE_LINKS <target>...])
 #
-# One static library per folder ("room") of the program. Headers are included by their path from
-# the top of the repository, as in #include "a2l2json/model/element.h". FILE_SOURCES open files; they
+# One static library per folder ("room") of the program. Headers are included by their path below
+# src/, as in #include "a2l2json/model/element.h". FILE_SOURCES open files; they
 # are left out if A2L2JSON_FILES is off. LINKS are visible to whoever links the room, PRIVATE_LINKS
 # only to the room's own sources.
 #

@@ -8,8 +8,7 @@ namespace a2l::fuzz {
 /// True if the tree, written as A2L text and read again, must be written the same. That is not
 /// promised for a tree with
 ///
-/// - a TRANSFORMER, or a list of its objects that is not empty, because their texts are written
-/// without
+/// - a TRANSFORMER, or a list of its objects that is not empty: their texts are written without
 ///   quotes;
 /// - a CALIBRATION_HANDLE_TEXT, which is written under another keyword;
 /// - an A2ML, which is written with an indentation that then counts as part of its text;
@@ -19,8 +18,7 @@ namespace a2l::fuzz {
 /// - a name with quotes that is not one quoted text, or was cut so that it ends with white space;
 /// - a name or a line of kept text that holds the marks of a comment;
 /// - a name of interface data that holds /begin or /end, or goes on over lines, if the first of
-/// these
-///   ends with white space;
+///   these ends with white space;
 /// - a name that is a keyword, if it begins a line of a list;
 /// - a text that ends with a backslash, because the quote behind it does not close the text;
 /// - a table with more or fewer rows than declared;

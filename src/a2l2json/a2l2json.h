@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// All of the library (but for the document as a json11 value: export/json11_document.h):
+// The whole library, except for the document as a json11 value (export/json11_document.h):
 //
 //   const a2l::ReadResult file = a2l::ReadFile("engine.a2l");
 //   for (const a2l::Diagnostic& diagnostic : file.diagnostics) std::cerr << diagnostic.Text();
@@ -9,8 +9,9 @@
 //       std::cout << measurement.NAME << " at " << address->ECU_ADDRESS << '\n';
 //   if (file) a2l::WriteJson(*file.tree, std::cout);
 //
-// Names in a2l::detail are not for use. Where a name of the library is a macro, as BYTE_ORDER is on
-// Linux, it is to be had with an underscore behind it: see names_begin.h.
+// Do not use the names in a2l::detail: they may change. If a name of the library is a macro in your
+// file, as BYTE_ORDER is with some headers of Linux, write it with an underscore at its end; see
+// names_begin.h.
 #pragma once
 
 #include "a2l2json/elements/elements.h"

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 //
 // Some of our names are macros elsewhere: BYTE_ORDER in the headers of the C library, GROUP_NAME,
-// min and max in those of Windows, and VERSION on the command line of many projects. Each header of
-// ours that has such a name sets the macros aside behind all that it includes, and puts them back
-// at its end (names_end.h), so that neither side notices the other.
+// min and max in those of Windows, and VERSION on the command line of many projects. Each of our
+// headers that has such a name sets these macros aside after its includes, and puts them back at
+// its end (names_end.h). So neither side notices the other.
 //
-// In a file where such a macro is defined, a user's code cannot say the name as it stands. It can
-// say it with an underscore: ElementKind::BYTE_ORDER_, header.VERSION_(). Or it includes this file
-// behind all others, which ends the macros there.
+// Where such a macro is defined, users cannot write the name itself. They can write it with an
+// underscore at its end: ElementKind::BYTE_ORDER_, header.VERSION_(). Or they include this file
+// after all others, which ends the macros in their file.
 //
-// Every header includes this anew, hence no #pragma once.
+// There is no #pragma once, because every header includes this again.
 
 #pragma push_macro("BYTE_ORDER")
 #undef BYTE_ORDER

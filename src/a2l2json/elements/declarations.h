@@ -125,7 +125,7 @@ struct Declaration {
   std::span<const Parameter> parameters;
   /// The columns of the rows that follow the parameters; empty where there are none.
   std::span<const Parameter> columns;
-  /// The index of the parameter that tells how many rows there are; of no meaning without columns.
+  /// The index of the parameter that tells how many rows there are; meaningless without columns.
   std::size_t rowCount = 0;
   /// Tokens that must be there before the parameters are read, or kOpenParameterList.
   std::uint32_t paramCount = 0;
@@ -152,7 +152,7 @@ struct Declaration {
 /// What the class of `kind` declares. The root (KIND_ROOT) and unknown blocks (KIND_UNKNOWN) have
 /// a declaration, too: the former has no keyword, the latter any keyword that is not known. Null
 /// for kinds that no element can have: ENCODING, which the reader does not support, and numbers
-/// that are no keyword's. Whether a kind is a block or a property, IsBlock and IsProperty tell.
+/// that are no keyword's. IsBlock and IsProperty tell whether a kind is a block or a property.
 [[nodiscard]] const Declaration* DeclarationOf(ElementKind kind);
 
 }  // namespace a2l::detail

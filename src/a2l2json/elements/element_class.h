@@ -6,12 +6,12 @@
 //
 //   parameters   the parameters, in the words of parameters.h; none by default
 //   columns      the columns of the rows behind the parameters; none by default
-//   accepts      blocks: the kinds of children in the order of their keywords, KIND_UNKNOWN
-//                understood; by default those of the base element, which are not written
-//   onBadNumber  what a wrong number among the parameters does; the first one ends the read by
-//                default
-//   revision     the revision of the standard, where it is not 1.6.0
-//   writtenAs    the keyword that is written, where it is another one
+//   accepts      blocks: the kinds of children, in the order of their keywords (KIND_UNKNOWN is
+//                always accepted); by default those of the base element, which are not written
+//   onBadNumber  what a wrong number among the parameters does; by default, the first one ends
+//                the read
+//   revision     the revision of the standard, if it is not 1.6.0
+//   writtenAs    the keyword that is written, if it is another one
 //
 // The few classes that differ in something else override one operation, beside their declaration.
 #pragma once

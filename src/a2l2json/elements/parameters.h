@@ -244,7 +244,7 @@ struct ParameterWords {
     return parameter;
   }();
 
-  // What can be said of a parameter besides.
+  // What else a parameter can be.
 
   /// It begins the next of the lines that a block writes.
   static consteval Parameter NextLine(Parameter parameter) {

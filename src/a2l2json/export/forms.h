@@ -201,7 +201,7 @@ constexpr ClassForm Joined() {
   }});
 }
 
-/// A list of texts as one text, its items one behind the other.
+/// A list of texts as one text, its items joined without a separator.
 template <auto kMember>
 constexpr ClassForm Concatenated() {
   return OfField<kMember>(BuiltTextForm{[](const VoA2LElement& element, std::string& text) {

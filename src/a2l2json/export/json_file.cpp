@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The part of the export that opens files. It is left out where there are none.
+// The part of the export that opens files. Builds for systems without files leave it out.
 #include <fstream>
 
 #include "a2l2json/export/json_writer.h"

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What the documents of this program look like, for those who read them: told from the tables
-// that they are written by.
+// The JSON Schema of the documents. It is made from the tables that the documents are made from.
 #pragma once
 
 #include <string>

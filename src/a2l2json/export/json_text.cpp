@@ -170,7 +170,8 @@ void JsonText::LongString(std::string_view text) {
 
 char* JsonText::ReserveEscaped(std::size_t size) {
   constexpr std::size_t kMore = bytes::kBlock + std::string_view("\"\"").size();
-  static_assert(kPieceSize * kMostEscapeBytes + kMore <= kBufferSize);
+  static_assert(kPieceSize * kMostEscapeBytes + kMore <= kBufferSize,
+                "a piece may not fit the buffer if each of its bytes needs an escape");
   Reserve(size * kMostEscapeBytes + kMore);
   return End();
 }

@@ -8,8 +8,8 @@
 
 namespace a2l {
 
-/// Writes the JSON document of a tree to a file. A writer is used in one thread at a time; the tree
-/// is not changed, here or by the functions below, so that several threads may export one tree.
+/// Writes the JSON document of a tree to a file. Use a writer in one thread at a time. Neither it
+/// nor the functions below change the tree, so several threads may export one tree.
 class JsonWriter {
  public:
   /// Writes the document of the tree below `root` to the file at `path` (on Windows UTF-8),
@@ -18,13 +18,13 @@ class JsonWriter {
   bool Export(const std::string& path, const VoA2LElement* root);
 };
 
-/// The JSON document of the tree below `root`, which is the root of a tree (the document of any
-/// other element has nothing in it): one line without a line feed. Memory that runs out
-/// gives std::bad_alloc; nothing else can go wrong.
+/// The JSON document of the tree below `root`: one line without a line feed. `root` must be the
+/// root of a tree; any other element gives the document of an empty file. Throws std::bad_alloc if
+/// memory runs out, and nothing else.
 [[nodiscard]] std::string ToJson(const VoA2LElement& root);
 
-/// The same into any stream, piece by piece, so that it is never in memory as a whole. Whether all
-/// of it was taken, the stream tells: see its good().
+/// Writes the document to any stream, piece by piece, so that it is never in memory as a whole. The
+/// stream tells whether it took everything: see its good().
 void WriteJson(const VoA2LElement& root, std::ostream& out);
 
 }  // namespace a2l

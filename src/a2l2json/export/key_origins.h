@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What the documentation says of each key: where its value comes from, and what stands there
-// without it.
+// What the documentation says of each key: where its value comes from, and what the document has if
+// the file has no such value.
 #pragma once
 
 #include <string>
@@ -24,8 +24,8 @@ namespace a2l {
 /// The origins that are written down for a key that no object has, as "OBJECT KEY".
 [[nodiscard]] std::vector<std::string> OriginsWithoutKey();
 
-/// True for a word that no file can give, because a word in front of it is part of it: only code
-/// that sets it brings it into a document.
+/// True for a word that is never read from a file, because an earlier word of the table is part of
+/// it. It gets into a document only if a program sets it.
 [[nodiscard]] bool IsNeverRead(const WordTable& table, const Word& word);
 
 }  // namespace a2l

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The JSON value of each kind of element that appears inside an object: the same wherever the
-// kind appears. It is the field that has the name of the keyword, as what it is; kOtherForms lists
-// what differs.
+// The JSON value of each kind of element that appears inside an object. It is the same in every
+// object: the value of the field that has the name of the keyword. kOtherForms lists the
+// exceptions.
 #pragma once
 
 #include <algorithm>
@@ -139,9 +139,9 @@ inline constexpr ObjectTable kPosition = MakeTable<Class, kPositionRows<Class>>(
 /// An object with a table of its own.
 constexpr ClassForm Object(const ObjectTable& table) { return {&table, table.kinds}; }
 
-/// The forms of the classes whose elements are not the field that has the name of the keyword.
+/// The forms of the classes whose value is not the field that has the name of the keyword.
 inline constexpr ClassForm kOtherForms[] = {
-    // All lines of the text, one behind the other.
+    // All lines of the text, joined.
     Concatenated<&VoA2LElementAnnotationText::TEXT_LIST>(),
     Value<&VoA2LElementArComponent::COMPONENT_TYPE>(),
     Object(tables::kAxisPtsEntry),

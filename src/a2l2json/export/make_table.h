@@ -49,8 +49,8 @@ constexpr ElementKind FirstKind() {
   }
 }
 
-// The children of a class that keys are for: blocks that declare none accept those of the root all
-// the same, as a file may have them anywhere, and no object shows them.
+// The children of a class that need a key. A class that declares no children accepts those of the
+// root, because a file may have them anywhere, but no object shows them.
 template <class Class>
 constexpr KindSet Children() {
   if constexpr (std::is_same_v<Class, VoA2LElement>) {
@@ -62,7 +62,7 @@ constexpr KindSet Children() {
   }
 }
 
-// What each check looks for, as a kind that the compiler prints; KIND_ROOT where nothing is wrong.
+// The kind that each check finds, which the compiler prints; KIND_ROOT if nothing is wrong.
 struct Faults {
   ElementKind ownerOfField = KIND_ROOT;
   ElementKind notAccepted = KIND_ROOT;
@@ -146,7 +146,7 @@ consteval void Check() {
 template <class Class, const auto& kRows, ElementKind... kWithoutKey>
 consteval ObjectTable MakeTable() {
   table_checks::Check<Class, kRows, kWithoutKey...>();
-  static_assert(std::size(kRows) <= RowSet::kMost);
+  static_assert(std::size(kRows) <= RowSet::kMost, "a table has more rows than a RowSet can hold");
   ObjectTable table{{}, kRows, kPrepared<kRows>.Text(), kPrepared<kRows>.Rows(), {}, {}};
   if constexpr (!std::is_same_v<Class, VoA2LElement>) table.kinds = Class::kinds;
   for (std::size_t i = 0; i < table.rows.size(); ++i) {

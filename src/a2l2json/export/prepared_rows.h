@@ -70,7 +70,7 @@ class PreparedRows {
     }
     return size;
   }
-  static_assert(Size() <= UINT16_MAX);
+  static_assert(Size() <= UINT16_MAX, "the text of a table is too long for the places of its rows");
 
   std::array<char, Size() + bytes::kBlock> text_{};
   std::array<RowText, kCount + 1> rows_{};

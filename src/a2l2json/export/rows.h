@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The rows of the tables, by what their values are made of. A row that says what cannot be ends
-// the build at its line: the compiler then names one of the functions in `no_such_row`.
+// The rows of the tables, by what their values are made of. A row that contradicts itself ends the
+// build at its line: the compiler then names one of the functions in `no_such_row`.
 #pragma once
 
 #include <algorithm>
@@ -15,7 +15,8 @@
 
 namespace a2l {
 
-// Only their names are of use: these functions are no constants, so a row must not call them.
+// Only their names matter: they tell the reader of an error what is wrong. A call of one of them
+// ends the build, because it is not a constant expression.
 namespace no_such_row {
 void TheKeyHoldsNoKeyword_GiveTheKindBehindIt();
 void TheKeyHoldsAKeyword_ItsKindCannotBeAnother();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Holds what the converter makes of the words of a file against what they mean, and reports where
-// the two differ.
+// Compares what the converter takes the words of a file for with what they mean, and reports the
+// differences.
 #pragma once
 
 #include <cstddef>

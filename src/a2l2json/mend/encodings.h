@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What the first bytes of a file say about all others.
+// The encoding of a file, by its first bytes, and its line ends.
 #pragma once
 
 #include <cstdint>
@@ -26,8 +26,9 @@ enum class Encoding : std::uint8_t {
 /// become the replacement character.
 [[nodiscard]] std::string Utf8Of(std::string_view bytes, Encoding encoding);
 
-/// Carriage returns as line feeds, where there is no line feed: the lines of such a text end in
-/// them. Gives false, and changes nothing, where there is one, or no carriage return.
+/// If the lines of `text` end in carriage returns alone, gives true, and `changed` is the text with
+/// line feeds in their place. Otherwise, that is with a line feed or without a carriage return,
+/// gives false and changes nothing.
 bool MakeLineFeeds(std::string_view text, std::string& changed);
 
 }  // namespace a2l::mending

@@ -9,7 +9,7 @@
 
 namespace a2l {
 
-/// One thing that mending has to say. The views are valid while the finding is reported.
+/// One finding of mending. The views are valid while the finding is reported.
 struct Finding {
   MendRule rule = MendRule::Otherwise;
   /// The file as it was named: by the caller, or by the /include that led to it.

@@ -35,7 +35,7 @@ Mended Mend(std::string_view text, const MendOptions& options) {
   Walk walk(lexer, comparison, reporter, options);
   Mended result;
   result.text = walk.Run();
-  // What is no word of any A2L file must not be taken for a mark of an encoding.
+  // A word of nonsense at the beginning must not look like the mark of an encoding.
   const bool looksMarked =
       result.text.starts_with(kByteOrderMark) || EncodingOf(result.text) != Encoding::Bytes;
   if (looksMarked) result.text.insert(0, 2, '\n');

@@ -13,7 +13,7 @@
 
 namespace a2l {
 
-/// What came of the wish to read a file that another one includes.
+/// The result of reading a file that another one includes.
 struct IncludedFile {
   enum class Status : std::uint8_t {
     Read,
@@ -22,8 +22,8 @@ struct IncludedFile {
   };
   Status status = Status::Missing;
   std::string bytes;
-  /// The same for the same file, whatever the name that it was asked for by: what circles are
-  /// found by, and what names inside the file are relative to.
+  /// The same path for the same file, whatever name an /include gave it. It finds files that
+  /// include themselves, and names inside the file are relative to it.
   std::string path;
   /// For Missing and Refused, in a few words.
   std::string problem;

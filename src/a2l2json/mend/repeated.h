@@ -5,8 +5,8 @@
 
 namespace a2l::mending {
 
-/// True for the kinds of which the document holds as many as the file has. It has room for one of
-/// every other, in each block; a test holds this against the document.
+/// True for the kinds of which the document shows as many as a block has. Of every other kind, it
+/// shows one. A test compares this list with documents.
 [[nodiscard]] constexpr bool IsRepeated(ElementKind kind) {
   constexpr KindSet kRepeated = {
       ElementKind::ADDR_EPK,

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Everything that mending can have to say about a file. A rule's name is part of what users build
-// on: it stays, whatever becomes of its text.
+// Everything that mending can report about a file. Users rely on the names of the rules: a name
+// never changes, even if its texts do.
 #pragma once
 
 #include <cstddef>
@@ -64,11 +64,11 @@ enum class MendRule : std::uint8_t {
   CommentWithoutEnd,
 };
 
-/// What becomes of what a finding is about.
+/// What happens to the words that a finding is about.
 enum class MendOutcome : std::uint8_t {
-  Lost,       ///< the converter loses it; in the mended text it is there
-  Mended,     ///< the mended text says it in other bytes, which the converter can read
-  Unmendable  ///< no layout can help; the mended text has it as it is
+  Lost,       ///< the converter loses them, but not in the mended text
+  Mended,     ///< the mended text has them in other bytes, which the converter can read
+  Unmendable  ///< no layout can help; the mended text has them as they are
 };
 
 struct MendRuleRow {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Values that the document cannot have as the file has them, however the file is laid out.
+// Finds values that the document cannot hold as the file has them, whatever the layout.
 #pragma once
 
 #include <optional>
@@ -17,13 +17,13 @@ struct ValueTrouble {
   std::string becomes;
 };
 
-/// What is wrong with the value `word` of the parameter `parameter` of the keyword `kind`; nothing
-/// for most.
+/// What is wrong with `word` as a value of that parameter of the keyword `kind`; nothing if it is
+/// right.
 [[nodiscard]] std::optional<ValueTrouble> CheckValue(ElementKind kind,
                                                      const detail::Parameter& parameter,
                                                      std::string_view word);
 
-/// Whether the converter reads the word as a number, a rest included.
+/// Whether the converter reads a number from the word, even if more than the number is in it.
 [[nodiscard]] bool IsNumber(const detail::Parameter& parameter, std::string_view word);
 
 }  // namespace a2l::mending

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The way through the words of a file by the grammar of the format: what each word is, whether its
-// value can be held, and on which line it goes.
+// Goes through the words of a file with the grammar of the format. Decides what each word is,
+// whether the document can hold its value, and on which line it is written.
 #pragma once
 
 #include <cstddef>

@@ -29,9 +29,8 @@ inline constexpr std::uint32_t kOpenParameterList = 65535;
 /// was made without one (a plain root on the stack, say) gets its own when it first needs it.
 /// Either way, DestroyTree ends the tree; Tree (model/tree.h) does it by itself.
 ///
-/// An element is where it was made, and is neither copied nor moved: its children and its parent
-/// point to it. Elements are used in one thread at a time; several may look at one that no thread
-/// changes.
+/// Elements cannot be copied or moved, because their children and their parent point to them. One
+/// thread at a time may use a tree; if no thread changes it, several may look at it.
 class VoA2LElement {
  public:
   VoA2LElement() = default;
@@ -56,8 +55,8 @@ class VoA2LElement {
   /// The memory that this element and its tree lie in; see Store.
   TreeStore* store = nullptr;
 
-  /// The store. Where there is none yet, the parent's; without a parent a new one is made, and
-  /// this element is the root of its tree.
+  /// The store. An element without one gets that of its parent; without a parent, it gets a new
+  /// one and is the root of its tree.
   [[nodiscard]] TreeStore& Store() {
     if (store == nullptr) MakeStore();
     return *store;

@@ -6,9 +6,8 @@
 
 namespace a2l {
 
-/// The path of the file called `name`, in UTF-8 where the system's own names are wide characters,
-/// as on Windows, and in any bytes elsewhere. What is no UTF-8 there gives the empty path, which
-/// no file has.
+/// The path of the file called `name`. On Windows, `name` is UTF-8, and invalid UTF-8 gives an
+/// empty path, which no file has. On other systems it may be any bytes.
 [[nodiscard]] std::filesystem::path FilePath(std::string_view name);
 
 }  // namespace a2l

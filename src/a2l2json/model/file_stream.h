@@ -5,8 +5,8 @@
 
 namespace a2l {
 
-/// Whether `out` takes text: false for a stream that has failed, and for one of a file that is not
-/// open, which would let text go nowhere and say that all is well.
+/// Whether `out` takes text. False for a stream that has failed, and for the stream of a file that
+/// is not open: it would drop the text without an error.
 [[nodiscard]] bool TakesText(const std::ostream& out);
 
 }  // namespace a2l

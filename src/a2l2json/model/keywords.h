@@ -69,8 +69,7 @@ static_assert(GroupAt(3).first == 0,
 inline constexpr std::size_t kKeywordCount = std::size(detail::kKeywordNumbers);
 
 namespace detail {
-/// Per number up to the last of a keyword, the place of its keyword in the list; a number without a
-/// keyword has that behind KIND_UNKNOWN.
+/// The KindIndex of every number up to the last that a keyword has.
 inline constexpr auto kIndexOfNumber = [] {
   std::array<std::uint8_t, static_cast<std::size_t>(kProperties.last) + 1> indices{};
   indices.fill(kKeywordCount + 1);

@@ -15,8 +15,8 @@
 
 namespace a2l {
 
-/// The elements of `Class` below an element, by their NAME (groups by their GROUP_NAME). It keeps
-/// the names as views into the tree, and does not see what is changed there later.
+/// The elements of `Class` below an element, by their NAME (groups by their GROUP_NAME). The names
+/// are views into the tree. Later changes of the tree do not change the index.
 template <class Class>
 class NameIndex {
  public:
@@ -27,8 +27,8 @@ class NameIndex {
     }
   }
 
-  /// The element with that name, of several the first in the order of the file; null where there is
-  /// none. It takes the same time however many there are.
+  /// The element with that name, or null. If several have it, the first in the order of the file.
+  /// The time does not depend on the number of elements.
   [[nodiscard]] const Class* Find(std::string_view name) const {
     const auto found = elements_.find(name);
     return found == elements_.end() ? nullptr : found->second;

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 //
-// Owning a tree of elements, and finding in it what one looks for, by its class:
+// Owning a tree of elements, and finding elements in it by their class:
 //
 //   for (const auto& measurement : Descendants<VoA2LElementMeasurement>(*tree))
 //     if (const auto* address = FirstChild<VoA2LElementECUAddress>(measurement)) ...
 //   const auto* speed = FindByName<VoA2LElementMeasurement>(*tree, "EngineSpeed");
 //
-// VoA2LElement stands for every class. What is found in a const element is const. Nothing may be
-// added to the elements that a walk is passing through, or taken out of them. Texts of elements are
-// views, which end with their tree.
+// The class VoA2LElement finds elements of every class. What is found in a const element is const.
+// While a loop like the above runs, do not add or remove children of the elements it is in. Texts
+// of elements are views, which are valid as long as their tree.
 #pragma once
 
 #include <algorithm>
@@ -24,8 +24,8 @@
 
 namespace a2l {
 
-/// Owns a tree, a new and empty one at first, and destroys it with everything in it. It is used
-/// like a std::unique_ptr to the root, but the root of a const tree is const.
+/// Owns a tree and destroys it with everything in it; a new one is empty. Use it like a
+/// std::unique_ptr to the root, but the root of a const tree is const.
 class Tree {
  public:
   Tree() : Tree(NewTree()) {}
@@ -62,7 +62,7 @@ template <class Class>
   }
 }
 
-/// The element as one of `Class`; null where it is of another one.
+/// The element as one of `Class`; null if it is of another class.
 template <class Class>
 [[nodiscard]] const Class* As(const VoA2LElement& element) {
   return HasClass<Class>(element) ? static_cast<const Class*>(&element) : nullptr;
@@ -74,11 +74,11 @@ template <class Class>
 
 namespace detail {
 
-/// The end of every walk. (The one of <iterator> costs each user the streams that come with it.)
+/// The end of every walk. (With that of <iterator>, every user would also include streams.)
 struct EndOfWalk {};
 
-/// A range of elements of `Class`: of all elements that Steps::Next gives one after the other, null
-/// behind the last.
+/// A range: those of the elements that Steps::Next gives, one after the other, that are of `Class`.
+/// Steps::Next gives null at the end.
 template <class Class, class Steps>
 class Walk {
  public:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The part of the reader that opens files. It is left out where there are none.
+// The part of the reader that opens files. Builds for systems without files leave it out.
 #include <istream>
 
 #include "a2l2json/reader/a2l_reader.h"

@@ -13,20 +13,20 @@ namespace a2l {
 
 /// Reads A2L text into a tree of elements. Read and ReadFile (reader/read.h) do it in one call.
 ///
-/// The tree stays the caller's, and keeps nothing of the reader or of what was read: both may go
-/// before it. A reader is made for one file; what it has to say about further ones is appended.
+/// The tree belongs to the caller. It needs neither the reader nor the text afterwards. A reader is
+/// made for one file; the messages about further ones are appended.
 ///
-/// Use a reader and the tree that it fills in one thread at a time. There is no global state, so
-/// threads may read at the same time with a reader and a tree each, and a tree that nobody changes
-/// may be looked at and exported by several. The only exception thrown is std::bad_alloc, where
+/// Use a reader and the tree that it fills in one thread at a time. There is no global state:
+/// several threads may read at the same time, each with its own reader and tree. Several threads
+/// may look at a tree, and export it, if none changes it. The only exception is std::bad_alloc, if
 /// memory runs out.
 class A2LReader {
  public:
-  /// Reads the file at `path` (on Windows UTF-8); everything in it is attached below `root`, as a
-  /// rule a new tree (Tree, NewTree). True when the file was read to its end, with or without
-  /// warnings. False, and no message, when `root` is null or the file cannot be opened; false when
-  /// it cannot be read to its end (see fileError) or holds an error: the tree then has what was
-  /// read before.
+  /// Reads the file at `path` (on Windows UTF-8). Everything in it is attached below `root`, most
+  /// often that of a new tree (Tree, NewTree). True if the file was read to its end, with or
+  /// without warnings. False if the file holds an error; the tree then has what was read before.
+  /// Also false if the file cannot be opened or read completely (`fileError` says why, and there is
+  /// no message about it), or if `root` is null.
   bool Parse(const std::string& path, VoA2LElement* root);
 
   /// The same for text from any stream, which should be open in binary mode and, as every new
@@ -41,7 +41,7 @@ class A2LReader {
   std::string message;
   /// The same as data.
   std::vector<Diagnostic> diagnostics;
-  /// Why the last file, or stream, could not be opened or not read to its end.
+  /// Why the last file or stream could not be opened or read completely.
   FileError fileError = FileError::None;
 
  private:

@@ -31,7 +31,7 @@ class BlockParser {
   BlockParser(const BlockParser&) = delete;
   BlockParser& operator=(const BlockParser&) = delete;
 
-  /// Reads to the end; false at the first error, and when the input cannot be read on.
+  /// Reads to the end. False at the first error, and if the input cannot be read completely.
   bool Run();
 
  private:

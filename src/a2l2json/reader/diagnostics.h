@@ -8,7 +8,7 @@
 
 namespace a2l {
 
-/// Everything that the reader can have to say about a file.
+/// What a message of the reader is about.
 enum class DiagnosticKind : std::uint8_t {
   WrongParameters,      ///< parameters of a keyword could not be read
   NeedMoreParameters,   ///< a keyword ended before all its parameters were there
@@ -28,7 +28,7 @@ enum class Severity : std::uint8_t {
   Error,    ///< the read ended there
 };
 
-/// One thing the reader has to say.
+/// One message of the reader.
 struct Diagnostic {
   DiagnosticKind kind;
   /// Number of the physical line, the first being 1.
@@ -45,12 +45,12 @@ struct Diagnostic {
 
 /// Why a file could not be read.
 enum class FileError : std::uint8_t {
-  None,          ///< it could
+  None,          ///< it was read
   NotFound,      ///< no file has that name
   NoPermission,  ///< the system does not let this program read it
   IsFolder,      ///< the name is that of a folder
-  NotOpened,     ///< it is there, but cannot be opened for another reason
-  ReadFailed,    ///< it was opened, but could not be read to its end
+  NotOpened,     ///< it exists, but cannot be opened for another reason
+  ReadFailed,    ///< it was opened, but could not be read completely
 };
 
 /// The error in a few words, as in "there is no such file"; empty for None.

@@ -9,9 +9,9 @@
 
 namespace a2l {
 
-/// A file that is read, as the buffer of a stream. It knows why a file cannot be opened, which
-/// std::filebuf does not say, and tells a read that failed from the end of the file, which
-/// std::filebuf of some libraries does not: the stream then is bad().
+/// The buffer of a stream that reads a file. Unlike std::filebuf, it says why a file cannot be
+/// opened. It also tells a failed read from the end of the file, as not every std::filebuf does:
+/// the stream is then bad().
 class InputFile final : public std::streambuf {
  public:
   /// Opens the file at `path` (see FilePath).
@@ -20,7 +20,7 @@ class InputFile final : public std::streambuf {
   InputFile& operator=(const InputFile&) = delete;
   ~InputFile() override;
 
-  /// What went wrong up to now.
+  /// What has gone wrong so far.
   [[nodiscard]] FileError Error() const { return error_; }
 
  protected:

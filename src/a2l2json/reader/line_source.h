@@ -15,9 +15,9 @@ namespace a2l {
 /// ends at a line feed, or with the input where that ends without one; a carriage return is part
 /// of the line.
 ///
-/// The input is read in pieces, so that a large file need not fit into memory; a line that is
-/// longer than a piece makes the buffer grow. Each byte is looked at once, and what is seen on the
-/// way tells the reader of most lines that they hold no marker and no comment.
+/// The input is read in pieces, so that a large file need not fit into memory. A line that is
+/// longer than a piece makes the buffer grow. One look at each byte finds the ends of lines and the
+/// slashes. Most lines have no slash, so the reader knows that they hold no marker and no comment.
 class LineSource {
  public:
 #ifdef A2L2JSON_SMALL_BUFFERS

@@ -10,24 +10,25 @@
 
 namespace a2l {
 
-/// What a text or a file gave.
+/// The result of reading a text or a file.
 struct ReadResult {
-  /// What was read; after an error, what stands before it. Keeps nothing of the text or the file.
+  /// What was read; after an error, what was read before it. It needs neither text nor file any
+  /// more.
   Tree tree;
   /// Every warning and error, in the order of the file.
   std::vector<Diagnostic> diagnostics;
-  /// Why the file could not be opened, or not read to its end.
+  /// Why the file could not be opened or read completely.
   FileError fileError = FileError::None;
-  /// True when all was read, with or without warnings.
+  /// True if everything was read, with or without warnings.
   bool ok = false;
 
   explicit operator bool() const { return ok; }
 
-  /// All that there is to say, in lines: the diagnostics, then the file's error.
+  /// All messages, one per line: the diagnostics, then why the file could not be read.
   [[nodiscard]] std::string Message() const;
 };
 
-/// Reads A2L text. Memory that runs out gives std::bad_alloc; nothing else is thrown.
+/// Reads A2L text. Throws std::bad_alloc if memory runs out, and nothing else.
 [[nodiscard]] ReadResult Read(std::string_view text);
 
 /// The same for the file at `path` (on Windows UTF-8).

@@ -2,7 +2,7 @@
 //
 // Properties with a word of an enumeration. The word may be part of a longer one, and the words
 // are tried in the order of the tables: NO_CALIBRATION and OFFLINE_CALIBRATION are therefore
-// read as CALIBRATION. Code 0 is no word and writes nothing, but in ADDRESS_TYPE, where it is
+// read as CALIBRATION. Code 0 has no word and writes nothing, except in ADDRESS_TYPE, where it is
 // PBYTE.
 #pragma once
 
@@ -37,7 +37,7 @@ struct VoA2LElementDeposit final : detail::Property<VoA2LElementDeposit, Element
   static constexpr Parameter parameters[] = {Word<&Self::DEPOSIT>};
 };
 
-/// Order of the values of an array; without a word, or with an unknown one, neither.
+/// Order of the values of an array. A missing or unknown word is read as UNKNOWN.
 struct VoA2LElementLayout final : detail::Property<VoA2LElementLayout, ElementKind::LAYOUT> {
   Layout LAYOUT = Layout::ROW_DIR;
   static constexpr Parameter parameters[] = {Word<&Self::LAYOUT>};

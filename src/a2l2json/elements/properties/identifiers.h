@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Properties with one identifier: the name of another object, as a rule. Any token is accepted,
-// none at all included; quotes are kept.
+// Properties with one identifier, most often the name of another object. Every token is accepted,
+// and so is a missing one. Quotes are kept.
 #pragma once
 
 #include "a2l2json/elements/element_class.h"
