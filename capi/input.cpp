@@ -31,9 +31,11 @@ constexpr std::array kBeginnings = {
     Beginning{R"({")"sv, "It is JSON: was the output handed in?"},
 };
 
-static_assert(std::ranges::all_of(kBeginnings, [](const Beginning& beginning) {
-  return beginning.bytes.size() <= kLookedAt;
-}));
+static_assert(std::ranges::all_of(kBeginnings,
+                                  [](const Beginning& beginning) {
+                                    return beginning.bytes.size() <= kLookedAt;
+                                  }),
+              "a beginning has more bytes than are looked at");
 
 }  // namespace
 
