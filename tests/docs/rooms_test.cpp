@@ -50,7 +50,7 @@ TEST(Rooms, OfTheLibraryAreInTheTable) {
 }
 
 TEST(Rooms, IncludeOnlyWhatTheyKnow) {
-  const std::regex include("#include \"(?:a2l2json/)?([a-z0-9_]+(?:\\.h)?)[/\"]");
+  const std::regex include(R"x(#include "(?:a2l2json/)?([a-z0-9_]+(?:\.h)?)[/"])x");
   std::size_t sources = 0;
   for (const auto& [room, known] : KnownRooms()) {
     ASSERT_TRUE(fs::is_directory(FolderOf(room))) << room;
