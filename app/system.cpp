@@ -51,6 +51,7 @@ void RestoreConsole() {
 }
 
 void PassBytesThrough() {
+  _setmode(_fileno(stdin), _O_BINARY);
   _setmode(_fileno(stdout), _O_BINARY);
   DWORD mode = 0;
   if (GetConsoleMode(GetStdHandle(STD_OUTPUT_HANDLE), &mode) == 0) return;
@@ -66,6 +67,8 @@ void BeginProcess(int& argc, char**& argv) {
   PassBytesThrough();
 }
 
+bool ErrorsAreSeen() { return _isatty(_fileno(stderr)) != 0; }
+
 void EndAtOnce(int code) {
   RestoreConsole();
   std::_Exit(code);
@@ -77,9 +80,13 @@ void EndAtOnce(int code) {
 
 #include <csignal>
 
+#include <unistd.h>
+
 namespace a2l {
 
 void BeginProcess(int& /*argc*/, char**& /*argv*/) { std::signal(SIGPIPE, SIG_IGN); }
+
+bool ErrorsAreSeen() { return isatty(STDERR_FILENO) != 0; }
 
 void EndAtOnce(int code) { std::_Exit(code); }
 

@@ -11,6 +11,9 @@ namespace a2l {
 /// process goes on.
 void BeginProcess(int& argc, char**& argv);
 
+/// Whether standard error is a terminal.
+bool ErrorsAreSeen();
+
 /// Ends the process without destroying anything. Output that was not flushed is lost.
 [[noreturn]] void EndAtOnce(int code);
 

@@ -5,11 +5,13 @@
 #   json11::json11        the document as a json11       if it is installed; always with
 #                         value, tests                   A2L2JSON_JSON11, and for tests,
 #                                                        benchmarks and fuzz targets
+#   CLI11::CLI11          arguments of a2lmend           if it is installed; always for tests
+#   Iconv::Iconv          encodings for a2lmend          if the system has it
 #   GTest::gtest_main     unit tests                     with A2L2JSON_BUILD_TESTS
 #   benchmark::benchmark  benchmarks                     with A2L2JSON_BUILD_BENCH
 #   {fmt}                 text of the generator there    with A2L2JSON_BUILD_BENCH
 #
-# The program and the library need only the C++ standard library.
+# The converter and the library need only the C++ standard library.
 #
 # `make deps` installs all of them once; configuring needs no network after that.
 
@@ -20,6 +22,37 @@ include("${CMAKE_CURRENT_LIST_DIR}/InstalledJson11.cmake")
 # another one, the sources of GoogleTest and json11 will do; Debian has these as well.
 option(A2L2JSON_LIBRARIES_FROM_SOURCE
        "Compile GoogleTest and json11 from sources, for another system or standard library" OFF)
+
+# ---------------------------------------------------------------------------------------------
+# CLI11, and iconv, which is part of the C library or a library of its own
+
+# CLI11::CLI11 from the headers of the system that builds. They are reached through a link, because
+# the folder that they are in has the headers of the C library as well.
+function(a2l2json_take_cli11_headers)
+  find_path(A2L2JSON_CLI11_HEADERS CLI/CLI.hpp PATHS /usr/include NO_CMAKE_FIND_ROOT_PATH)
+  mark_as_advanced(A2L2JSON_CLI11_HEADERS)
+  if(NOT A2L2JSON_CLI11_HEADERS)
+    return()
+  endif()
+  set(folder "${PROJECT_BINARY_DIR}/libraries/cli11")
+  file(MAKE_DIRECTORY "${folder}")
+  file(CREATE_LINK "${A2L2JSON_CLI11_HEADERS}/CLI" "${folder}/CLI" SYMBOLIC)
+  add_library(CLI11::CLI11 INTERFACE IMPORTED GLOBAL)
+  target_include_directories(CLI11::CLI11 SYSTEM INTERFACE "${folder}")
+endfunction()
+
+a2l2json_take_cli11_headers()
+if(NOT TARGET CLI11::CLI11)
+  find_package(CLI11 2 CONFIG QUIET)
+endif()
+if(NOT TARGET CLI11::CLI11 AND A2L2JSON_BUILD_TESTS)
+  message(FATAL_ERROR "CLI11 was not found; run `make deps`, or install its development package "
+                      "(libcli11-dev on Debian), or configure with -DA2L2JSON_BUILD_TESTS=OFF.")
+endif()
+if(NOT TARGET CLI11::CLI11)
+  message(STATUS "CLI11: not installed; a2lmend is not built")
+endif()
+find_package(Iconv QUIET)
 
 # ---------------------------------------------------------------------------------------------
 # GoogleTest, Google Benchmark and {fmt}

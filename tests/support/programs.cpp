@@ -38,8 +38,15 @@ HANDLE NewFile(const fs::path& path) {
                      FILE_ATTRIBUTE_NORMAL, nullptr);
 }
 
-// The exit code of a program whose output goes to two files.
-int Run(const std::vector<fs::path>& words, const fs::path& out, const fs::path& err) {
+HANDLE OldFile(const fs::path& path) {
+  SECURITY_ATTRIBUTES inherited{sizeof(inherited), nullptr, TRUE};
+  return CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, &inherited, OPEN_EXISTING,
+                     FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
+// The exit code of a program that reads from one file, if there is one, and writes to two.
+int Run(const std::vector<fs::path>& words, const fs::path& in, const fs::path& out,
+        const fs::path& err) {
   std::wstring command;
   for (const fs::path& word : words) {
     command += (command.empty() ? L"" : L" ") + Quoted(word.native());
@@ -47,11 +54,13 @@ int Run(const std::vector<fs::path>& words, const fs::path& out, const fs::path&
   STARTUPINFOW startup{};
   startup.cb = sizeof(startup);
   startup.dwFlags = STARTF_USESTDHANDLES;
+  startup.hStdInput = in.empty() ? GetStdHandle(STD_INPUT_HANDLE) : OldFile(in);
   startup.hStdOutput = NewFile(out);
   startup.hStdError = NewFile(err);
   PROCESS_INFORMATION process{};
   const BOOL started = CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr,
                                       nullptr, &startup, &process);
+  if (!in.empty()) CloseHandle(startup.hStdInput);
   CloseHandle(startup.hStdOutput);
   CloseHandle(startup.hStdError);
   EXPECT_NE(started, 0) << words.front();
@@ -76,10 +85,12 @@ std::string Quoted(const std::string& text) {
   return quoted + "'";
 }
 
-// The exit code of a program whose output goes to two files.
-int Run(const std::vector<fs::path>& words, const fs::path& out, const fs::path& err) {
+// The exit code of a program that reads from one file, if there is one, and writes to two.
+int Run(const std::vector<fs::path>& words, const fs::path& in, const fs::path& out,
+        const fs::path& err) {
   std::string command;
   for (const fs::path& word : words) command += Quoted(word.native()) + " ";
+  if (!in.empty()) command += "<" + Quoted(in.native()) + " ";
   command += ">" + Quoted(out.native()) + " 2>" + Quoted(err.native());
   // NOLINTNEXTLINE(concurrency-mt-unsafe): tests run one after the other
   const int status = std::system(command.c_str());
@@ -88,6 +99,12 @@ int Run(const std::vector<fs::path>& words, const fs::path& out, const fs::path&
 
 #endif
 
+RunResult ResultOf(const std::vector<fs::path>& words, const fs::path& input) {
+  const TemporaryFolder folder;
+  const int exitCode = Run(words, input, folder / "out", folder / "err");
+  return {exitCode, ReadFile(folder / "out"), ReadFile(folder / "err")};
+}
+
 }  // namespace
 
 RunResult RunProgram(const std::vector<fs::path>& arguments,
@@ -95,9 +112,13 @@ RunResult RunProgram(const std::vector<fs::path>& arguments,
   std::vector<fs::path> words = launcher;
   words.emplace_back(A2L2JSON_PROGRAM);
   words.insert(words.end(), arguments.begin(), arguments.end());
-  const TemporaryFolder folder;
-  const int exitCode = Run(words, folder / "out", folder / "err");
-  return {exitCode, ReadFile(folder / "out"), ReadFile(folder / "err")};
+  return ResultOf(words, {});
+}
+
+RunResult RunMender(const std::vector<fs::path>& arguments, const fs::path& input) {
+  std::vector<fs::path> words = {A2LMEND_PROGRAM};
+  words.insert(words.end(), arguments.begin(), arguments.end());
+  return ResultOf(words, input);
 }
 
 }  // namespace a2l::test

@@ -21,4 +21,8 @@ struct RunResult {
 RunResult RunProgram(const std::vector<std::filesystem::path>& arguments,
                      const std::vector<std::filesystem::path>& launcher = {});
 
+/// The same for a2lmend; `input` is what it finds on its standard input.
+RunResult RunMender(const std::vector<std::filesystem::path>& arguments,
+                    const std::filesystem::path& input = {});
+
 }  // namespace a2l::test
