@@ -32,11 +32,11 @@ MendRule RuleOf(Why why) {
 Comparison::Comparison(std::string_view text, std::string_view name, LineEnds lineEnds,
                        Reporter& reporter)
     : text_(text), name_(name), lineEnds_(lineEnds), reporter_(reporter), rules_(text) {
-  if (IsReadable()) next_ = rules_.Next();
+  if (IsReadable()) Advance();
 }
 
 void Comparison::Keyword(const Word& word, Role role, const Element& parent, Element& element) {
-  const LineWord found = At(word);
+  const LineWord& found = At(word);
   if (!word.isInMain || !IsReadable() || parent.isLost) {
     element.isLost = !word.isInMain || !IsReadable() || parent.isLost;
   } else if (!isInterrupted_) {
@@ -49,7 +49,7 @@ void Comparison::Keyword(const Word& word, Role role, const Element& parent, Ele
 }
 
 void Comparison::Parameter(const Word& word, Element& element, std::size_t index, bool isList) {
-  const LineWord found = At(word, isList ? MendRule::ListKeyword : MendRule::ReadEnds);
+  const LineWord& found = At(word, isList ? MendRule::ListKeyword : MendRule::ReadEnds);
   if (element.isLost || !word.isInMain) {
     ++lost_;
     return;
@@ -69,7 +69,7 @@ void Comparison::Parameter(const Word& word, Element& element, std::size_t index
 }
 
 void Comparison::InterfaceName(const Word& word, Element& element) {
-  const LineWord found = At(word);
+  const LineWord& found = At(word);
   if (element.isLost || !word.isInMain) {
     ++lost_;
     return;
@@ -80,14 +80,14 @@ void Comparison::InterfaceName(const Word& word, Element& element) {
 }
 
 void Comparison::End(const Word& word, const Element& element) {
-  const LineWord found = At(word);
+  const LineWord& found = At(word);
   if (!IsCompared(word) || element.isLost) return;
   if (found.role == Role::End && found.owner == element.begin) return;
   if (!reporter_.HasReported(word)) Report(MendRule::Otherwise, word, element);
 }
 
 bool Comparison::Surplus(const Word& word) {
-  const LineWord found = At(word);
+  const LineWord& found = At(word);
   if (!IsCompared(word)) return false;
   if (found.role == Role::Dropped) return found.why != Why::UnknownLine || !word.isFirst;
   if (found.role != Role::Nothing && !reporter_.HasReported(word)) {
@@ -101,50 +101,52 @@ void Comparison::RawEnd(const Word& word, Element& element) {
     At(word);
     return;
   }
-  for (; next_.begin < word.begin; next_ = rules_.Next()) {
-    if (next_.role == Role::ReadEnds) return ReadEnds(word, MendRule::InterfaceText, element);
+  AdvanceIfUsed();
+  for (; next_->begin < word.begin; Advance()) {
+    if (next_->role == Role::ReadEnds) return ReadEnds(word, MendRule::InterfaceText, element);
     ++lost_;
     if (element.isShifted) continue;
     element.isShifted = true;
-    const bool isDropped = next_.role == Role::Dropped;
-    ReportPlace(isDropped ? RuleOf(next_.why) : MendRule::InterfaceText, next_, element);
+    const bool isDropped = next_->role == Role::Dropped;
+    ReportPlace(isDropped ? RuleOf(next_->why) : MendRule::InterfaceText, *next_, element);
   }
   End(word, element);
 }
 
 void Comparison::EndOfText(const Word& end) {
   if (!IsCompared(end)) return;
-  for (; next_.role != Role::Nothing && next_.role != Role::ReadEnds; next_ = rules_.Next()) Skip();
-  if (next_.role == Role::ReadEnds) ReadEnds(end, MendRule::ReadEnds, {});
+  AdvanceIfUsed();
+  for (; next_->role != Role::Nothing && next_->role != Role::ReadEnds; Advance()) Skip();
+  if (next_->role == Role::ReadEnds) ReadEnds(end, MendRule::ReadEnds, {});
 }
 
-LineWord Comparison::At(const Word& word, MendRule ifReadEnds) {
-  if (!IsCompared(word)) return {};
-  for (; next_.begin < word.begin && next_.role != Role::ReadEnds; next_ = rules_.Next()) {
+const LineWord& Comparison::At(const Word& word, MendRule ifReadEnds) {
+  if (!IsCompared(word)) return kNoWord;
+  AdvanceIfUsed();
+  for (; next_->begin < word.begin && next_->role != Role::ReadEnds; Advance()) {
     Skip();
   }
-  if (next_.role == Role::ReadEnds && next_.begin < word.end) {
-    ReadEnds(word, next_.begin == word.begin ? ifReadEnds : MendRule::ReadEnds, {});
-    return {};
+  if (next_->role == Role::ReadEnds && next_->begin < word.end) {
+    ReadEnds(word, next_->begin == word.begin ? ifReadEnds : MendRule::ReadEnds, {});
+    return kNoWord;
   }
   anchor_ = word.begin;
   anchorLine_ = word.line;
   anchorLineStart_ = word.begin + 1 - word.column;
-  if (next_.begin != word.begin) return {};
-  const LineWord found = next_;
-  next_ = rules_.Next();
-  return found;
+  if (next_->begin != word.begin) return kNoWord;
+  isUsed_ = true;
+  return *next_;
 }
 
 // The converter has a word where there is none.
 void Comparison::Skip() {
-  if (next_.role != Role::Dropped) ReportPlace(MendRule::Otherwise, next_, {});
+  if (next_->role != Role::Dropped) ReportPlace(MendRule::Otherwise, *next_, {});
 }
 
 void Comparison::ReadEnds(const Word& word, MendRule rule, const Element& owner) {
   isInterrupted_ = true;
-  if (next_.begin < word.begin) {
-    ReportPlace(rule, next_, owner);
+  if (next_->begin < word.begin) {
+    ReportPlace(rule, *next_, owner);
   } else if (!reporter_.HasReported(word)) {
     Report(rule, word, owner);
   }
@@ -153,7 +155,7 @@ void Comparison::ReadEnds(const Word& word, MendRule rule, const Element& owner)
 void Comparison::Resume(const Word& word, std::span<const OpenBlock> open) {
   isInterrupted_ = false;
   rules_.Restart(word.begin, open);
-  next_ = rules_.Next();
+  Advance();
 }
 
 MendRule Comparison::RuleFor(const Word& word, const LineWord& found, Role role) const {

@@ -74,7 +74,15 @@ class Comparison {
   [[nodiscard]] bool IsInterrupted() const { return isInterrupted_; }
 
  private:
-  LineWord At(const Word& word, MendRule ifReadEnds = MendRule::ReadEnds);
+  /// What the converter takes `word` for; valid until the next call.
+  const LineWord& At(const Word& word, MendRule ifReadEnds = MendRule::ReadEnds);
+  void Advance() {
+    next_ = &rules_.Next();
+    isUsed_ = false;
+  }
+  void AdvanceIfUsed() {
+    if (isUsed_) Advance();
+  }
   void Skip();
   void ReadEnds(const Word& word, MendRule rule, const Element& owner);
   void Report(MendRule rule, const Word& word, const Element& owner);
@@ -92,7 +100,9 @@ class Comparison {
   bool isInterrupted_ = false;
   Reporter& reporter_;
   LineRules rules_;
-  LineWord next_;
+  /// What the converter has next, and whether it has been held against a word already.
+  const LineWord* next_ = &kNoWord;
+  bool isUsed_ = false;
   std::size_t lost_ = 0;
   std::size_t told_ = 0;  // everything before this place
   // The last place whose line is known.

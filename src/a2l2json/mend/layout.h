@@ -39,11 +39,12 @@ class Layout {
     hasLooseQuote_ = false;
   }
 
-  void Plain(std::string_view word) {
+  void Plain(std::string_view word, bool hasQuote) {
     Separate();
     text_ += word;
-    if (word.find('"') != std::string_view::npos) hasLooseQuote_ = true;
+    hasLooseQuote_ = hasLooseQuote_ || hasQuote;
   }
+  void Plain(std::string_view word) { Plain(word, word.find('"') != std::string_view::npos); }
 
   /// A text with its quotes, in the form in which the converter can read it.
   void Text(std::string_view text, const TextTraits& traits) {

@@ -69,7 +69,7 @@ Word Lexer::Next() {
       if (FollowInclude(word)) continue;
       return word;
     } else {
-      TakePlain();
+      TakePlain(word);
     }
     Finish(word);
     return word;
@@ -96,14 +96,17 @@ void Lexer::Finish(Word& word) {
   word.text = source.text.substr(word.begin, word.end - word.begin);
 }
 
-void Lexer::TakePlain() {
+void Lexer::TakePlain(Word& word) {
   Source& source = Top();
-  ++source.position;
-  while (!source.AtEnd()) {
-    const char c = source.text[source.position];
-    if (IsWhite(c) || (c == '/' && IsMarkerOrComment(source.Rest()))) return;
-    ++source.position;
+  const char* const end = source.text.data() + source.text.size();
+  const char* at = source.text.data() + source.position + 1;
+  for (;; ++at) {
+    at = FindEndOfWord(at, end);
+    if (at == end || IsWhite(*at)) break;
+    if (*at == '"') word.hasQuote = true;
+    if (*at == '/' && IsMarkerOrComment({at, static_cast<std::size_t>(end - at)})) break;
   }
+  source.position = static_cast<std::size_t>(at - source.text.data());
 }
 
 void Lexer::Return(const Word& marker) {

@@ -40,6 +40,8 @@ struct Word {
   bool isFirst = false;
   /// It stands in the file itself, not in one that is included.
   bool isInMain = true;
+  /// A quote stands in it; of a text, this says nothing.
+  bool hasQuote = false;
   /// Of a text.
   TextTraits traits;
 };
@@ -74,7 +76,7 @@ class Lexer {
 
  private:
   void Finish(Word& word);
-  void TakePlain();
+  void TakePlain(Word& word);
   bool Open(const Word& word, std::string_view name, MendRule& problem, std::string& detail);
   bool Push(const Word& word, std::string_view name, IncludedFile file);
 

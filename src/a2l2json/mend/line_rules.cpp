@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "a2l2json/mend/source.h"
+#include "a2l2json/text/bytes.h"
 #include "a2l2json/text/numbers.h"
 #include "a2l2json/text/tokenizer.h"
 
@@ -37,14 +38,13 @@ void LineRules::Restart(std::size_t position, std::span<const OpenBlock> open) {
   textIsOpen_ = nameIsOpen_ = false;
 }
 
-LineWord LineRules::Next() {
-  while (handedOut_ == found_.size()) {
-    if (isOver_) return {};
-    found_.clear();
-    handedOut_ = 0;
-    Step();
-  }
-  return found_[handedOut_++];
+bool LineRules::FindMore() {
+  // One step finds one word or none; the words of a file would be too many.
+  constexpr std::size_t kEnough = 16;
+  found_.clear();
+  handedOut_ = 0;
+  while (found_.size() < kEnough && !isOver_) Step();
+  return !found_.empty();
 }
 
 void LineRules::Step() {
@@ -67,7 +67,7 @@ void LineRules::NextLine() {
   line_ = lines_.Line();
   cursor_ = pieceBegin_ = 0;
   onKeywordPiece_ = false;
-  FindMarker(0);
+  FindMarker(lines_.FirstSlash());
   if (pending_ != Marker::None) {
     return std::exchange(pending_, Marker::None) == Marker::Begin ? BeginPiece() : EndPiece();
   }
@@ -176,17 +176,24 @@ void LineRules::PlainLine() {
 }
 
 bool LineRules::Take(Taken& taken) {
-  while (cursor_ < pieceEnd_ && IsTrimmed(line_[cursor_])) ++cursor_;
-  if (cursor_ == pieceEnd_) return false;
   const std::string_view piece = line_.substr(0, pieceEnd_);
-  taken.begin = cursor_;
+  std::size_t begin = cursor_;
+  if (begin == 0) {
+    begin = static_cast<std::size_t>(
+        bytes::SkipAll<' '>(piece.data(), piece.data() + piece.size()) - piece.data());
+  }
+  while (begin < piece.size() && IsTrimmed(piece[begin])) ++begin;
+  cursor_ = begin;
+  if (begin == piece.size()) return false;
+  taken.begin = begin;
   taken.isClosed = true;
   if (piece[cursor_] == '"') {
     const std::size_t close = FindClosingQuote(piece, cursor_ + 1);
     taken.isClosed = close != kNone;
     cursor_ = taken.isClosed ? close + 1 : pieceEnd_;
   } else {
-    while (cursor_ < pieceEnd_ && piece[cursor_] != ' ') ++cursor_;
+    const char* const end = piece.data() + piece.size();
+    cursor_ = static_cast<std::size_t>(bytes::Find<' '>(piece.data() + begin, end) - piece.data());
   }
   taken.end = TrimmedEnd(line_, taken.begin, cursor_);
   return true;

@@ -51,6 +51,8 @@ struct LineWord {
   std::size_t index = 0;
 };
 
+inline constexpr LineWord kNoWord;
+
 /// A block whose /end has not come.
 struct OpenBlock {
   ElementKind kind = KIND_ROOT;
@@ -66,14 +68,20 @@ class LineRules {
   /// Goes on at `position`, as if a line began there, with these blocks open, the outermost first.
   void Restart(std::size_t position, std::span<const OpenBlock> open);
 
-  /// The next word, in the order of their places. After an error, and at the end, Nothing.
-  LineWord Next();
+  /// The next word, in the order of their places. After an error, and at the end, Nothing. Valid
+  /// until the next call.
+  const LineWord& Next() {
+    if (handedOut_ == found_.size() && !FindMore()) return kNoWord;
+    return found_[handedOut_++];
+  }
 
  private:
   enum class Marker : std::uint8_t { None, Begin, End };
   enum class State : std::uint8_t { Idle, Fixed, Rows, List, Raw };
   /// What is done with the words of the piece of a line that is at hand.
   enum class Task : std::uint8_t { NextPiece, Collect, Drop };
+
+  bool FindMore();
 
   // Lines, and the pieces between their markers.
   void Step();

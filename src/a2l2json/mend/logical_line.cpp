@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "a2l2json/text/bytes.h"
 #include "a2l2json/text/tokenizer.h"
 
 namespace a2l::mending {
@@ -12,14 +13,6 @@ constexpr std::size_t kNone = std::string_view::npos;
 
 bool OpensComment(std::string_view line, std::size_t slash) {
   return slash + 1 < line.size() && (line[slash + 1] == '/' || line[slash + 1] == '*');
-}
-
-// Most lines hold no comment; the others are looked at a second time, for the texts in them.
-bool MayHoldComment(std::string_view line) {
-  for (std::size_t i = line.find('/'); i != kNone; i = line.find('/', i + 1)) {
-    if (OpensComment(line, i)) return true;
-  }
-  return false;
 }
 
 // Position of the first comment outside of texts. A text that its line does not close hides the
@@ -46,19 +39,31 @@ bool LogicalLines::NextPhysical(std::string_view& line) {
   return true;
 }
 
+// Most lines hold no slash, and most others no comment: one search looks for the end of the line
+// and for slashes.
 bool LogicalLines::Next() {
   begin_ = next_;
-  if (!NextPhysical(line_)) return false;
-  if (!MayHoldComment(line_)) {
-    pieces_.clear();
-    return true;
+  pieces_.clear();
+  if (next_ >= text_.size()) return false;
+  const char* const begin = text_.data() + begin_;
+  const char* const end = text_.data() + text_.size();
+  const char* firstSlash = nullptr;
+  const char* at = bytes::Find<'\n', '/'>(begin, end);
+  for (; at != end && *at == '/'; at = bytes::Find<'\n', '/'>(at + 1, end)) {
+    if (firstSlash == nullptr) firstSlash = at;
+    if (at + 1 == end || (at[1] != '/' && at[1] != '*')) continue;
+    // The texts in it say whether this is a comment.
+    NextPhysical(line_);
+    return RemoveComments(line_);
   }
-  return RemoveComments(line_);
+  line_ = {begin, static_cast<std::size_t>(at - begin)};
+  firstSlash_ = static_cast<std::size_t>((firstSlash == nullptr ? at : firstSlash) - begin);
+  next_ = std::min(begin_ + line_.size() + 1, text_.size());
+  return true;
 }
 
 bool LogicalLines::RemoveComments(std::string_view line) {
   joined_.clear();
-  pieces_.clear();
   std::size_t comment = FindComment(line);
   while (comment != kNone && line[comment + 1] == '*') {
     Append(line.substr(0, comment));
@@ -71,6 +76,7 @@ bool LogicalLines::RemoveComments(std::string_view line) {
   }
   Append(line.substr(0, comment));
   line_ = joined_;
+  firstSlash_ = std::min(line_.find('/'), line_.size());
   return true;
 }
 
@@ -96,8 +102,7 @@ void LogicalLines::Append(std::string_view piece) {
   joined_ += piece;
 }
 
-std::size_t LogicalLines::PositionOf(std::size_t offset) const {
-  if (pieces_.empty()) return PositionIn(line_) + offset;
+std::size_t LogicalLines::PositionInPieces(std::size_t offset) const {
   const auto behind = std::upper_bound(
       pieces_.begin(), pieces_.end(), offset,
       [](std::size_t wanted, const Piece& piece) { return wanted < piece.offset; });

@@ -23,8 +23,12 @@ class LogicalLines {
 
   /// The line, without its line feed; valid until the next call of Next.
   [[nodiscard]] std::string_view Line() const { return line_; }
+  /// Where its first slash stands; behind its last byte where it has none.
+  [[nodiscard]] std::size_t FirstSlash() const { return firstSlash_; }
   /// Where in the text the byte at `offset` of the line stands.
-  [[nodiscard]] std::size_t PositionOf(std::size_t offset) const;
+  [[nodiscard]] std::size_t PositionOf(std::size_t offset) const {
+    return pieces_.empty() ? begin_ + offset : PositionInPieces(offset);
+  }
   /// Where the byte behind the bytes up to `offset` stands; `offset` is not 0.
   [[nodiscard]] std::size_t EndOf(std::size_t offset) const { return PositionOf(offset - 1) + 1; }
 
@@ -39,6 +43,7 @@ class LogicalLines {
     std::size_t position;
   };
 
+  [[nodiscard]] std::size_t PositionInPieces(std::size_t offset) const;
   bool NextPhysical(std::string_view& line);
   bool RemoveComments(std::string_view line);
   bool SkipBlockComment(std::string_view& line);
@@ -51,6 +56,7 @@ class LogicalLines {
   std::size_t next_ = 0;
   std::size_t begin_ = 0;
   std::string_view line_;
+  std::size_t firstSlash_ = 0;
   std::string joined_;
   std::vector<Piece> pieces_;
   bool commentIsOpen_ = false;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "a2l2json/mend/raw.h"
 
+#include <algorithm>
+
 namespace a2l::mending {
 namespace {
 
@@ -19,6 +21,8 @@ bool CommentFollows(const Source& source) {
   const std::string_view line = rest.substr(0, rest.find('\n'));
   return line.find("//") != std::string_view::npos || line.find("/*") != std::string_view::npos;
 }
+
+bool IsBlank(std::string_view text) { return std::ranges::all_of(text, &IsWhite); }
 
 }  // namespace
 
@@ -52,6 +56,12 @@ void RawText::SkipToEnd() {
       begin_ = lexer_.Top().position;
       continue;
     }
+    const std::size_t before = source.position;
+    source.MoveTo<'"', '/', '\n'>();
+    if (source.atLineStart) {
+      source.atLineStart = IsBlank(source.text.substr(before, source.position - before));
+    }
+    if (source.AtEnd()) continue;
     const char c = source.text[source.position];
     const std::string_view rest = c == '/' ? source.Rest() : std::string_view{};
     if (c == '"') {
@@ -67,7 +77,7 @@ void RawText::SkipToEnd() {
       if (rest.starts_with(kEnd)) inner_.pop_back();
       if (c == '\n') {
         source.EndLine();
-      } else if (!IsWhite(c)) {
+      } else {
         source.atLineStart = false;
       }
       ++source.position;

@@ -26,8 +26,6 @@ bool BeginsWithBlock(std::string_view line, std::string_view keyword) {
   return isGiven || IsBlock(KeywordToKind(line.substr(begin, end - begin)));
 }
 
-bool IsMarkedByte(char c) { return c == '"' || c == '\\' || c == '/' || c == '\n'; }
-
 }  // namespace
 
 Source MakeSource(std::string_view text, std::string_view name, std::string_view path) {
@@ -38,11 +36,34 @@ Source MakeSource(std::string_view text, std::string_view name, std::string_view
   return source;
 }
 
-void SkipWhite(Source& source) {
-  while (!source.AtEnd() && IsWhite(source.text[source.position])) {
-    if (source.text[source.position] == '\n') source.EndLine();
-    ++source.position;
+const char* FindEndOfWord(const char* begin, const char* end) {
+  using bytes::Block;
+  const auto found = [](const Block& block) {
+    return bytes::Bits(block.Below(' ' + 1) | block.Equal('/') | block.Equal('"'));
+  };
+  for (; static_cast<std::size_t>(end - begin) >= bytes::kBlock; begin += bytes::kBlock) {
+    if (const auto bits = found(Block::Load(begin))) return begin + bytes::FirstBit(bits);
   }
+  const auto left = static_cast<std::size_t>(end - begin);
+  // Zeros stand behind a part of a block, and are found as well.
+  const auto bits = found(Block::LoadPart(begin, left));
+  return bits != 0 ? std::min(begin + bytes::FirstBit(bits), end) : end;
+}
+
+void SkipWhite(Source& source) {
+  const std::string_view text = source.text;
+  std::size_t i = source.position;
+  for (; i < text.size() && IsWhite(text[i]); ++i) {
+    if (text[i] != '\n') continue;
+    source.position = i;
+    source.EndLine();
+    // Most lines are indented.
+    const char* const behind = text.data() + i + 1;
+    i = static_cast<std::size_t>(bytes::SkipAll<' '>(behind, text.data() + text.size()) -
+                                 text.data()) -
+        1;
+  }
+  source.position = i;
 }
 
 bool SkipComment(Source& source) {
@@ -72,11 +93,11 @@ TextTraits SkipText(Source& source, std::string_view keyword) {
   const std::string_view text = source.text;
   std::size_t& i = source.position;
   ++i;
-  while (i < text.size()) {
+  while (true) {
+    source.MoveTo<'"', '\\', '/', '\n'>();
+    if (i == text.size()) break;
     const char c = text[i];
-    if (!IsMarkedByte(c)) {
-      ++i;
-    } else if (c == '"') {
+    if (c == '"') {
       if (i + 1 >= text.size() || text[i + 1] != '"') {
         ++i;
         return traits;

@@ -7,6 +7,8 @@
 #include <cstddef>
 #include <string_view>
 
+#include "a2l2json/text/bytes.h"
+
 namespace a2l::mending {
 
 inline constexpr std::string_view kBegin = "/begin";
@@ -32,6 +34,13 @@ struct Source {
 
   [[nodiscard]] bool AtEnd() const { return position >= text.size(); }
   [[nodiscard]] std::string_view Rest() const { return text.substr(position); }
+  /// Moves on to the first of these bytes, or to the end.
+  template <char... kBytes>
+  void MoveTo() {
+    const char* const end = text.data() + text.size();
+    position =
+        static_cast<std::size_t>(bytes::Find<kBytes...>(text.data() + position, end) - text.data());
+  }
   [[nodiscard]] bool HasComment() const {
     return text[position] == '/' && position + 1 < text.size() &&
            (text[position + 1] == '/' || text[position + 1] == '*');
@@ -47,6 +56,10 @@ struct Source {
 /// A file from its first byte on.
 [[nodiscard]] Source MakeSource(std::string_view text, std::string_view name,
                                 std::string_view path);
+
+/// Where the first byte up to a blank, slash or quote stands from `begin` on; `end` where none
+/// does.
+[[nodiscard]] const char* FindEndOfWord(const char* begin, const char* end);
 
 /// Moves behind white space; counts lines.
 void SkipWhite(Source& source);

@@ -183,7 +183,7 @@ void Walk::OpenBlock(const Word& word, ElementKind kind) {
   mayFollow_ = OpenDeclaration().accepts.Contains(kind) && !comparison_.IsInterrupted();
   frames_.push_back({element, {}});
   out_.BeginLine(level);
-  out_.Plain(kBegin);
+  out_.Plain(kBegin, false);
   Write(word);
   itemIsBlock_ = true;
   phase_ = Phase::Keyword;
@@ -325,7 +325,7 @@ void Walk::CloseBlock(const Word* keyword) {
   const Element& element = frames_.back().element;
   if (keyword == nullptr) ReportOpen(element);
   out_.BeginLine(frames_.size() - 1);
-  out_.Plain(kEnd);
+  out_.Plain(kEnd, false);
   if (keyword != nullptr) {
     Write(*keyword);
   } else {
@@ -472,7 +472,7 @@ void Walk::Write(const Word& word) {
   if (word.type == WordType::Text) {
     out_.Text(word.text, word.traits);
   } else {
-    out_.Plain(word.text);
+    out_.Plain(word.text, word.hasQuote);
   }
 }
 
