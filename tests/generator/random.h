@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 namespace a2l::test {
 
@@ -11,6 +12,10 @@ namespace a2l::test {
 class Random {
  public:
   explicit Random(std::uint64_t seed) : state_(seed) {}
+  /// A seed for each name: what is picked for one does not depend on the others.
+  explicit Random(std::string_view name) {
+    for (const char c : name) state_ = (state_ ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
+  }
 
   std::uint64_t Next() {
     state_ += 0x9E3779B97F4A7C15U;
@@ -29,7 +34,7 @@ class Random {
   }
 
  private:
-  std::uint64_t state_;
+  std::uint64_t state_ = 0xCBF29CE484222325U;
 };
 
 }  // namespace a2l::test

@@ -41,7 +41,6 @@ bool EndsTheRead(const KeptFinding& finding) {
 }
 
 TEST(MendProperties, Complete) {
-  Random random(2);
   for (const Sample& sample : MendSamples()) {
     const MendRun first = RunMend(sample.text);
     if (std::ranges::any_of(first.findings, &EndsTheRead)) continue;
@@ -50,6 +49,7 @@ TEST(MendProperties, Complete) {
     if (std::ranges::count(own, '"') % 2 != 0) continue;
     const auto document = DocumentOf(own);
     if (!document) continue;
+    Random random("once more: " + sample.name);
     const std::string other = LaidOutAnew(own, random);
     const std::string mended = RunMend(other).mended.text;
     EXPECT_TRUE(SameDocument(document, DocumentOf(mended))) << sample.name << "\n"

@@ -39,8 +39,8 @@ std::vector<Sample> Generated(std::size_t count) {
 // Layouts picked by chance of what the samples are when they are mended.
 std::vector<Sample> InOtherLayouts(const std::vector<Sample>& samples) {
   std::vector<Sample> others;
-  Random random(1);
   for (const Sample& sample : samples) {
+    Random random(sample.name);
     others.push_back(
         {sample.name + " laid out anew", LaidOutAnew(RunMend(sample.text).mended.text, random)});
   }
