@@ -33,8 +33,8 @@ deps-windows: deps ## install the compiler for Windows, and Wine, too
 configure: deps
 	cmake --preset release
 
-build: configure ## build the program, build/release/a2l2json (this is the default)
-	cmake --build --preset release -j $(JOBS) --target a2l2json
+build: configure ## build the programs, build/release/a2l2json and a2lmend (this is the default)
+	cmake --build --preset release -j $(JOBS) --target a2l2json a2lmend
 
 demo: build ## build it and convert examples/demo.a2l
 	$(PROGRAM) examples/demo.a2l build/demo.json
@@ -52,7 +52,7 @@ bench: deps ## measure how fast it is here, as one table of speeds, memory and r
 	python3 bench/run.py --bench build/bench/a2l2json_bench --program build/bench/a2l2json \
 	  --generate build/bench/a2l2json_generate $(BENCH_FLAGS)
 
-install: build ## install program, manual page, completions and pages to PREFIX (/usr/local)
+install: build ## install programs, manual pages, completions and pages to PREFIX (/usr/local)
 	cmake --install build/release --prefix "$(PREFIX)"
 
 packages: deps-packages ## make a Debian package and an archive, in build/packages
@@ -66,7 +66,7 @@ packages: deps-packages ## make a Debian package and an archive, in build/packag
 deps-js: deps ## install the compiler for WebAssembly and the packages of js/, too
 	@bash scripts/deps js
 
-windows: deps-windows ## build the program for Windows, build/windows/a2l2json.exe
+windows: deps-windows ## build the programs for Windows, build/windows/a2l2json.exe and a2lmend.exe
 	cmake --preset windows
 	cmake --build --preset windows -j $(JOBS)
 

@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
 #
 # The library as other projects link it, a2l2json::a2l2json, and everything that `cmake --install`
-# installs: the program with its manual page, shell completions, documentation and the JSON Schema
-# of its documents, and, with A2L2JSON_LIBRARY, the library with its headers, CMake package and
+# installs: the programs with their manual pages, shell completions, documentation and the JSON Schema
+# of the documents, and, with A2L2JSON_LIBRARY, the library with its headers, CMake package and
 # pkg-config file.
 #
 # The packages use the components (packaging/packages.cmake). `debian` and `static` hold files that
@@ -49,24 +49,37 @@ if(NOT PROJECT_IS_TOP_LEVEL)
 endif()
 
 # ---------------------------------------------------------------------------------------------
-# The program, its manual page, its completions, the documentation
+# The programs, their manual pages, their completions, the documentation
 
 set(generated "${PROJECT_BINARY_DIR}/packaging")
 set(packaging "${PROJECT_SOURCE_DIR}/packaging")
-set(manual "${generated}/a2l2json.1")
-configure_file("${packaging}/a2l2json.1.in" "${manual}" @ONLY)
+set(programs a2l2json)
+if(TARGET a2lmend)
+  list(APPEND programs a2lmend)
+endif()
 
-install(TARGETS a2l2json COMPONENT program)
+foreach(program ${programs})
+  configure_file("${packaging}/${program}.1.in" "${generated}/${program}.1" @ONLY)
+  install(TARGETS ${program} COMPONENT program)
+  install(
+    FILES "${packaging}/completions/${program}.bash"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions"
+    RENAME ${program}
+    COMPONENT shared)
+  install(
+    FILES "${packaging}/completions/${program}.fish"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d"
+    COMPONENT shared)
+  install(
+    FILES "${generated}/${program}.1"
+    DESTINATION "${CMAKE_INSTALL_MANDIR}/man1"
+    COMPONENT plain)
+  install(
+    FILES "${packaging}/completions/_${program}"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/site-functions"
+    COMPONENT plain)
+endforeach()
 
-install(
-  FILES "${packaging}/completions/a2l2json.bash"
-  DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions"
-  RENAME a2l2json
-  COMPONENT shared)
-install(
-  FILES "${packaging}/completions/a2l2json.fish"
-  DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d"
-  COMPONENT shared)
 install(
   FILES "${PROJECT_SOURCE_DIR}/docs/json.schema.json"
   DESTINATION "${CMAKE_INSTALL_DATADIR}/a2l2json"
@@ -99,15 +112,6 @@ install(
   DESTINATION "${CMAKE_INSTALL_DOCDIR}"
   COMPONENT shared
   PATTERN "build" EXCLUDE)
-
-install(
-  FILES "${manual}"
-  DESTINATION "${CMAKE_INSTALL_MANDIR}/man1"
-  COMPONENT plain)
-install(
-  FILES "${packaging}/completions/_a2l2json"
-  DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/site-functions"
-  COMPONENT plain)
 
 # The pkg-config files find everything relative to their own place, so the installation may be moved.
 file(RELATIVE_PATH A2L2JSON_PC_PREFIX "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig"

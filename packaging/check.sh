@@ -4,7 +4,7 @@
 # usage: packaging/check.sh
 #
 # Builds the packages and tries them as a user would: the Debian package in a clean system, the
-# statically linked program in an empty system, and programs that use the installed library (among
+# statically linked programs in an empty system, and programs that use the installed library (among
 # them examples/consumer) with CMake and with pkg-config. Stops at the first failure.
 #
 # As root, debootstrap makes the clean system from the package sources of this machine. Without root
@@ -41,6 +41,26 @@ try_program() {
   in_root "$1" "$2" demo.a2l demo.json >"$work/console.txt"
   [[ $(<"$work/console.txt") == Success. ]] || die "$2 said: $(<"$work/console.txt")"
   cmp "$1/demo.json" "$expected"
+}
+
+# try_mender <root> <program>: mends a file there, with another one that it includes
+try_mender() {
+  local code=0
+  printf '/begin PROJECT p "K\374hler"\n/include "module.a2l"\n/end PROJECT\n' >"$1/engine.a2l"
+  printf '/begin MODULE m "" /begin MEASUREMENT m "" UBYTE c 0 0 0 255 ECU_ADDRESS 0x51A50 /end MEASUREMENT /end MODULE' \
+    >"$1/module.a2l"
+  in_root "$1" "$2" --encoding ISO-8859-1 engine.a2l mended.a2l 2>"$work/console.txt" || code=$?
+  ((code == 1)) || die "$2 ended with $code: $(<"$work/console.txt")"
+  [[ $(<"$work/console.txt") == *'/include module.a2l is not followed [include]'*' would be lost; '* ]] ||
+    die "$2 said: $(<"$work/console.txt")"
+  [[ $(<"$1/mended.a2l") == '/begin PROJECT p "Kühler"
+  /begin MODULE m ""
+    /begin MEASUREMENT m "" UBYTE c 0 0 0 255
+      ECU_ADDRESS 0x51A50
+    /end MEASUREMENT
+  /end MODULE
+/end PROJECT' ]] || die "$2 mended: $(<"$1/mended.a2l")"
+  in_root "$1" "$2" --quiet mended.a2l || die "$2 finds more in a mended file"
 }
 
 # try_consumer <program>: the same with the program of examples/consumer
@@ -81,7 +101,7 @@ unpack_with_libraries() {
   rm -rf --one-file-system "$root"
   mkdir -p "$root"
   dpkg -x "$deb" "$root"
-  ldd "$root/usr/bin/a2l2json" | grep -o '/[^ ]*' | while read -r library; do
+  ldd "$root"/usr/bin/a2l{2json,mend} | grep -o '/[^ ]*' | while read -r library; do
     mkdir -p "$root/${library%/*}"
     cp -L "$library" "$root/$library"
   done
@@ -108,12 +128,15 @@ else
 fi
 try_program "$root" /usr/bin/a2l2json
 say "the installed program converts $demo to $expected, byte for byte"
+try_mender "$root" /usr/bin/a2lmend
+say 'the other one mends a file in ISO-8859-1 that includes another'
 
 mkdir -p "$work/static" "$work/empty"
 tar -xzf "$archive" -C "$work/static" --strip-components=1
-cp "$work/static/bin/a2l2json" "$work/empty"
+cp "$work"/static/bin/a2l{2json,mend} "$work/empty"
 try_program "$work/empty" /a2l2json
-say "so does the program of $archive, in an otherwise empty system"
+try_mender "$work/empty" /a2lmend
+say "so do the programs of $archive, in an otherwise empty system"
 
 cmake -S examples/consumer -B "$work/consumer" -DCMAKE_PREFIX_PATH="$root/usr" \
   -DCMAKE_FIND_USE_CMAKE_SYSTEM_PATH=OFF >"$work/consumer.log"
@@ -173,7 +196,9 @@ say 'each of the installed headers compiles by itself'
 [[ $(dpkg-deb --field "$deb" Version) == "$version" && $archive == *-"$version"-* &&
   $(pkg-config --modversion a2l2json) == "$version" &&
   $(pkg-config --modversion a2l2json-c) == "$version" &&
-  $(zcat "$root/usr/share/man/man1/a2l2json.1.gz") == *"a2l2json $version"* ]] ||
+  $(zcat "$root/usr/share/man/man1/a2l2json.1.gz") == *"a2l2json $version"* &&
+  $(zcat "$root/usr/share/man/man1/a2lmend.1.gz") == *"a2l2json $version"* &&
+  $("$work/static/bin/a2lmend" --version) == "a2lmend $version" ]] ||
   die "the versions differ from $version"
 say "everything has the version $version"
 
@@ -182,25 +207,35 @@ cmake --install build/package --prefix "$work/installed" >"$work/installed.log"
 for prefix in "$root/usr" "$work/installed"; do
   for file in bin/a2l2json share/a2l2json/json.schema.json 'share/man/man1/a2l2json.1*' \
     share/bash-completion/completions/a2l2json 'share/zsh/*/_a2l2json' \
-    share/fish/vendor_completions.d/a2l2json.fish include/a2l2json/a2l2json.h \
+    share/fish/vendor_completions.d/a2l2json.fish bin/a2lmend 'share/man/man1/a2lmend.1*' \
+    share/bash-completion/completions/a2lmend 'share/zsh/*/_a2lmend' \
+    share/fish/vendor_completions.d/a2lmend.fish include/a2l2json/a2l2json.h \
     'lib*/**/liba2l2json.a' 'lib*/**/cmake/a2l2json/a2l2json-config.cmake' \
     'lib*/**/pkgconfig/a2l2json.pc' include/a2l2json.h 'lib*/**/liba2l2json.so.1' \
     'lib*/**/liba2l2json-c.so' 'lib*/**/pkgconfig/a2l2json-c.pc'; do
     compgen -G "$prefix/$file" >/dev/null || die "there is no $prefix/$file"
   done
 done
-# completed <word>...: the proposals of bash for the last of these words after "a2l2json"
+# completed <word>...: the proposals of bash for the last of these words, which begin a command
 completed() (
-  source "$root/usr/share/bash-completion/completions/a2l2json"
-  COMP_WORDS=(a2l2json "$@") COMP_CWORD=$#
-  _a2l2json
+  source "$root/usr/share/bash-completion/completions/$1"
+  COMP_WORDS=("$@") COMP_CWORD=$(($# - 1))
+  "_$1"
   printf '%s\n' "${COMPREPLY[@]}" | sort | paste -sd ' '
 )
-[[ $(completed examples/) == 'examples/c examples/consumer examples/demo.a2l examples/small.a2l' &&
-  $(completed "$demo" examples/d) == 'examples/demo.a2l examples/demo.json' &&
-  $(completed "$demo" demo.json '') == '' ]] || die 'bash completes wrongly'
+a2l_files='examples/c examples/consumer examples/demo.a2l examples/small.a2l'
+[[ $(completed a2l2json examples/) == "$a2l_files" &&
+  $(completed a2l2json "$demo" examples/d) == 'examples/demo.a2l examples/demo.json' &&
+  $(completed a2l2json "$demo" demo.json '') == '' ]] || die 'bash completes a2l2json wrongly'
+[[ $(completed a2lmend examples/) == "$a2l_files" &&
+  $(completed a2lmend -I examples --quiet examples/) == "$a2l_files" &&
+  $(completed a2lmend -I examples/) == 'examples/c examples/consumer' &&
+  $(completed a2lmend --format s) == sarif &&
+  $(completed a2lmend "$demo" --q) == --quiet &&
+  $(completed a2lmend --encoding UTF-8 "$demo" examples/d) == 'examples/demo.a2l examples/demo.json' &&
+  $(completed a2lmend "$demo" out.a2l '') == '' ]] || die 'bash completes a2lmend wrongly'
 cmp "$(pkg-config --variable=schema a2l2json)" docs/json.schema.json
-say 'program, library, manual page, completions and schema are in their places'
+say 'programs, library, manual pages, completions and schema are in their places'
 
 # dead_links <folder>: the links of the pages there that lead nowhere; code has none
 dead_links() {

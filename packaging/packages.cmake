@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 #
 # The packages that `make packages` makes with the preset `package`: a Debian package with
-# everything that is installed, and an archive with the statically linked program.
+# everything that is installed, and an archive with the statically linked programs.
 # cmake/Install.cmake includes this file.
 
 include_guard(GLOBAL)
@@ -17,7 +17,8 @@ set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "converter from A2L files to JSON")
 set(CPACK_PACKAGE_DESCRIPTION
     "a2l2json converts an A2L file (ASAM MCD-2 MC, the description of an engine
 control unit's measurements and calibration objects) into one JSON document,
-and reports mistakes with their lines.
+and reports mistakes with their lines. a2lmend tells beforehand what the layout
+of a file would cost, and writes the file in a layout that costs nothing.
 
 The same is there for C++ programs: a static library with its headers, a CMake
 package and a pkg-config file. Programs in C and in all languages that can call
@@ -35,10 +36,12 @@ set(CPACK_PROJECT_CONFIG_FILE "${packaging}/contents.cmake")
 # ---------------------------------------------------------------------------------------------
 # The archive
 
-install(TARGETS a2l2json_static COMPONENT static EXCLUDE_FROM_ALL)
+foreach(program ${programs})
+  install(TARGETS ${program}_static COMPONENT static EXCLUDE_FROM_ALL)
+endforeach()
 
 # ---------------------------------------------------------------------------------------------
-# The Debian package. In it, some files have other names, and two are compressed.
+# The Debian package. In it, some files have other names or are compressed.
 
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER "${CPACK_PACKAGE_CONTACT}")
@@ -64,19 +67,22 @@ string(REPLACE "\n" "\n " A2L2JSON_LICENCE "${licence}")
 string(TIMESTAMP A2L2JSON_DATE "%a, %d %b %Y %H:%M:%S +0000" UTC)
 configure_file("${packaging}/debian-copyright.in" "${generated}/copyright" @ONLY)
 configure_file("${packaging}/debian-changelog.in" "${generated}/changelog" @ONLY)
-execute_process(COMMAND "${A2L2JSON_GZIP}" -9nkf "${manual}" "${generated}/changelog"
-                        COMMAND_ERROR_IS_FATAL ANY)
-install(
-  FILES "${manual}.gz"
-  DESTINATION "${CMAKE_INSTALL_MANDIR}/man1"
-  COMPONENT debian EXCLUDE_FROM_ALL)
+execute_process(COMMAND "${A2L2JSON_GZIP}" -9nkf "${generated}/changelog" COMMAND_ERROR_IS_FATAL ANY)
 install(
   FILES "${generated}/copyright" "${generated}/changelog.gz"
   DESTINATION "${CMAKE_INSTALL_DOCDIR}"
   COMPONENT debian EXCLUDE_FROM_ALL)
-install(
-  FILES "${packaging}/completions/_a2l2json"
-  DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions"
-  COMPONENT debian EXCLUDE_FROM_ALL)
+foreach(program ${programs})
+  execute_process(COMMAND "${A2L2JSON_GZIP}" -9nkf "${generated}/${program}.1"
+                          COMMAND_ERROR_IS_FATAL ANY)
+  install(
+    FILES "${generated}/${program}.1.gz"
+    DESTINATION "${CMAKE_INSTALL_MANDIR}/man1"
+    COMPONENT debian EXCLUDE_FROM_ALL)
+  install(
+    FILES "${packaging}/completions/_${program}"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions"
+    COMPONENT debian EXCLUDE_FROM_ALL)
+endforeach()
 
 include(CPack)
