@@ -121,7 +121,8 @@ class ElementClass : public DeclaredElement, protected ParameterWords<Class> {
 
  public:
   using Self = Class;
-  static constexpr std::array kinds = {kKinds...};
+  // With its type in full: GCC for Windows would put it into another section where it deduces that.
+  static constexpr std::array<ElementKind, sizeof...(kKinds)> kinds = {kKinds...};
   static constexpr std::array<Parameter, 0> parameters{};
   static constexpr std::array<Parameter, 0> columns{};
   static constexpr OnBadNumber onBadNumber = OnBadNumber::Stop;
