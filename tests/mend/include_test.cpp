@@ -38,6 +38,19 @@ TEST(MendInclude, TakesNamesInAllTheirForms) {
          "ASAP2_VERSION 1 71\n", "include@1:1");
 }
 
+TEST(MendInclude, TakesCommentsAroundTheName) {
+  for (const std::string_view directive : {"/include/**/a.a2l", "/include // a\n /* b */ \"a.a2l\"",
+                                           "/include a.a2l/* c */", "/include a.a2l// c\n"}) {
+    Expect(std::string(directive) + " 71", {{"a.a2l", "ASAP2_VERSION 1"}}, "ASAP2_VERSION 1 71\n",
+           "include@1:1");
+    const MendRun run = RunMend(directive);
+    EXPECT_TRUE(run.mended.text == "/include a.a2l\n" || run.mended.text == "/include \"a.a2l\"\n")
+        << run.mended.text;
+    EXPECT_EQ(run.Short(), "include-missing@1:1");
+  }
+  EXPECT_EQ(RunMend("/include /* a").Short(), "include-missing@1:1 comment-without-end@1:10");
+}
+
 TEST(MendInclude, IsNoWordThatOnlyBeginsSo) {
   Expect("/included 1", {{"1", "x"}}, "/included 1\n", "unknown-keyword@1:1");
 }

@@ -88,7 +88,8 @@ TEST(LineRules, FindTheElementsThatTheReaderFinds) {
 
 // Each word as its role, its text and, of a parameter, its number; of what is dropped, why.
 std::string Roles(std::string_view text) {
-  constexpr std::string_view kWhy[] = {"parameters", "begin", "end", "behind-end", "unknown"};
+  constexpr std::string_view kWhy[] = {"parameters", "begin",   "end",
+                                       "behind-end", "in-list", "unknown"};
   std::string roles;
   LineRules rules(text);
   for (LineWord word = rules.Next(); word.role != Role::Nothing; word = rules.Next()) {

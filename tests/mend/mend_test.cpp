@@ -404,5 +404,24 @@ TEST(Mend, GoesOnBehindAnErrorOfTheConverter) {
       "encoding@4:7 same-line@5:16");
 }
 
+// Behind the child at the end of such a list, everything is dropped, on whatever line it stands.
+TEST(Mend, LeavesSurplusWordsOfAListOnTheirLines) {
+  for (const std::string_view separator : {"\t", " ", "\n"}) {
+    std::string text;
+    for (const std::string_view word :
+         {"/begin", "CALIBRATION_HANDLE", "1", "CALIBRATION_HANDLE_TEXT", "\"a\"", "3", "/end",
+          "CALIBRATION_HANDLE"}) {
+      text.append(word).append(separator);
+    }
+    const std::string once =
+        RunMend(
+            "/begin PROJECT p \"\"\n/begin MODULE m \"\"\n/begin MOD_PAR \"\"\n"
+            "/begin CALIBRATION_METHOD \"a\" 1\n" +
+            text + "\n/end CALIBRATION_METHOD\n/end MOD_PAR\n/end MODULE\n/end PROJECT\n")
+            .mended.text;
+    EXPECT_EQ(RunMend(once).mended.text, once);
+  }
+}
+
 }  // namespace
 }  // namespace a2l::test

@@ -14,6 +14,7 @@ using Why = LineWord::Why;
 MendRule RuleOf(Why why) {
   switch (why) {
     case Why::BehindParameters:
+    case Why::InList:
       return MendRule::SameLine;
     case Why::BeforeBegin:
       return MendRule::BeforeBegin;
@@ -89,7 +90,10 @@ void Comparison::End(const Word& word, const Element& element) {
 bool Comparison::Surplus(const Word& word) {
   const LineWord& found = At(word);
   if (!IsCompared(word)) return false;
-  if (found.role == Role::Dropped) return found.why != Why::UnknownLine || !word.isFirst;
+  if (found.role == Role::Dropped) {
+    const bool mayBeginALine = found.why == Why::UnknownLine || found.why == Why::InList;
+    return !mayBeginALine || !word.isFirst;
+  }
   if (found.role != Role::Nothing && !reporter_.HasReported(word)) {
     Report(MendRule::Otherwise, word, {});
   }

@@ -16,9 +16,20 @@ constexpr std::string_view kInclude = "/include";
 constexpr std::size_t kMostDepth = 64;
 constexpr std::size_t kMostIncludes = 4096;
 
+bool BeginsComment(std::string_view rest) {
+  return rest.starts_with("//") || rest.starts_with("/*");
+}
+
 bool IsMarkerOrComment(std::string_view rest) {
-  return rest.starts_with(kBegin) || rest.starts_with(kEnd) || rest.starts_with("//") ||
-         rest.starts_with("/*");
+  return rest.starts_with(kBegin) || rest.starts_with(kEnd) || BeginsComment(rest);
+}
+
+// Moves behind white space and comments. A comment that is not closed is reported where the words
+// go on.
+void SkipToName(Source& source) {
+  for (SkipWhite(source); BeginsComment(source.Rest()); SkipWhite(source)) {
+    if (!SkipComment(source)) return;
+  }
 }
 
 char LowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
@@ -33,6 +44,13 @@ Finding FindingAt(MendRule rule, const Word& word) {
   finding.column = word.column;
   finding.word = word.text;
   return finding;
+}
+
+std::string_view NameInInclude(const Word& word) {
+  Source source = MakeSource(word.text, word.file, {});
+  source.position = kInclude.size();
+  SkipToName(source);
+  return source.Rest();
 }
 
 Lexer::Lexer(std::string_view text, std::size_t start, const MendOptions& options,
@@ -127,7 +145,7 @@ bool Lexer::HasInclude() const {
          std::equal(kInclude.begin(), kInclude.end(), rest.begin(),
                     [](char a, char b) { return a == LowerCase(b); }) &&
          (rest.size() == kInclude.size() || IsWhite(rest[kInclude.size()]) ||
-          rest[kInclude.size()] == '"');
+          rest[kInclude.size()] == '"' || BeginsComment(rest.substr(kInclude.size())));
 }
 
 bool Lexer::FollowInclude(Word& word) {
@@ -135,7 +153,7 @@ bool Lexer::FollowInclude(Word& word) {
   word = Here(WordType::Include);
   source.position += kInclude.size();
   const Source behind = source;
-  SkipWhite(source);
+  SkipToName(source);
   const std::string_view rest = source.Rest();
   // To the end of the line at most, without the white space there.
   std::string_view line = rest.substr(0, rest.find_first_of("\r\n"));
@@ -145,6 +163,7 @@ bool Lexer::FollowInclude(Word& word) {
     name = line.substr(1, close - 1);
     source.position += std::min(close + 1, line.size());
   } else {
+    line = line.substr(0, std::min(line.find("/*"), line.find("//")));
     name = line.substr(0, std::min(line.find_first_of(" \t\v\f"), line.size()));
     source.position += name.size();
     while (!line.empty() && IsWhite(line.back())) line.remove_suffix(1);

@@ -49,6 +49,9 @@ struct Word {
 /// A finding about a word.
 [[nodiscard]] Finding FindingAt(MendRule rule, const Word& word);
 
+/// The name in an /include that could not be followed, with its quotes.
+[[nodiscard]] std::string_view NameInInclude(const Word& word);
+
 class Lexer {
  public:
   /// The words of `text` from `start` on. Everything must outlive this object.

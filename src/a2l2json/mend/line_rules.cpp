@@ -301,7 +301,10 @@ void LineRules::CollectWord(std::string_view word, std::size_t begin, std::size_
     needed_ = declaration_->paramCount;
     return;
   }
-  if (state_ == State::List && index_ >= needed_) found.role = Role::Dropped;
+  if (state_ == State::List && index_ >= needed_) {
+    found.role = Role::Dropped;
+    found.why = Why::InList;
+  }
   Emit(found);
   if (state_ == State::Fixed && declaration_->HasRows() && index_ == declaration_->rowCount) {
     rows_ = ReadUnsigned(word).value;

@@ -36,6 +36,7 @@ struct LineWord {
     BeforeBegin,
     BeforeEnd,
     BehindEnd,
+    InList,  ///< behind a child that a list ends with, on whatever line
     UnknownLine
   };
 

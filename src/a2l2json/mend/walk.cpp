@@ -263,9 +263,9 @@ void Walk::MissingInclude(const Word& word) {
   // Where values are due, the converter would take the words for values.
   if (phase_ != Phase::Keyword) return;
   out_.BeginLine(frames_.size());
-  const std::size_t end = std::min(word.text.find_first_of(" \t\n\v\f\r\""), word.text.size());
-  out_.Plain(word.text.substr(0, end));
-  if (const std::string_view name = Trim(word.text.substr(end)); !name.empty()) out_.Plain(name);
+  // In the letters in which it stands there.
+  out_.Plain(word.text.substr(0, std::string_view("/include").size()));
+  if (const std::string_view name = NameInInclude(word); !name.empty()) out_.Plain(name);
 }
 
 void Walk::EndMarker(const Word& marker) {
