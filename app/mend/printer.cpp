@@ -2,8 +2,10 @@
 #include "app/mend/printer.h"
 
 #include <array>
+#include <filesystem>
 #include <utility>
 
+#include "a2l2json/model/file_path.h"
 #include "a2l2json/model/version.h"
 
 namespace a2l {
@@ -26,17 +28,21 @@ std::size_t CharacterSize(std::string_view text) {
   return 0;
 }
 
-// A path as part of a URI.
-std::string UriOf(std::string_view path) {
+// A path as a URI, with "file:" where it is not relative.
+std::string UriOf(std::string_view name) {
   constexpr std::string_view kDigits = "0123456789ABCDEF";
   constexpr std::string_view kPlain =
       "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~/";
+  const std::filesystem::path path = FilePath(name);
+  const std::u8string text = path.generic_u8string();
   std::string uri;
-  for (const char c : path) {
-    if (kPlain.find(c) != std::string_view::npos) {
-      uri += c;
+  if (path.is_absolute()) uri = text.starts_with(u8'/') ? "file://" : "file:///";
+  for (const char8_t c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    const auto plain = static_cast<char>(byte);
+    if (kPlain.find(plain) != std::string_view::npos || (plain == ':' && path.is_absolute())) {
+      uri += plain;
     } else {
-      const auto byte = static_cast<unsigned char>(c);
       uri += {'%', kDigits[byte / 16U], kDigits[byte % 16U]};
     }
   }

@@ -3,6 +3,7 @@
 // a2lmend as a user runs it.
 #include <algorithm>
 #include <filesystem>
+#include <set>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -211,6 +212,48 @@ TEST_F(MendProgram, PrintsSarif) {
   const auto index = static_cast<std::size_t>(result["ruleIndex"].int_value());
   EXPECT_EQ(one["tool"]["driver"]["rules"][index]["id"].string_value(), "text-backslash");
   EXPECT_EQ(result["locations"][0]["physicalLocation"]["region"]["startColumn"].int_value(), 18);
+}
+
+// What the schema of SARIF 2.1.0 demands of the members that are there, and what services for code
+// review need besides: a place, a level and a rule for each result.
+TEST_F(MendProgram, PrintsSarifAsItsSchemaWantsIt) {
+  const fs::path in =
+      Write("engine a.a2l", std::string(kOneLine) + "/include part.a2l\nCOLOUR \"\x01\xFF\"\n");
+  const fs::path part = Write("part.a2l", "\n/begin X\n/end X\n");
+  const RunResult run = RunMender({"--format", "sarif", in, folder_ / "out.a2l"});
+  EXPECT_EQ(run.out, "");
+  std::string error;
+  const json11::Json document = json11::Json::parse(run.err, error);
+  ASSERT_EQ(error, "") << run.err;
+  EXPECT_TRUE(document["$schema"].is_string());
+  EXPECT_EQ(document["version"].string_value(), "2.1.0");
+  ASSERT_EQ(document["runs"].array_items().size(), 1U);
+  const json11::Json& driver = document["runs"][0]["tool"]["driver"];
+  EXPECT_EQ(driver["name"].string_value(), "a2lmend");
+  EXPECT_EQ(driver["version"].string_value(), Version());
+  const std::set<std::string> levels = {"error", "warning", "note"};
+  std::set<std::string> ids;
+  for (const json11::Json& rule : driver["rules"].array_items()) {
+    EXPECT_TRUE(ids.insert(rule["id"].string_value()).second) << rule.dump();
+    EXPECT_FALSE(rule["shortDescription"]["text"].string_value().empty()) << rule.dump();
+    EXPECT_TRUE(levels.contains(rule["defaultConfiguration"]["level"].string_value()));
+  }
+  const json11::Json::array& results = document["runs"][0]["results"].array_items();
+  EXPECT_EQ(results.size(), 4U) << run.err;
+  std::set<std::string> uris;
+  for (const json11::Json& result : results) {
+    EXPECT_FALSE(result["message"]["text"].string_value().empty()) << result.dump();
+    EXPECT_TRUE(levels.contains(result["level"].string_value())) << result.dump();
+    EXPECT_TRUE(ids.contains(result["ruleId"].string_value())) << result.dump();
+    ASSERT_EQ(result["locations"].array_items().size(), 1U) << result.dump();
+    const json11::Json& place = result["locations"][0]["physicalLocation"];
+    EXPECT_GE(place["region"]["startLine"].int_value(), 1);
+    EXPECT_GE(place["region"]["startColumn"].int_value(), 1);
+    uris.insert(place["artifactLocation"]["uri"].string_value());
+  }
+  for (const std::string& uri : uris) EXPECT_TRUE(uri.starts_with("file:///")) << uri;
+  ASSERT_EQ(uris.size(), 2U);
+  EXPECT_TRUE(uris.begin()->ends_with("/engine%20a.a2l")) << *uris.begin();
 }
 
 TEST_F(MendProgram, PrintsDocumentsWithoutFindings) {

@@ -16,6 +16,7 @@
 #include <gtest/gtest.h>
 
 #include "a2l2json/export/json_writer.h"
+#include "a2l2json/mend/mend.h"
 #include "a2l2json/reader/line_source.h"
 #include "tests/support/trees.h"
 #include "tests/torture/generated_text.h"
@@ -123,15 +124,22 @@ std::vector<Shape> Shapes() {
   };
 }
 
-// Everything that a user does with a text that repeats the shape `times` times.
-std::function<void()> Work(const Shape& shape, std::size_t times) {
+// A text that repeats the shape `times` times.
+Parts PartsOf(const Shape& shape, std::size_t times) {
+  Parts parts = shape.before;
+  if (shape.isCounted) parts.emplace_back(std::to_string(times), 1);
+  parts.push_back(shape.repeated);
+  parts.back().times = times;
+  parts.insert(parts.end(), shape.after.begin(), shape.after.end());
+  return parts;
+}
+
+using MakeWork = std::function<void()> (*)(const Shape& shape, std::size_t times);
+
+// Everything that a user does with the converter.
+std::function<void()> Conversion(const Shape& shape, std::size_t times) {
   return [&shape, times] {
-    Parts parts = shape.before;
-    if (shape.isCounted) parts.emplace_back(std::to_string(times), 1);
-    parts.push_back(shape.repeated);
-    parts.back().times = times;
-    parts.insert(parts.end(), shape.after.begin(), shape.after.end());
-    Reading reading = ReadParts(std::move(parts));
+    Reading reading = ReadParts(PartsOf(shape, times));
     EXPECT_TRUE(!shape.isCounted || reading.reader.message.empty()) << shape.name;
     EXPECT_FALSE(ToJson(*reading.root).empty());
     std::ostringstream out;
@@ -139,15 +147,28 @@ std::function<void()> Work(const Shape& shape, std::size_t times) {
   };
 }
 
+std::function<void()> Mending(const Shape& shape, std::size_t times) {
+  return [&shape, times] {
+    GeneratedBuffer buffer(PartsOf(shape, times));
+    std::ostringstream text;
+    text << &buffer;
+    MendOptions options;
+    std::size_t size = 0;
+    options.report = [&size](const Finding& finding) { size += Text(finding).size(); };
+    const Mended mended = Mend(std::move(text).str(), options);
+    EXPECT_EQ(size == 0, mended.lost + mended.mended + mended.unmendable == 0) << shape.name;
+  };
+}
+
 using Meter = std::optional<std::uint64_t> (*)(const std::function<void()>& work);
 
 // True if the meter works here.
-bool ExpectProportion(Meter meter, std::size_t times) {
+bool ExpectProportion(MakeWork work, Meter meter, std::size_t times) {
   return std::ranges::all_of(Shapes(), [&](const Shape& shape) {
-    Work(shape, times)();  // one-time initialisation does not count
-    const std::optional<std::uint64_t> less = meter(Work(shape, times));
+    work(shape, times)();  // one-time initialisation does not count
+    const std::optional<std::uint64_t> less = meter(work(shape, times));
     if (!less.has_value()) return false;
-    const std::optional<std::uint64_t> more = meter(Work(shape, kFactor * times));
+    const std::optional<std::uint64_t> more = meter(work(shape, kFactor * times));
     EXPECT_TRUE(more.has_value() && *more <= kMostGrowth * *less)
         << shape.name << ": " << *less << ", then " << more.value_or(0);
     return true;
@@ -155,13 +176,25 @@ bool ExpectProportion(Meter meter, std::size_t times) {
 }
 
 TEST(Linear, MemoryGrowsWithTheInput) {
-  if (!ExpectProportion(AllocatedBytes, 20000 / kScaleDown)) {
+  if (!ExpectProportion(Conversion, AllocatedBytes, 20000 / kScaleDown)) {
     GTEST_SKIP() << "allocations are not counted in this build";
   }
 }
 
 TEST(Linear, WorkGrowsWithTheInput) {
-  if (!ExpectProportion(ExecutedInstructions, 2000)) {
+  if (!ExpectProportion(Conversion, ExecutedInstructions, 2000)) {
+    GTEST_SKIP() << "instructions are not counted on this system";
+  }
+}
+
+TEST(Linear, MemoryGrowsWithTheInputOfMending) {
+  if (!ExpectProportion(Mending, AllocatedBytes, 20000 / kScaleDown)) {
+    GTEST_SKIP() << "allocations are not counted in this build";
+  }
+}
+
+TEST(Linear, WorkGrowsWithTheInputOfMending) {
+  if (!ExpectProportion(Mending, ExecutedInstructions, 2000)) {
     GTEST_SKIP() << "instructions are not counted on this system";
   }
 }
