@@ -27,6 +27,7 @@ constexpr std::array kFormats = {
 
 std::vector<std::string> NamesOfFormats() {
   std::vector<std::string> names;
+  names.reserve(kFormats.size());
   for (const NamedFormat& named : kFormats) names.emplace_back(named.name);
   return names;
 }

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <filesystem>
+#include <initializer_list>
 #include <utility>
 
 #include "a2l2json/model/file_path.h"
@@ -10,6 +11,28 @@
 
 namespace a2l {
 namespace {
+
+constexpr std::string_view kJsonBegin = R"({
+  "findings": [
+)";
+constexpr std::string_view kSarifBegin = R"({
+  "$schema": "https://json.schemastore.org/sarif-2.1.0.json",
+  "version": "2.1.0",
+  "runs": [
+    {
+      "tool": {
+        "driver": {
+          "name": "a2lmend",
+          "version": )";
+constexpr std::string_view kSarifRules = R"(,
+          "rules": [
+)";
+constexpr std::string_view kSarifResults = R"(
+          ]
+        }
+      },
+      "results": [
+)";
 
 // Bytes of the character of UTF-8 that `text` begins with; 0 where it begins with none.
 std::size_t CharacterSize(std::string_view text) {
@@ -57,13 +80,25 @@ std::string MessageOf(const Finding& finding) {
   return text.substr(begin, end - begin);
 }
 
+// An object whose values are JSON already.
+using Members = std::initializer_list<std::pair<std::string_view, std::string>>;
+std::string Object(const Members& members) {
+  std::string object = "{";
+  for (const auto& [name, value] : members) {
+    if (object.size() > 1) object += ", ";
+    object += JsonQuoted(name) + ": " + value;
+  }
+  return object + "}";
+}
+
 std::string JsonOf(const Finding& finding) {
   const MendRuleRow& row = RowOf(finding.rule);
-  return "    {\"rule\": " + JsonQuoted(row.name) +
-         ", \"outcome\": " + JsonQuoted(NameOf(row.outcome)) +
-         ", \"file\": " + JsonQuoted(finding.file) + ", \"line\": " + std::to_string(finding.line) +
-         ", \"column\": " + std::to_string(finding.column) +
-         ", \"message\": " + JsonQuoted(MessageOf(finding)) + "}";
+  return "    " + Object({{"rule", JsonQuoted(row.name)},
+                          {"outcome", JsonQuoted(NameOf(row.outcome))},
+                          {"file", JsonQuoted(finding.file)},
+                          {"line", std::to_string(finding.line)},
+                          {"column", std::to_string(finding.column)},
+                          {"message", JsonQuoted(MessageOf(finding))}});
 }
 
 std::string_view LevelOf(MendOutcome outcome) {
@@ -73,23 +108,27 @@ std::string_view LevelOf(MendOutcome outcome) {
 
 std::string SarifOf(const Finding& finding) {
   const MendRuleRow& row = RowOf(finding.rule);
-  return "        {\"ruleId\": " + JsonQuoted(row.name) +
-         ", \"ruleIndex\": " + std::to_string(static_cast<std::size_t>(finding.rule)) +
-         ", \"level\": " + JsonQuoted(LevelOf(row.outcome)) +
-         ", \"message\": {\"text\": " + JsonQuoted(MessageOf(finding)) +
-         "}, \"locations\": [{\"physicalLocation\": {\"artifactLocation\": {\"uri\": " +
-         JsonQuoted(UriOf(finding.file)) +
-         "}, \"region\": {\"startLine\": " + std::to_string(finding.line) +
-         ", \"startColumn\": " + std::to_string(finding.column) + "}}}]}";
+  const std::string region = Object({{"startLine", std::to_string(finding.line)},
+                                     {"startColumn", std::to_string(finding.column)}});
+  const std::string place =
+      Object({{"artifactLocation", Object({{"uri", JsonQuoted(UriOf(finding.file))}})},
+              {"region", region}});
+  return "        " + Object({{"ruleId", JsonQuoted(row.name)},
+                              {"ruleIndex", std::to_string(static_cast<std::size_t>(finding.rule))},
+                              {"level", JsonQuoted(LevelOf(row.outcome))},
+                              {"message", Object({{"text", JsonQuoted(MessageOf(finding))}})},
+                              {"locations", "[" + Object({{"physicalLocation", place}}) + "]"}});
 }
 
 std::string SarifRules() {
   std::string rules;
   for (const MendRuleRow& row : MendRules()) {
     if (!rules.empty()) rules += ",\n";
-    rules += "            {\"id\": " + JsonQuoted(row.name) +
-             ", \"shortDescription\": {\"text\": " + JsonQuoted(row.meaning) +
-             "}, \"defaultConfiguration\": {\"level\": " + JsonQuoted(LevelOf(row.outcome)) + "}}";
+    rules +=
+        "            " +
+        Object({{"id", JsonQuoted(row.name)},
+                {"shortDescription", Object({{"text", JsonQuoted(row.meaning)}})},
+                {"defaultConfiguration", Object({{"level", JsonQuoted(LevelOf(row.outcome))}})}});
   }
   return rules;
 }
@@ -138,14 +177,10 @@ FindingPrinter::FindingPrinter(FindingFormat format, std::ostream& out,
 
 void FindingPrinter::Begin() {
   if (std::exchange(hasBegun_, true)) return;
-  if (format_ == FindingFormat::Json) text_ += "{\n  \"findings\": [\n";
+  if (format_ == FindingFormat::Json) text_ += kJsonBegin;
   if (format_ == FindingFormat::Sarif) {
-    text_ +=
-        "{\n  \"$schema\": \"https://json.schemastore.org/sarif-2.1.0.json\",\n"
-        "  \"version\": \"2.1.0\",\n  \"runs\": [\n    {\n      \"tool\": {\n"
-        "        \"driver\": {\n          \"name\": \"a2lmend\",\n          \"version\": " +
-        JsonQuoted(Version()) + ",\n          \"rules\": [\n" + SarifRules() +
-        "\n          ]\n        }\n      },\n      \"results\": [\n";
+    text_.append(kSarifBegin).append(JsonQuoted(Version())).append(kSarifRules);
+    text_.append(SarifRules()).append(kSarifResults);
   }
 }
 
@@ -175,10 +210,10 @@ void FindingPrinter::Finish(const Mended& mended, std::string_view file, bool is
       text_ += ": " + Summary(mended, isWritten) + '\n';
       break;
     case FindingFormat::Json:
-      text_ += std::string(count_ > 0 ? "\n" : "") +
-               "  ],\n  \"lostValues\": " + std::to_string(mended.lostValues) +
-               ",\n  \"mended\": " + std::to_string(mended.lost + mended.mended) +
-               ",\n  \"cannotBeMended\": " + std::to_string(mended.unmendable) + "\n}\n";
+      text_ += std::string(count_ > 0 ? "\n" : "") + "  ],\n  " + JsonQuoted("lostValues") + ": " +
+               std::to_string(mended.lostValues) + ",\n  " + JsonQuoted("mended") + ": " +
+               std::to_string(mended.lost + mended.mended) + ",\n  " +
+               JsonQuoted("cannotBeMended") + ": " + std::to_string(mended.unmendable) + "\n}\n";
       break;
     case FindingFormat::Sarif:
       text_ += std::string(count_ > 0 ? "\n" : "") + "      ]\n    }\n  ]\n}\n";
