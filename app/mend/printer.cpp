@@ -91,14 +91,16 @@ std::string Object(const Members& members) {
   return object + "}";
 }
 
+std::string ArrayOf(std::string_view value) { return std::string("[").append(value).append("]"); }
+
 std::string JsonOf(const Finding& finding) {
   const MendRuleRow& row = RowOf(finding.rule);
-  return "    " + Object({{"rule", JsonQuoted(row.name)},
-                          {"outcome", JsonQuoted(NameOf(row.outcome))},
-                          {"file", JsonQuoted(finding.file)},
-                          {"line", std::to_string(finding.line)},
-                          {"column", std::to_string(finding.column)},
-                          {"message", JsonQuoted(MessageOf(finding))}});
+  return Object({{"rule", JsonQuoted(row.name)},
+                 {"outcome", JsonQuoted(NameOf(row.outcome))},
+                 {"file", JsonQuoted(finding.file)},
+                 {"line", std::to_string(finding.line)},
+                 {"column", std::to_string(finding.column)},
+                 {"message", JsonQuoted(MessageOf(finding))}});
 }
 
 std::string_view LevelOf(MendOutcome outcome) {
@@ -113,22 +115,22 @@ std::string SarifOf(const Finding& finding) {
   const std::string place =
       Object({{"artifactLocation", Object({{"uri", JsonQuoted(UriOf(finding.file))}})},
               {"region", region}});
-  return "        " + Object({{"ruleId", JsonQuoted(row.name)},
-                              {"ruleIndex", std::to_string(static_cast<std::size_t>(finding.rule))},
-                              {"level", JsonQuoted(LevelOf(row.outcome))},
-                              {"message", Object({{"text", JsonQuoted(MessageOf(finding))}})},
-                              {"locations", "[" + Object({{"physicalLocation", place}}) + "]"}});
+  return Object({{"ruleId", JsonQuoted(row.name)},
+                 {"ruleIndex", std::to_string(static_cast<std::size_t>(finding.rule))},
+                 {"level", JsonQuoted(LevelOf(row.outcome))},
+                 {"message", Object({{"text", JsonQuoted(MessageOf(finding))}})},
+                 {"locations", ArrayOf(Object({{"physicalLocation", place}}))}});
 }
 
 std::string SarifRules() {
   std::string rules;
   for (const MendRuleRow& row : MendRules()) {
+    const std::string level = Object({{"level", JsonQuoted(LevelOf(row.outcome))}});
     if (!rules.empty()) rules += ",\n";
-    rules +=
-        "            " +
+    rules.append(12, ' ').append(
         Object({{"id", JsonQuoted(row.name)},
                 {"shortDescription", Object({{"text", JsonQuoted(row.meaning)}})},
-                {"defaultConfiguration", Object({{"level", JsonQuoted(LevelOf(row.outcome))}})}});
+                {"defaultConfiguration", level}}));
   }
   return rules;
 }
@@ -196,7 +198,8 @@ void FindingPrinter::Print(const Finding& finding) {
     text_ += TextWithPlace(finding) + '\n';
   } else {
     if (count_++ > 0) text_ += ",\n";
-    text_ += format_ == FindingFormat::Json ? JsonOf(finding) : SarifOf(finding);
+    const bool isJson = format_ == FindingFormat::Json;
+    text_.append(isJson ? 4 : 8, ' ').append(isJson ? JsonOf(finding) : SarifOf(finding));
   }
   constexpr std::size_t kPiece = 65536;
   if (text_.size() >= kPiece) Print();
