@@ -53,6 +53,7 @@ void RestoreConsole() {
 void PassBytesThrough() {
   _setmode(_fileno(stdin), _O_BINARY);
   _setmode(_fileno(stdout), _O_BINARY);
+  _setmode(_fileno(stderr), _O_BINARY);
   DWORD mode = 0;
   if (GetConsoleMode(GetStdHandle(STD_OUTPUT_HANDLE), &mode) == 0) return;
   consoleCodePage = GetConsoleOutputCP();

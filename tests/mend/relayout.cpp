@@ -96,7 +96,12 @@ std::string LaidOutAnew(std::string_view text, Random& random) {
   for (const std::string_view word : WordsOf(text)) {
     // In interface text such a sign stands directly behind a quote, and belongs there.
     const bool belongsThere = end == word.data() && kSigns.find(word[0]) != std::string_view::npos;
-    if (end != nullptr && !belongsThere) laidOut += Separator(style, random);
+    if (end != nullptr && !belongsThere) {
+      const std::string separator = Separator(style, random);
+      // A slash would make another comment of it.
+      if (laidOut.ends_with('/') && separator.starts_with('/')) laidOut += ' ';
+      laidOut += separator;
+    }
     laidOut += word;
     end = word.data() + word.size();
   }
