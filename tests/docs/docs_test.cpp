@@ -19,6 +19,7 @@
 #include "a2l2json/export/json_schema.h"
 #include "a2l2json/reader/diagnostics.h"
 #include "a2l2json/reader/element_factory.h"
+#include "tests/docs/page.h"
 #include "tests/support/files.h"
 #include "tests/support/golden_document.h"
 #include "tests/support/kinds.h"
@@ -30,48 +31,13 @@ namespace {
 namespace fs = std::filesystem;
 
 const fs::path kCases = A2L2JSON_CASES;
-const fs::path kDocs = kCases.parent_path().parent_path() / "docs";
+const fs::path kDocs = Docs();
 
 // The cases that show a statement stand behind it, in a comment that readers of the page do not
 // see:
 // <!-- cases: topic/name, topic/name -->
 const std::regex kMarker("<!-- cases: ([^>]*) -->");
 const std::regex kCaseName("[a-z_]+/(ok|warn|fail)_[a-z0-9_]+");
-
-struct Block {
-  std::string language;
-  std::vector<std::string> lines;
-  std::string below;  // the next line that is not blank
-};
-
-// A page of Markdown, code blocks apart.
-struct Page {
-  explicit Page(const fs::path& path) : name(path.filename().string()), text(ReadFile(path)) {
-    std::istringstream in(text);
-    bool inBlock = false;
-    bool waits = false;
-    for (std::string line; std::getline(in, line);) {
-      if (line.starts_with("```")) {
-        inBlock = !inBlock;
-        waits = !inBlock;
-        if (inBlock) blocks.push_back({line.substr(3), {}, {}});
-      } else if (inBlock) {
-        blocks.back().lines.push_back(line);
-      } else {
-        lines.push_back(line);
-        if (waits && !line.empty()) {
-          blocks.back().below = line;
-          waits = false;
-        }
-      }
-    }
-  }
-
-  std::string name;
-  std::string text;
-  std::vector<std::string> lines;
-  std::vector<Block> blocks;
-};
 
 std::vector<Page> AllPages() {
   std::vector<Page> pages;
@@ -133,33 +99,6 @@ std::set<std::string> Anchors(const Page& page) {
     EXPECT_TRUE(anchors.insert(Anchor(line.substr(begin))).second) << page.name << ": " << line;
   }
   return anchors;
-}
-
-// Neighbouring blanks and line ends as one blank.
-std::string OneLine(std::string_view text) {
-  std::string line;
-  for (const char c : text) {
-    const bool blank = c == ' ' || c == '\t' || c == '\n' || c == '\r';
-    if (!blank) line += c;
-    if (blank && !line.empty() && line.back() != ' ') line += ' ';
-  }
-  if (line.ends_with(' ')) line.pop_back();
-  return line;
-}
-
-// Whether the pieces of `excerpt`, with "..." between them, stand in `text` in their order.
-bool IsExcerpt(const std::string& excerpt, const std::string& text) {
-  constexpr std::string_view kGap = "...";
-  std::size_t from = 0;
-  for (std::size_t begin = 0; begin <= excerpt.size();) {
-    const std::size_t end = std::min(excerpt.find(kGap, begin), excerpt.size());
-    const std::string piece = OneLine(excerpt.substr(begin, end - begin));
-    const std::size_t found = text.find(piece, from);
-    if (piece.empty() || found == std::string::npos) return false;
-    from = found + piece.size();
-    begin = end + kGap.size();
-  }
-  return true;
 }
 
 TEST(Docs, LinksLeadSomewhere) {

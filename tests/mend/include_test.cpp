@@ -110,7 +110,7 @@ TEST(MendInclude, NamesTheFileOfAFinding) {
   const MendRun run = RunMend("/include a", {{"a", "\n  ASAP2_VERSION x 71"}});
   EXPECT_EQ(run.Texts(),
             "file.a2l:1:1: lost: /include a is not followed [include]\n"
-            "a:2:17: cannot be mended: x of ASAP2_VERSION is no number [not-a-number]\n");
+            "a:2:17: cannot be mended: x of ASAP2_VERSION is not a number [not-a-number]\n");
 }
 
 TEST(MendInclude, ReadsOtherEncodings) {

@@ -215,6 +215,18 @@ TEST(MendRaw, TellsOfMarkersInTexts) {
                  "text-marker@4:2");
 }
 
+// To the converter the text goes on, so that the /end in the comment counts.
+TEST(MendRaw, PartsABackslashFromItsQuoteBeforeAComment) {
+  const std::string_view lines =
+      "    /begin IF_DATA XCP\n 1 \"C:\\\\\" /* old\n /end IF_DATA */\n    /end IF_DATA\n";
+  const MendRun run = RunMend(InModule(lines));
+  EXPECT_EQ(run.mended.text,
+            InModule("    /begin IF_DATA XCP\n 1 \n \"C:\\\\ \" /* old\n /end IF_DATA */\n"
+                     "    /end IF_DATA\n"));
+  EXPECT_EQ(run.Short(), "text-backslash@4:4 interface-text@5:7 read-ends@6:10");
+  EXPECT_TRUE(DocumentOf(run.mended.text).has_value());
+}
+
 TEST(MendRaw, TellsOfUnknownBlocks) {
   ExpectInModule("    /begin COLOUR red\n    /end COLOUR\n",
                  "    /begin COLOUR\n red\n    /end COLOUR\n", "unknown-block@3:12");
@@ -286,7 +298,7 @@ TEST(MendValues, SaysWhatBecomesOfThem) {
                           "/end MEASUREMENT\n"),
             "file.a2l:3:25: cannot be mended: FLOAT16_IEEE of MEASUREMENT m becomes UBYTE "
             "[unknown-value]\n"
-            "file.a2l:3:44: cannot be mended: x of MEASUREMENT m is no number [not-a-number]\n"
+            "file.a2l:3:44: cannot be mended: x of MEASUREMENT m is not a number [not-a-number]\n"
             "file.a2l:3:46: cannot be mended: 1e999 of MEASUREMENT m is beyond what the document "
             "can hold and becomes null [number-range]\n"
             "file.a2l:4:13: cannot be mended: 0x1FFFFFFFF of ECU_ADDRESS is beyond what the "
@@ -342,6 +354,16 @@ TEST(MendGrammar, TellsOfSurplusParameters) {
       "    /begin MOD_COMMON \"\" 5\n      ALIGNMENT_BYTE 1 2\n      3\n    /end MOD_COMMON\n",
       "    /begin MOD_COMMON \"\" 5\n      ALIGNMENT_BYTE 1 2 3\n    /end MOD_COMMON\n",
       "surplus@3:26 surplus@4:24");
+}
+
+// The rest of a handle behind its text is dropped, and stays on its line.
+TEST(MendGrammar, LeavesWhatIsDroppedOnItsLine) {
+  const std::string_view lines =
+      "    /begin MOD_PAR \"\"\n      /begin CALIBRATION_METHOD \"a\" 2\n"
+      "        /begin CALIBRATION_HANDLE\n          1\n"
+      "          CALIBRATION_HANDLE_TEXT \"Torque\"\n          3\n"
+      "        /end CALIBRATION_HANDLE\n      /end CALIBRATION_METHOD\n    /end MOD_PAR\n";
+  ExpectInModule(lines, lines, "surplus@8:11");
 }
 
 TEST(MendGrammar, TellsOfMissingRows) {

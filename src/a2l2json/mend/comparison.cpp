@@ -50,7 +50,7 @@ void Comparison::Keyword(const Word& word, Role role, const Element& parent, Ele
 }
 
 void Comparison::Parameter(const Word& word, Element& element, std::size_t index, bool isList) {
-  const LineWord& found = At(word, isList ? MendRule::ListKeyword : MendRule::ReadEnds);
+  const LineWord& found = At(word, isList ? MendRule::ListKeyword : MendRule::ReadEnds, &element);
   if (element.isLost || !word.isInMain) {
     ++lost_;
     return;
@@ -124,14 +124,15 @@ void Comparison::EndOfText(const Word& end) {
   if (next_->role == Role::ReadEnds) ReadEnds(end, MendRule::ReadEnds, {});
 }
 
-const LineWord& Comparison::At(const Word& word, MendRule ifReadEnds) {
+const LineWord& Comparison::At(const Word& word, MendRule ifReadEnds, const Element* owner) {
   if (!IsCompared(word)) return kNoWord;
   AdvanceIfUsed();
   for (; next_->begin < word.begin && next_->role != Role::ReadEnds; Advance()) {
     Skip();
   }
   if (next_->role == Role::ReadEnds && next_->begin < word.end) {
-    ReadEnds(word, next_->begin == word.begin ? ifReadEnds : MendRule::ReadEnds, {});
+    ReadEnds(word, next_->begin == word.begin ? ifReadEnds : MendRule::ReadEnds,
+             owner == nullptr ? Element{} : *owner);
     return kNoWord;
   }
   anchor_ = word.begin;

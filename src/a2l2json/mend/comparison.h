@@ -75,7 +75,8 @@ class Comparison {
 
  private:
   /// What the converter takes `word` for; valid until the next call.
-  const LineWord& At(const Word& word, MendRule ifReadEnds = MendRule::ReadEnds);
+  const LineWord& At(const Word& word, MendRule ifReadEnds = MendRule::ReadEnds,
+                     const Element* owner = nullptr);
   void Advance() {
     next_ = &rules_.Next();
     isUsed_ = false;

@@ -108,6 +108,9 @@ void RawText::Text() {
     // On the lines in which a text goes on, the converter takes comments out of it, and none behind
     // it.
     Rewrite(word, MendRule::TextComment);
+  } else if (word.traits.hasBackslashQuote && CommentFollows(source)) {
+    // To the converter the text goes on, and the comment behind it is none: its markers count.
+    Rewrite(word, MendRule::TextBackslash);
   } else if (word.traits.hasMarker) {
     PartMarkers(word);
   }
