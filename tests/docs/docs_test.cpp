@@ -20,6 +20,7 @@
 #include "a2l2json/reader/diagnostics.h"
 #include "a2l2json/reader/element_factory.h"
 #include "tests/docs/page.h"
+#include "tests/mend/mending.h"
 #include "tests/support/files.h"
 #include "tests/support/golden_document.h"
 #include "tests/support/kinds.h"
@@ -133,20 +134,6 @@ TEST(Docs, CasesThatAreNamedExist) {
   }
 }
 
-// It begins with an A2L file, the command, and a part of the document.
-TEST(Readme, ExampleIsThatOfItsFiles) {
-  const fs::path top = kDocs.parent_path();
-  const std::vector<Block> blocks = Page(top / "README.md").blocks;
-  ASSERT_GE(blocks.size(), 3U);
-  std::string a2l;
-  for (const std::string& line : blocks[0].lines) a2l += line + "\n";
-  EXPECT_EQ(a2l, ReadFile(top / "examples" / "small.a2l"));
-  std::string json;
-  for (const std::string& line : blocks[2].lines) json += line + " ";
-  json.resize(json.rfind("..."));
-  EXPECT_TRUE(IsExcerpt(json, ReadFile(top / "examples" / "small.json"))) << json;
-}
-
 TEST(ReadingPage, EveryStatementNamesACase) {
   std::size_t count = 0;
   for (const std::string& statement : Statements(Page(kDocs / "reading-a2l.md"))) {
@@ -157,6 +144,29 @@ TEST(ReadingPage, EveryStatementNamesACase) {
     ++count;
   }
   EXPECT_GT(count, 50U);
+}
+
+// Of the cases that show a statement, some has a finding of each rule that the statement names.
+TEST(ReadingPage, RulesAreThoseOfTheirCases) {
+  const std::regex rule(R"(\[([a-z0-9-]+)\]\(mending\.md#([a-z0-9-]+)\))");
+  const Files included = {{"modules.a2l", ""}, {"names.a2l", "a b"}};
+  std::size_t count = 0;
+  for (const std::string& statement : Statements(Page(kDocs / "reading-a2l.md"))) {
+    if (!statement.starts_with("- ")) continue;
+    std::string found;
+    for (const std::string& name : CasesIn(statement)) {
+      found += RunMend(ReadFile(kCases / (name + ".a2l")), included).Texts();
+    }
+    for (std::sregex_iterator match(statement.begin(), statement.end(), rule), end; match != end;
+         ++match) {
+      const std::string name = (*match)[1];
+      if (name == "a2lmend") continue;  // a link in a sentence
+      EXPECT_EQ(name, (*match)[2].str());
+      EXPECT_NE(found.find(" [" + name + "]\n"), std::string::npos) << statement << "\n" << found;
+      ++count;
+    }
+  }
+  EXPECT_GT(count, 40U);
 }
 
 TEST(ReadingPage, HasEveryMessage) {

@@ -244,5 +244,22 @@ TEST(MendingPage, ExamplesAreSo) {
   }
 }
 
+// It begins with the commands, a file with the finding and the mended file, and a part of the
+// document.
+TEST(Readme, ExampleIsSo) {
+  const std::vector<Block> blocks = Page(Docs().parent_path() / "README.md").blocks;
+  ASSERT_GE(blocks.size(), 3U);
+  const Example example = ExampleOf(blocks[1]);
+  const PageRun run = RunExample(FileOf(example.file, false), "");
+  EXPECT_EQ(run.findings, example.findings);
+  EXPECT_EQ(WithoutIndentation(run.mended.text), FileOf(example.mended, false));
+  std::string json;
+  for (const std::string& line : blocks[2].lines) json += line + " ";
+  json.resize(json.rfind("..."));
+  EXPECT_TRUE(IsExcerpt(json, DocumentOf(run.mended.text).value_or(""))) << json;
+  const std::string before = DocumentOf(FileOf(example.file, false)).value_or("");
+  EXPECT_NE(before.find("\"FECU_ADDRESS\": null"), std::string::npos) << before;
+}
+
 }  // namespace
 }  // namespace a2l::test

@@ -3,12 +3,13 @@
 #
 # usage: tests/docs/recipes.sh [--all] [<folder of a2l2json>]
 #
-# Runs the code blocks of docs/recipes.md and docs/json.md as they stand, in their order, in one
-# folder, with a2l2json from the given folder (build/release unless another one is given) in the
-# search path. A block must end with the exit code 0, or with the one that a comment of the form
+# Runs the code blocks of docs/recipes.md, docs/mending.md and docs/json.md as they stand, in their
+# order, in one folder, with a2l2json and a2lmend from the given folder (build/release unless another
+# one is given) in the search path. A block must end with the exit code 0, or with the one that a comment of the form
 # <!-- exit code 1 --> before it gives; where a block of the kind "text" follows it, it must print
 # that. Its section must name the Debian packages that it needs, in a sentence that begins with
-# "Needs". A block whose package is not installed is skipped; with --all it has failed.
+# "Needs". A block whose package is not installed is skipped, and so is one with a2lmend where that has
+# not been built; with --all they have failed.
 #
 # Ends with 77, which means skipped, when there is no a2l2json.
 
@@ -126,30 +127,39 @@ cat >methods.a2l <<'A2L'
 A2L
 cp a2l/engine.a2l old.a2l
 sed 's/0xC0001000/0xC0001004/; s/FRAME Fast/FRAME Slow/; /begin BLOB/,/end BLOB/d' old.a2l >new.a2l
+cat >one-line.a2l <<'A2L'
+/begin PROJECT p ""
+  /begin MODULE m ""
+/begin MEASUREMENT m "" UBYTE NO_COMPU_METHOD 0 0 0 255 ECU_ADDRESS 0x51A50 /end MEASUREMENT
+  /end MODULE
+/end PROJECT
+A2L
+cp one-line.a2l engine.a2l
 mkdir split
 cat >split/main.a2l <<'A2L'
 /begin PROJECT Split "a file in parts"
   /include "parts\modules.a2l"
 /end PROJECT
 A2L
-mkdir split/parts
+mkdir split/parts parts
 printf '/begin MODULE Engine ""\n/include objects.a2l\n/end MODULE' >split/parts/modules.a2l
-cat >split/parts/objects.a2l <<'A2L'
+cat >parts/objects.a2l <<'A2L'
 /begin MEASUREMENT EngineSpeed "" UWORD NO_COMPU_METHOD 1 0 0 8000
   ECU_ADDRESS 0x1000
   BIT_MASK 0xFF
 /end MEASUREMENT
 A2L
-sed '3s/.*/  UNHEARD_OF 1/' split/parts/objects.a2l >fragment.a2l
+sed '3s/.*/  UNHEARD_OF 1/' parts/objects.a2l >fragment.a2l
 cp a2l/engine.a2l mixed/
 cp a2l/typo.a2l 'mixed/R&D|1.a2l'
 cp "$cases/messages/fail_encoding.a2l" mixed/encoding.a2l
 ln -s nowhere mixed/gone.a2l # is found, but cannot be opened
 cp "$cases/lines/ok_latin1_bytes_in_text.a2l" latin1.a2l
 cp "$cases/lines/warn_byte_order_mark_before_keyword.a2l" bom.a2l
-cp "$cases/lines/warn_tab_between_keyword_and_value.a2l" tabs.a2l
-cp "$cases/messages/fail_encoding.a2l" encoding.a2l
-cp "$cases/blocks/ok_list_entries_before_end_are_lost.a2l" list.a2l
+mkdir raw
+cp "$cases/lines/warn_tab_between_keyword_and_value.a2l" raw/tabs.a2l
+cp "$cases/messages/fail_encoding.a2l" raw/encoding.a2l
+cp "$cases/blocks/ok_list_entries_before_end_are_lost.a2l" raw/list.a2l
 cp "$root/docs/json.schema.json" docs/
 printf '\xFF\xFEA\0S\0A\0P\0002\0_\0V\0E\0R\0S\0I\0O\0N\0 \0001\0 \0007\0001\0\n\0' >utf16.a2l
 
@@ -217,6 +227,11 @@ handle() {
     sh | python | javascript) ;;
     *) return ;; # not to be run
   esac
+  if grep -q a2lmend "$4" && [[ ! -x $programs/a2lmend ]]; then
+    printf 'skipped: %s: a2lmend is not built\n' "$1"
+    skipped=$((skipped + 1))
+    return
+  fi
   local package
   for package in $(packages "$2" "$4"); do
     if [[ $needs != *"\`$package\`"* ]]; then
@@ -234,7 +249,7 @@ handle() {
 }
 
 # The blocks of a page, one after the other.
-for page in recipes.md json.md; do
+for page in recipes.md mending.md json.md; do
   heading='' kind='' exit_code=0 number=0 needs='' in_needs=''
   while IFS= read -r line; do
     number=$((number + 1))

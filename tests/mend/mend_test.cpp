@@ -76,6 +76,7 @@ TEST(Mend, MakesBlanksOfOtherWhiteSpace) {
                  "    /begin MOD_COMMON \"\"\n      ALIGNMENT_BYTE 1\n      ALIGNMENT_WORD 2\n"
                  "    /end MOD_COMMON\n",
                  "tab@4:1 white-space@5:1");
+  Expect({"\fASAP2_VERSION 1 71\n", "ASAP2_VERSION 1 71\n", "white-space@1:2"});
 }
 
 TEST(Mend, SeparatesWordsThatACommentJoins) {
@@ -227,6 +228,12 @@ TEST(MendRaw, PartsABackslashFromItsQuoteBeforeAComment) {
   EXPECT_TRUE(DocumentOf(run.mended.text).has_value());
 }
 
+TEST(MendRaw, SeparatesWhatACommentBehindATextJoins) {
+  ExpectInModule("    /begin IF_DATA XCP\n 1\n\"a\n// b\"/* c */\"d\"\n    /end IF_DATA\n",
+                 "    /begin IF_DATA XCP\n 1\n\"a // b\"/* c */ \"d\"\n    /end IF_DATA\n",
+                 "text-comment@5:1 comment@6:6");
+}
+
 TEST(MendRaw, TellsOfUnknownBlocks) {
   ExpectInModule("    /begin COLOUR red\n    /end COLOUR\n",
                  "    /begin COLOUR\n red\n    /end COLOUR\n", "unknown-block@3:12");
@@ -354,6 +361,11 @@ TEST(MendGrammar, TellsOfSurplusParameters) {
       "    /begin MOD_COMMON \"\" 5\n      ALIGNMENT_BYTE 1 2\n      3\n    /end MOD_COMMON\n",
       "    /begin MOD_COMMON \"\" 5\n      ALIGNMENT_BYTE 1 2 3\n    /end MOD_COMMON\n",
       "surplus@3:26 surplus@4:24");
+  // Behind an /end, it is the block around it that has no place for them.
+  EXPECT_EQ(
+      RunMend("/begin PROJECT p \"\"\n/begin MODULE m \"\"\n/end MODULE 5\n/end PROJECT\n").Texts(),
+      "file.a2l:3:13: cannot be mended: PROJECT p has no parameter for 5, which is dropped "
+      "[surplus]\n");
 }
 
 // The rest of a handle behind its text is dropped, and stays on its line.

@@ -177,7 +177,12 @@ MendRule Comparison::RuleFor(const Word& word, const LineWord& found, Role role)
       --gap;
     }
     const char before = gap > 0 ? text_[gap - 1] : '\n';
-    if (before == ' ' || before == '\n') return MendRule::InsideText;
+    if (before == ' ' || before == '\n') {
+      // Tabs do no harm there.
+      const std::string_view between = text_.substr(gap, word.begin - gap);
+      const bool isHarmless = between.find_first_not_of('\t') == std::string_view::npos;
+      return isHarmless ? MendRule::InsideText : MendRule::WhiteSpace;
+    }
     if (gap < word.begin) return joinedBy(text_[gap]);
     return before == '/' ? MendRule::Comment : MendRule::InsideText;
   }

@@ -122,7 +122,7 @@ void RawText::Rewrite(const Word& word, MendRule rule) {
   // On a line of its own: what stood before it, may have been the last line of another such text.
   if (!isFirst_ && out_.LineHasWords()) out_.Raw("\n ");
   Append(MendedText(word.text, word.traits));
-  begin_ = lexer_.Top().position;
+  begin_ = rewrittenEnd_ = lexer_.Top().position;
 }
 
 void RawText::PartMarkers(const Word& word) {
@@ -142,8 +142,9 @@ void RawText::Comment() {
   if (SkipComment(source)) {
     // Nothing stands in the place of a comment: words that touch it would become one.
     const std::size_t behind = source.position;
-    const bool touches = word.begin > begin_ && !IsWhite(text[word.begin - 1]) &&
-                         behind < text.size() && !IsWhite(text[behind]);
+    const bool isBehindWord = word.begin > begin_ || word.begin == rewrittenEnd_;
+    const bool touches = isBehindWord && !IsWhite(text[word.begin - 1]) && behind < text.size() &&
+                         !IsWhite(text[behind]);
     if (!touches) return;
     Copy(behind);
     out_.Raw(" ");

@@ -42,7 +42,8 @@ class RawText {
   Lexer& lexer_;
   Layout& out_;
   Reporter& reporter_;
-  std::size_t begin_ = 0;  // of what has not been copied
+  std::size_t begin_ = 0;                                    // of what has not been copied
+  std::size_t rewrittenEnd_ = static_cast<std::size_t>(-1);  // of the last text written anew
   bool isFirst_ = true;
   /// The keywords of the blocks inside that are open.
   std::vector<std::string_view> inner_;

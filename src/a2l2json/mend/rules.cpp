@@ -28,7 +28,7 @@ constexpr std::array kRows = {
     MendRuleRow{MendRule::Tab, "tab", kLost, "a tab joins {0} to the word beside it",
                 "To the converter only a blank separates words; a tab makes one word of two."},
     MendRuleRow{MendRule::WhiteSpace, "white-space", kLost,
-                "white space that is not a blank joins {0} to the word beside it",
+                "white space that is not a blank becomes a part of the word {0}",
                 "To the converter form feeds, vertical tabs and lone carriage returns do not "
                 "separate words."},
     MendRuleRow{

@@ -245,7 +245,7 @@ void Walk::NotAKeyword(const Word& word, ElementKind kind) {
     } else if (IsBlock(kind)) {
       Report(MendRule::BeginMissing, word, OpenElement());
     } else if (LooksLikeAValue(word)) {
-      Report(MendRule::Surplus, word, Item());
+      Report(MendRule::Surplus, word, Item().keyword.empty() ? OpenElement() : Item());
     } else {
       Report(MendRule::UnknownKeyword, word, OpenElement());
     }
