@@ -177,6 +177,17 @@ cmp "$work/check/readme.json" "$expected"
 [[ $(<"$work/check/readme.txt") == EngineSpeed ]] || die 'the program in the README prints something else'
 say 'so does the program in the README'
 
+# The program in the page on mending.
+sed -n '/^```cpp$/,/^```$/{/^```/d;p}' docs/mending.md >"$work/check/mending.cpp"
+g++ -std=c++20 "$work/check/mending.cpp" "${flags[@]}" -o "$work/check/mending"
+printf 'ASAP2_VERSION 1 71 A2ML_VERSION 1 31\n' >"$work/check/engine.a2l"
+(cd "$work/check" && ./mending 2>mending.txt >mending.json)
+[[ $(<"$work/check/mending.txt") == *'[same-line]'*'2 values would be lost' ]] ||
+  die 'the program in docs/mending.md tells something else'
+grep -q '"FA2ML_VERSION_VERSION_NO": 1' "$work/check/mending.json" ||
+  die 'the program in docs/mending.md converts something else'
+say 'so does the program in docs/mending.md'
+
 # The program in the page on C.
 sed -n '/^```c$/,/^```$/{/^```/d;p}' examples/c/README.md >"$work/check/readme.c"
 cc -std=c99 "$work/check/readme.c" "${c_flags[@]}" -o "$work/check/readme-c"
