@@ -368,16 +368,6 @@ TEST(MendGrammar, TellsOfSurplusParameters) {
       "[surplus]\n");
 }
 
-// The rest of a handle behind its text is dropped, and stays on its line.
-TEST(MendGrammar, LeavesWhatIsDroppedOnItsLine) {
-  const std::string_view lines =
-      "    /begin MOD_PAR \"\"\n      /begin CALIBRATION_METHOD \"a\" 2\n"
-      "        /begin CALIBRATION_HANDLE\n          1\n"
-      "          CALIBRATION_HANDLE_TEXT \"Torque\"\n          3\n"
-      "        /end CALIBRATION_HANDLE\n      /end CALIBRATION_METHOD\n    /end MOD_PAR\n";
-  ExpectInModule(lines, lines, "surplus@8:11");
-}
-
 TEST(MendGrammar, TellsOfMissingRows) {
   ExpectInModule("    /begin COMPU_TAB t \"\" TAB_INTP 2\n      1 2\n      3\n    /end COMPU_TAB\n",
                  "    /begin COMPU_TAB t \"\" TAB_INTP 2\n      1 2\n      3\n    /end COMPU_TAB\n",
