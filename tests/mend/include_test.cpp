@@ -51,6 +51,12 @@ TEST(MendInclude, TakesCommentsAroundTheName) {
   EXPECT_EQ(RunMend("/include /* a").Short(), "include-missing@1:1 comment-without-end@1:10");
 }
 
+TEST(MendInclude, MayStandBeforeAMarkerWithoutAName) {
+  Expect("ASAP2_VERSION 1 71 x /include/begin PROJECT p \"\"\n/end PROJECT\n", {},
+         "ASAP2_VERSION 1 71 x\n/begin PROJECT p \"\"\n/end PROJECT\n",
+         "before-begin@1:1 unknown-keyword@1:20 include-missing@1:22");
+}
+
 TEST(MendInclude, IsNoWordThatOnlyBeginsSo) {
   Expect("/included 1", {{"1", "x"}}, "/included 1\n", "unknown-keyword@1:1");
 }

@@ -145,7 +145,7 @@ bool Lexer::HasInclude() const {
          std::equal(kInclude.begin(), kInclude.end(), rest.begin(),
                     [](char a, char b) { return a == LowerCase(b); }) &&
          (rest.size() == kInclude.size() || IsWhite(rest[kInclude.size()]) ||
-          rest[kInclude.size()] == '"' || BeginsComment(rest.substr(kInclude.size())));
+          rest[kInclude.size()] == '"' || IsMarkerOrComment(rest.substr(kInclude.size())));
 }
 
 bool Lexer::FollowInclude(Word& word) {
