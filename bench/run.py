@@ -100,6 +100,17 @@ def measure_stages(bench, folder, sizes, samples):
             )
 
 
+def measure_mending(mend, folder, inputs, samples):
+    """The program that mends; measure_processes adds the limit for the bytes that it wrote."""
+    output = os.path.join(folder, "mended.a2l")
+    for size, data in inputs.items():
+        if size == "1k":
+            continue
+        samples.add("Mend", size, run([mend, "--quiet", data["path"], output]))
+        data["mended"] = os.path.getsize(output)
+        os.remove(output)
+
+
 def measure_processes(bench, program, folder, inputs, samples):
     """The program, and directly after it the physical limit for the same bytes."""
     output = os.path.join(folder, "out.json")
@@ -116,6 +127,10 @@ def measure_processes(bench, program, folder, inputs, samples):
         if size != "1k":
             copy = [bench, "--plain-copy", data["path"], output, str(written)]
             samples.add("Limit", size, run(copy))
+            os.remove(output)
+        if "mended" in data:
+            copy = [bench, "--plain-copy", data["path"], output, str(data["mended"])]
+            samples.add("MendLimit", size, run(copy))
             os.remove(output)
 
 
@@ -183,7 +198,11 @@ def report(sizes, inputs, samples):
         value = samples.median(name, size, field)
         return None if value is None else value / inputs[size]["bytes"]
 
-    ratios = [
+    ratios = []
+    if samples.median("Mend", 64, "cpu") is not None:
+        ratios.append(("mending / physical limit of its bytes at 64 MB, processor time",
+                       ratio(per_byte("Mend", 64), per_byte("MendLimit", 64))))
+    ratios += [
         ("whole conversion / physical limit at 64 MB, processor time",
          ratio(per_byte("Whole", 64), per_byte("Limit", 64)) if 64 in inputs else "-"),
         ("whole conversion / physical limit at 64 MB, wall clock",
@@ -219,12 +238,14 @@ def main():
     parser.add_argument("--bench", required=True, help="the benchmark program")
     parser.add_argument("--program", required=True, help="the converter")
     parser.add_argument("--generate", required=True, help="the generator")
+    parser.add_argument("--mend", help="the program that mends; a2lmend beside the converter")
     parser.add_argument("--rounds", type=int, default=5)
     parser.add_argument("--sizes", default="1,8,64,256", help="in MB")
     arguments = parser.parse_args()
     bench, program, generate = (
         os.path.abspath(path) for path in (arguments.bench, arguments.program, arguments.generate)
     )
+    mend = os.path.abspath(arguments.mend or os.path.join(os.path.dirname(program), "a2lmend"))
     sizes = [int(size) for size in arguments.sizes.split(",")]
 
     in_memory = "/dev/shm" if os.access("/dev/shm", os.W_OK) else None
@@ -235,6 +256,8 @@ def main():
         samples = Samples()
         for done in range(arguments.rounds):
             print(f"round {done + 1} of {arguments.rounds}", file=sys.stderr)
+            if arguments.mend or os.path.exists(mend):
+                measure_mending(mend, folder, inputs, samples)
             measure_processes(bench, program, folder, inputs, samples)
             measure_stages(bench, folder, sizes, samples)
         print(f"{machine()} at the end; medians of {arguments.rounds} rounds")
