@@ -81,7 +81,7 @@ class Block {
     return block;
   }
   /// `size` bytes, fewer than 16, and zeros behind them.
-  [[nodiscard]] static Block LoadPart(const char* from, std::size_t size) {
+  [[nodiscard, gnu::always_inline]] static Block LoadPart(const char* from, std::size_t size) {
     using Vector64 = std::uint64_t __attribute__((vector_size(kBlock)));
     const Words words = Words::LoadPart(from, size);
     Block block;
@@ -105,7 +105,7 @@ class Block {
   [[nodiscard]] static Block Load(const char* from) {
     return Block{{bytes::Load<std::uint64_t>(from), bytes::Load<std::uint64_t>(from + 8)}};
   }
-  [[nodiscard]] static Block LoadPart(const char* from, std::size_t size) {
+  [[nodiscard, gnu::always_inline]] static Block LoadPart(const char* from, std::size_t size) {
     return Block{Words::LoadPart(from, size)};
   }
   void Store(char* to) const {
