@@ -26,10 +26,17 @@ const char* ClosingQuote(const char* begin, const char* end) {
   }
 }
 
-const char* SkipTrimmed(const char* begin, const char* end) {
-  begin = bytes::SkipAll<' '>(begin, end);  // most lines are indented
+const char* SkipManyTrimmed(const char* begin, const char* end) {
+  begin = bytes::SkipAll<' '>(begin, end);
   while (begin != end && IsTrimmed(*begin)) ++begin;
   return begin;
+}
+
+// Mostly one blank stands between two tokens, and many in front of a line.
+[[gnu::always_inline]] inline const char* SkipTrimmed(const char* begin, const char* end) {
+  if (begin != end && *begin == ' ') ++begin;
+  if (begin == end || static_cast<unsigned char>(*begin) > ' ') return begin;
+  return SkipManyTrimmed(begin, end);
 }
 
 }  // namespace
