@@ -59,8 +59,8 @@ consteval auto MakeSlots() {
 constexpr auto kSlots = MakeSlots();
 
 constexpr bool IsText(const Keyword& keyword, std::string_view text, bytes::Words ends) {
-  return keyword.ends.low == ends.low && keyword.ends.high == ends.high &&
-         keyword.text.size() == text.size() && (text.size() <= 16 || keyword.text == text);
+  return keyword.ends == ends && keyword.text.size() == text.size() &&
+         (text.size() <= 16 || keyword.text == text);
 }
 
 constexpr const Keyword* Find(std::string_view text) {

@@ -64,6 +64,7 @@ struct Words {
     return {byte(0) | byte(size / 2) | byte(size - 1)};
   }
 
+  friend constexpr bool operator==(const Words&, const Words&) = default;
   friend Words operator|(Words a, Words b) { return {a.low | b.low, a.high | b.high}; }
 };
 
