@@ -4,10 +4,17 @@
 #include <cstdlib>
 #include <new>
 
+#include "a2l2json/model/large_pages.h"
+
 namespace a2l::detail {
 namespace {
 
-constexpr std::size_t kMostBlockSize = std::size_t{4} * 1024 * 1024;
+constexpr std::size_t kMostBlockSize = kLargePage;
+
+// A block that consists of large pages begins at one.
+constexpr std::align_val_t AlignmentOf(std::size_t size) {
+  return std::align_val_t{size % kLargePage == 0 ? kLargePage : alignof(std::max_align_t)};
+}
 
 }  // namespace
 
@@ -23,9 +30,18 @@ char* Blocks::MakeRoom(std::size_t size) {
 }
 
 char* Blocks::AddBlock(std::size_t size) {
-  auto* const bytes = static_cast<char*>(::operator new(sizeof(Block) + size));
-  last_ = new (bytes) Block{last_};
-  return bytes + sizeof(Block);
+  const std::size_t whole = sizeof(Block) + size;
+  void* const bytes = ::operator new(whole, AlignmentOf(whole));
+  if (whole % kLargePage == 0) AskForLargePages(bytes, whole);
+  last_ = new (bytes) Block{last_, whole};
+  return static_cast<char*>(bytes) + sizeof(Block);
+}
+
+Blocks::~Blocks() {
+  while (last_ != nullptr) {
+    Block* const block = std::exchange(last_, last_->before);
+    ::operator delete(block, AlignmentOf(block->size));
+  }
 }
 
 void RunOutOfMemory() {

@@ -31,9 +31,7 @@ class Blocks {
   Blocks() = default;
   Blocks(const Blocks&) = delete;
   Blocks& operator=(const Blocks&) = delete;
-  ~Blocks() {
-    while (last_ != nullptr) ::operator delete(std::exchange(last_, last_->before));
-  }
+  ~Blocks();
 
   /// What objects are aligned to, and may at most ask for.
   static constexpr std::size_t kAlignment =
@@ -59,6 +57,7 @@ class Blocks {
  private:
   struct alignas(kAlignment) Block {
     Block* before;
+    std::size_t size;
   };
 
   [[nodiscard]] std::size_t Left() const { return static_cast<std::size_t>(back_ - front_); }
