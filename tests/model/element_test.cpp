@@ -52,7 +52,7 @@ class ElementTest : public testing::Test {
 
 TEST_F(ElementTest, BaseHasDefaults) {
   EXPECT_EQ(root_->kind, KIND_ROOT);
-  EXPECT_EQ(root_->version, 67072U);
+  EXPECT_EQ(root_->Version(), 67072U);
   EXPECT_EQ(root_->paramCount, 0U);
   EXPECT_EQ(root_->hasMoreParameters, 0);
   EXPECT_EQ(root_->valid, 1);
@@ -377,7 +377,7 @@ TEST_F(ElementTest, KeywordsOfTheLaterStandardSaySo) {
   }
   EXPECT_EQ(later.size(), 23U);
   for (const ElementKind kind : KindsWithAClass()) {
-    EXPECT_EQ(Make(kind)->version, later.contains(Shown(kind)) ? 67329U : 67072U) << Shown(kind);
+    EXPECT_EQ(Make(kind)->Version(), later.contains(Shown(kind)) ? 67329U : 67072U) << Shown(kind);
   }
 }
 

@@ -128,7 +128,7 @@ struct Declaration {
   /// The index of the parameter that tells how many rows there are; meaningless without columns.
   std::size_t rowCount = 0;
   /// Tokens that must be there before the parameters are read, or kOpenParameterList.
-  std::uint32_t paramCount = 0;
+  std::uint16_t paramCount = 0;
   /// Revision of the ASAP2 standard that the keyword belongs to.
   std::uint32_t revision = kRevision160;
   /// The kinds of children, KIND_UNKNOWN included.

@@ -38,11 +38,11 @@ class DeclaredElement : public VoA2LElement {
   bool ParseMoreParameters(std::string_view& text) override;
   bool AddChild(VoA2LElement* child) override;
   [[nodiscard]] std::int32_t MoreParameterCount() const override;
+  [[nodiscard]] std::uint32_t Version() const override { return Declared().revision; }
 
  protected:
   DeclaredElement(ElementKind elementKind, const Declaration& declaration) {
     kind = elementKind;
-    version = declaration.revision;
     paramCount = declaration.paramCount;
     hasMoreParameters = declaration.HasRows() ? 1 : 0;
   }
@@ -93,7 +93,9 @@ consteval Declaration Declare() {
   declaration.columns = kColumns<Class>;
   for (const Parameter& parameter : declaration.parameters) {
     const bool open = parameter.isList || parameter.type == ParameterType::RawText;
-    declaration.paramCount = open ? kOpenParameterList : declaration.paramCount + parameter.count;
+    declaration.paramCount =
+        open ? kOpenParameterList
+             : static_cast<std::uint16_t>(declaration.paramCount + parameter.count);
   }
   if (declaration.HasRows()) {
     const auto count = std::ranges::find_if(declaration.parameters, &Parameter::countsRows);

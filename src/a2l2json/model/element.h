@@ -19,7 +19,7 @@ inline constexpr std::uint32_t kRevision171 = 0x00010701;
 
 /// The `paramCount` of a keyword whose parameter list is open: it runs up to the next known
 /// keyword or /end.
-inline constexpr std::uint32_t kOpenParameterList = 65535;
+inline constexpr std::uint16_t kOpenParameterList = 65535;
 
 /// One node of the tree that a file is read into. A plain VoA2LElement of kind 0 is the root;
 /// every block and property is of a subclass named after its keyword.
@@ -37,23 +37,23 @@ class VoA2LElement {
   VoA2LElement(const VoA2LElement&) = delete;
   VoA2LElement& operator=(const VoA2LElement&) = delete;
 
-  /// Its keyword, by which KindToKeyword (model/keywords.h) gives the text.
-  ElementKind kind = KIND_ROOT;
-  /// Revision of the standard that the keyword belongs to; nothing depends on it.
-  std::uint32_t version = kRevision160;
-  /// Tokens that must be there before ParseParameters is called, or kOpenParameterList.
-  std::uint32_t paramCount = 0;
-  /// Set where a second run of values (the rows of a table) follows the fixed parameters.
-  std::uint8_t hasMoreParameters = 0;
+  // A file has millions of elements, and most of a tree is what every one of them has. So the small
+  // fields lie in the padding behind the list, and the first number of a property behind the kind.
+
   /// The block that holds this element; null for the root and for an element not yet attached.
   VoA2LElement* parent = nullptr;
   /// The elements inside this one, in file order.
-  // The flag behind it lies in its padding: eight bytes less for each of millions of elements.
   [[no_unique_address]] List<VoA2LElement*> children;
   /// Cleared when parameters of an object or of one of its properties were wrong.
-  std::uint8_t valid = 1;
+  std::uint8_t valid : 1 = 1;
+  /// Set where a second run of values (the rows of a table) follows the fixed parameters.
+  std::uint8_t hasMoreParameters : 1 = 0;
+  /// Tokens that must be there before ParseParameters is called, or kOpenParameterList.
+  std::uint16_t paramCount = 0;
   /// The memory that this element and its tree lie in; see Store.
   TreeStore* store = nullptr;
+  /// Its keyword, by which KindToKeyword (model/keywords.h) gives the text.
+  ElementKind kind = KIND_ROOT;
 
   /// The store. An element without one gets that of its parent; without a parent, it gets a new
   /// one and is the root of its tree.
@@ -85,6 +85,9 @@ class VoA2LElement {
   /// Number of tokens that ParseMoreParameters needs; in the base 0 where there is a second run
   /// and -1 where there is none.
   [[nodiscard]] virtual std::int32_t MoreParameterCount() const;
+
+  /// Revision of the standard that the keyword belongs to; nothing depends on it.
+  [[nodiscard]] virtual std::uint32_t Version() const { return kRevision160; }
 
   [[nodiscard]] VoA2LElement* Parent() const { return parent; }
   [[nodiscard]] std::size_t ChildCount() const { return children.size(); }
