@@ -127,18 +127,14 @@ template <class Item, class ReadItem>
 bool DeclaredElement::ReadList(const Parameter& parameter, List<Item>& list, std::string_view& text,
                                ReadItem readItem) {
   if (!parameter.addsItems) list.Clear();
-  for (text = Trim(text); !text.empty(); text = Trim(text)) {
-    if (parameter.childInList != KIND_ROOT) {
-      std::string_view rest = text;
-      const std::string_view token = NextToken(rest);
-      if (token.find(KindToKeyword(parameter.childInList)) != std::string_view::npos) {
-        text = rest;
-        VoA2LElement* const child = MakeChildInList();
-        child->ParseParameters(text);
-        return AddChild(child);
-      }
+  for (std::string_view token = NextToken(text); !token.empty(); token = NextToken(text)) {
+    if (parameter.childInList != KIND_ROOT &&
+        token.find(KindToKeyword(parameter.childInList)) != std::string_view::npos) {
+      VoA2LElement* const child = MakeChildInList();
+      child->ParseParameters(text);
+      return AddChild(child);
     }
-    const Converted<Item> item = readItem(text);
+    const Converted<Item> item = readItem(token);
     if (item.ok || parameter.keepsWrongItem) list.PushBack(Store(), item.value);
     if (!item.ok) return false;
   }
@@ -150,24 +146,21 @@ bool DeclaredElement::ReadList(const Parameter& parameter, std::string_view& tex
   switch (parameter.type) {
     case ParameterType::Identifier:
       return ReadList(parameter, this->*parameter.place.texts, text,
-                      [this](std::string_view& rest) {
-                        return TextItem{ReadIdentifier(Store(), rest), true};
+                      [this](std::string_view token) {
+                        return TextItem{KeepIdentifier(Store(), token), true};
                       });
     case ParameterType::Text:
     case ParameterType::UnquotedText:
       return ReadList(parameter, this->*parameter.place.texts, text,
-                      [this](std::string_view& rest) {
-                        return TextItem{ReadText(Store(), rest), true};
+                      [this](std::string_view token) {
+                        return TextItem{KeepText(Store(), token), true};
                       });
     case ParameterType::Unsigned:
-      return ReadList(parameter, this->*parameter.place.numbers, text,
-                      [](std::string_view& rest) { return ReadUnsigned(NextToken(rest)); });
+      return ReadList(parameter, this->*parameter.place.numbers, text, ReadUnsigned);
     case ParameterType::Signed:
-      return ReadList(parameter, this->*parameter.place.signedNumberList, text,
-                      [](std::string_view& rest) { return ReadSigned(NextToken(rest)); });
+      return ReadList(parameter, this->*parameter.place.signedNumberList, text, ReadSigned);
     case ParameterType::Real:
-      return ReadList(parameter, this->*parameter.place.reals, text,
-                      [](std::string_view& rest) { return ReadReal(NextToken(rest)); });
+      return ReadList(parameter, this->*parameter.place.reals, text, ReadReal);
     case ParameterType::NamedValue:
       return ReadNamedValues(parameter, text);
     case ParameterType::Unsigned64:
@@ -185,8 +178,8 @@ bool DeclaredElement::ReadNamedValues(const Parameter& parameter, std::string_vi
     names.Clear();
     values.Clear();
   }
-  for (text = Trim(text); !text.empty(); text = Trim(text)) {
-    names.PushBack(Store(), ReadIdentifier(Store(), text));
+  for (std::string_view name = NextToken(text); !name.empty(); name = NextToken(text)) {
+    names.PushBack(Store(), KeepIdentifier(Store(), name));
     const std::string_view value = ReadIdentifier(Store(), text);
     if (value.empty()) return false;
     values.PushBack(Store(), value);
