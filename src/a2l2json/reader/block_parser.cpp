@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "a2l2json/reader/block_parser.h"
 
+#include <string>
 #include <utility>
 
 #include "a2l2json/elements/declarations.h"
@@ -22,9 +23,12 @@ bool KeepsRawText(ElementKind kind) { return detail::DeclarationOf(kind)->KeepsR
 
 bool BlockParser::Run() {
   while (true) {
-    std::string_view line = std::exchange(remainder_, {});
-    LineSource::Slashes slashes = remainderSlashes_;
-    if (line.empty()) {
+    std::string_view line;
+    LineSource::Slashes slashes;
+    if (!remainder_.empty()) {
+      line = std::exchange(remainder_, {});
+      slashes = remainderSlashes_;
+    } else {
       if (!ReadPhysicalLine(line)) return !lines_.Failed();
       slashes = lines_.SlashesOfLine();
       if (slashes.first != kNone && !RemoveComments(line, slashes)) {
@@ -86,7 +90,7 @@ bool BlockParser::HandleLine(std::string_view line, LineSource::Slashes slashes)
 
 bool BlockParser::HandleBegin(std::string_view line, std::string_view text) {
   if (state_ == State::RawContent) {
-    Append('\n', line);
+    collected_.Append('\n', line);
     ++rawDepth_;
     return true;
   }
@@ -120,7 +124,7 @@ bool BlockParser::HandleBegin(std::string_view line, std::string_view text) {
 
 bool BlockParser::HandleEnd(std::string_view line, std::string_view text) {
   if (state_ == State::RawContent && rawDepth_ > 0) {
-    Append('\n', line);
+    collected_.Append('\n', line);
     --rawDepth_;
     return true;
   }
@@ -134,7 +138,7 @@ bool BlockParser::HandleEnd(std::string_view line, std::string_view text) {
     if (!ReturnToParent(DiagnosticKind::NoParentAtEnd)) return false;
   }
   if (keyword.empty() || KeywordToKind(keyword) != current_->kind) {
-    return Fail(DiagnosticKind::EndDoesNotMatch, std::string(KindToKeyword(current_->kind)));
+    return Fail(DiagnosticKind::EndDoesNotMatch, KindToKeyword(current_->kind));
   }
   return ReturnToParent(DiagnosticKind::NoParentAtEnd);
 }
@@ -142,13 +146,13 @@ bool BlockParser::HandleEnd(std::string_view line, std::string_view text) {
 bool BlockParser::HandlePlain(std::string_view line) {
   switch (state_) {
     case State::RawContent:
-      Append('\n', line);
+      collected_.Append('\n', line);
       return true;
     case State::CollectParams:
     case State::CollectPropertyParams:
     case State::CollectMoreParams:
-      Append(' ', line);
-      counter_.Continue(collected_);
+      collected_.Append(' ', line);
+      counter_.Continue(collected_.View());
       return static_cast<std::int64_t>(counter_.Count()) < needed_ || CompleteCollection();
     case State::CollectOpen:
     case State::Idle:
@@ -161,14 +165,14 @@ bool BlockParser::HandlePlain(std::string_view line) {
   const ElementKind kind = KeywordToKind(keyword);
   if (state_ == State::CollectOpen) {
     if (kind == KIND_UNKNOWN) {
-      Append(' ', line);
+      collected_.Append(' ', line);
       return true;
     }
     if (!CloseCollection(DiagnosticKind::NoParent)) return false;
   }
   if (keyword.empty()) return true;
   if (kind == KIND_UNKNOWN) {
-    Warn(DiagnosticKind::UnexpectedElement, std::string(keyword));
+    Warn(DiagnosticKind::UnexpectedElement, keyword);
     return true;
   }
   return HandleProperty(kind, keyword, text);
@@ -177,7 +181,7 @@ bool BlockParser::HandlePlain(std::string_view line) {
 bool BlockParser::HandleProperty(ElementKind kind, std::string_view keyword,
                                  std::string_view text) {
   VoA2LElement* property = IsProperty(kind) ? CreateElement(kind, *current_) : nullptr;
-  if (property == nullptr) return Fail(DiagnosticKind::BeginMissing, std::string(keyword));
+  if (property == nullptr) return Fail(DiagnosticKind::BeginMissing, keyword);
   if (!Attach(property, keyword)) return false;
   if (!HasTokens(text, property->paramCount)) {
     current_ = property;
@@ -193,7 +197,7 @@ bool BlockParser::HandleProperty(ElementKind kind, std::string_view keyword,
 }
 
 bool BlockParser::Attach(VoA2LElement* element, std::string_view keyword) {
-  return current_->AddChild(element) || Fail(DiagnosticKind::RefusedElement, std::string(keyword));
+  return current_->AddChild(element) || Fail(DiagnosticKind::RefusedElement, keyword);
 }
 
 bool BlockParser::HasTokens(std::string_view text, std::int64_t needed) {
@@ -216,17 +220,12 @@ void BlockParser::CompleteParameters(std::string_view text) {
 
 void BlockParser::StartCollecting(State state, std::string_view text, std::int64_t needed) {
   state_ = state;
-  collected_ = text;
+  collected_.Set(text);
   needed_ = needed;
 }
 
-void BlockParser::Append(char separator, std::string_view line) {
-  collected_ += separator;
-  collected_ += line;
-}
-
 bool BlockParser::CompleteCollection() {
-  std::string_view text = collected_;
+  std::string_view text = collected_.View();
   switch (std::exchange(state_, State::Idle)) {
     case State::CollectParams:
       CompleteParameters(text);
@@ -248,7 +247,7 @@ bool BlockParser::CompleteCollection() {
 }
 
 bool BlockParser::CloseCollection(DiagnosticKind ifNoParent) {
-  std::string_view text = collected_;
+  std::string_view text = collected_.View();
   switch (std::exchange(state_, State::Idle)) {
     case State::Idle:
     case State::PendingBegin:
@@ -270,7 +269,7 @@ bool BlockParser::CloseCollection(DiagnosticKind ifNoParent) {
       return !IsProperty(current_->kind) || ReturnToParent(ifNoParent);
     case State::RawContent:
       if (!current_->ParseParameters(text)) {
-        Warn(DiagnosticKind::WrongRawContent, std::string(KindToKeyword(current_->kind)));
+        Warn(DiagnosticKind::WrongRawContent, KindToKeyword(current_->kind));
       }
       return true;
   }
@@ -284,7 +283,7 @@ bool BlockParser::ReturnToParent(DiagnosticKind ifNone) {
 }
 
 void BlockParser::WrongParameters() {
-  Warn(DiagnosticKind::WrongParameters, std::string(KindToKeyword(current_->kind)));
+  Warn(DiagnosticKind::WrongParameters, KindToKeyword(current_->kind));
   ClearValidOfParent();
 }
 
@@ -293,12 +292,12 @@ void BlockParser::ClearValidOfParent() {
   if (parent != nullptr && IsCalibrationObject(*parent)) parent->valid = 0;
 }
 
-void BlockParser::Warn(DiagnosticKind kind, std::string subject) {
-  report_({kind, lineNo_, std::move(subject)});
+void BlockParser::Warn(DiagnosticKind kind, std::string_view subject) {
+  report_({kind, lineNo_, std::string(subject)});
 }
 
-bool BlockParser::Fail(DiagnosticKind kind, std::string subject) {
-  report_({kind, lineNo_, std::move(subject)});
+bool BlockParser::Fail(DiagnosticKind kind, std::string_view subject) {
+  report_({kind, lineNo_, std::string(subject)});
   return false;
 }
 

@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
-#include <string>
 #include <string_view>
 #include <utility>
 
@@ -12,6 +11,7 @@
 #include "a2l2json/reader/comments.h"
 #include "a2l2json/reader/diagnostics.h"
 #include "a2l2json/reader/line_source.h"
+#include "a2l2json/text/growing_text.h"
 #include "a2l2json/text/tokenizer.h"
 
 namespace a2l {
@@ -70,15 +70,14 @@ class BlockParser {
   void CompleteParameters(std::string_view text);
 
   void StartCollecting(State state, std::string_view text, std::int64_t needed);
-  void Append(char separator, std::string_view line);
   bool CompleteCollection();
   bool CloseCollection(DiagnosticKind ifNoParent);
   bool ReturnToParent(DiagnosticKind ifNone);
 
   void WrongParameters();
   void ClearValidOfParent();
-  void Warn(DiagnosticKind kind, std::string subject);
-  bool Fail(DiagnosticKind kind, std::string subject = {});
+  void Warn(DiagnosticKind kind, std::string_view subject);
+  bool Fail(DiagnosticKind kind, std::string_view subject = {});
 
   LineSource& lines_;
   CommentRemover comments_;
@@ -95,7 +94,7 @@ class BlockParser {
   State state_ = State::Idle;
   /// In the collecting states: the parameters so far, the number of their tokens, and how many
   /// are needed. The element that they belong to is the current one.
-  std::string collected_;
+  GrowingText collected_;
   TokenCounter counter_;
   std::int64_t needed_ = 0;
   std::size_t rawDepth_ = 0;
