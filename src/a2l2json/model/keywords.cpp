@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "a2l2json/model/keywords.h"
 
+#include <algorithm>
 #include <array>
+#include <cstdint>
 
 #include "a2l2json/text/bytes.h"
 
@@ -58,9 +60,18 @@ consteval auto MakeSlots() {
 }
 constexpr auto kSlots = MakeSlots();
 
+// What lies between the ends of a longer text, up to the length of the longest keyword.
+constexpr bytes::Words MiddleOf(std::string_view text) {
+  return {bytes::Load<std::uint64_t>(text.data() + 8),
+          bytes::Load<std::uint64_t>(text.data() + text.size() - 16)};
+}
+static_assert(std::ranges::all_of(kKeywords, [](const Keyword& keyword) {
+  return keyword.text.size() <= 32;
+}));
+
 constexpr bool IsText(const Keyword& keyword, std::string_view text, bytes::Words ends) {
   return keyword.ends == ends && keyword.text.size() == text.size() &&
-         (text.size() <= 16 || keyword.text == text);
+         (text.size() <= 16 || MiddleOf(keyword.text) == MiddleOf(text));
 }
 
 constexpr const Keyword* Find(std::string_view text) {
