@@ -144,16 +144,20 @@ void JsonText::Real(double value) {
   SetEnd(Write17Digits(value, End()));
 }
 
+// Most texts are short and need no escape.
 void JsonText::String(std::string_view text) {
-  if (text.size() > kPieceSize) return LongString(text);
-  char* out = ReserveEscaped(text.size());
-  *out++ = '"';
-  out = Escape(text, out);
-  *out++ = '"';
-  SetEnd(out);
+  constexpr std::size_t kMore = bytes::kBlock + std::string_view("\"\"").size();
+  if (text.size() > kPieceSize || kBufferSize - used_ < text.size() + kMore) {
+    return EscapedString(text);
+  }
+  char* const out = End();
+  *out = '"';
+  if (CopyPlain(text, out + 1) != text.size()) return EscapedString(text);
+  out[1 + text.size()] = '"';
+  used_ += text.size() + 2;
 }
 
-void JsonText::LongString(std::string_view text) {
+void JsonText::EscapedString(std::string_view text) {
   PutByte('"');
   while (!text.empty()) {
     std::size_t size = std::min(text.size(), kPieceSize);
@@ -162,18 +166,13 @@ void JsonText::LongString(std::string_view text) {
       if (IsLineSeparator(text.substr(size - 1))) size -= 1;
       if (IsLineSeparator(text.substr(size - 2))) size -= 2;
     }
-    SetEnd(Escape(text.substr(0, size), ReserveEscaped(size)));
+    static_assert(kPieceSize * kMostEscapeBytes + bytes::kBlock <= kBufferSize,
+                  "a piece may not fit the buffer if each of its bytes needs an escape");
+    Reserve(size * kMostEscapeBytes + bytes::kBlock);
+    SetEnd(Escape(text.substr(0, size), End()));
     text.remove_prefix(size);
   }
   PutByte('"');
-}
-
-char* JsonText::ReserveEscaped(std::size_t size) {
-  constexpr std::size_t kMore = bytes::kBlock + std::string_view("\"\"").size();
-  static_assert(kPieceSize * kMostEscapeBytes + kMore <= kBufferSize,
-                "a piece may not fit the buffer if each of its bytes needs an escape");
-  Reserve(size * kMostEscapeBytes + kMore);
-  return End();
 }
 
 }  // namespace a2l

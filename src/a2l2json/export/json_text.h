@@ -85,9 +85,8 @@ class JsonText {
     buffer_[used_++] = c;
   }
   void Put(std::string_view text);
-  void LongString(std::string_view text);
-  // Room for a text of that many bytes, whatever its escapes, and for its quotes.
-  char* ReserveEscaped(std::size_t size);
+  // A text of any length with any escapes.
+  void EscapedString(std::string_view text);
   void Reserve(std::size_t size) {
     if (kBufferSize - used_ < size) Flush();
   }
