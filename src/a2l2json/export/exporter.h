@@ -107,7 +107,7 @@ class Exporter {
       sink_.Key(table, next, index);
       next = index + 1;
     };
-    const std::uint32_t first = places.First(index);
+    const std::uint32_t first = TakesChildren(row) ? places.First(index) : 0;
     switch (row.source) {
       case Source::Element:
         key();
