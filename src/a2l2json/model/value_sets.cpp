@@ -6,12 +6,6 @@
 namespace a2l {
 
 const Word* WordTable::Find(std::string_view token) const {
-  if (token.size() < bytes::kBlock) {
-    const bytes::Words whole = bytes::Words::LoadPart(token.data(), token.size());
-    for (const Word& word : words) {
-      if (word.whole == whole && whole.low != 0) return &word;
-    }
-  }
   const auto found = std::ranges::find_if(
       words, [token](const Word& word) { return token.find(word.text) != std::string_view::npos; });
   return found != words.end() ? &*found : nullptr;

@@ -10,17 +10,12 @@
 #include <span>
 #include <string_view>
 
-#include "a2l2json/text/bytes.h"
-
 namespace a2l {
 
 /// A parameter word of an enumeration and the number that stands for it.
 struct Word {
   std::uint32_t code = 0;
   std::string_view text;
-  /// The text as two numbers, by which a token that is just this word is known at once; 0 where the
-  /// word is longer, or holds one that comes before it.
-  bytes::Words whole = {};
 };
 
 /// An enumeration of parameter words. A word is recognised when it occurs anywhere in a token,
@@ -51,14 +46,6 @@ consteval std::array<Word, kWords> SplitWords(std::string_view list) {
     list.remove_prefix(text.size() < list.size() ? text.size() + 2 : text.size());
     if (text == "UNKNOWN") continue;
     words[word++] = {code, text.substr(0, text.size() - (text.ends_with('_') ? 1 : 0))};
-  }
-  for (std::size_t i = 0; i < kWords; ++i) {
-    const std::string_view text = words[i].text;
-    bool isFirst = text.size() < bytes::kBlock;
-    for (std::size_t k = 0; k < i; ++k) {
-      isFirst = isFirst && text.find(words[k].text) == std::string_view::npos;
-    }
-    if (isFirst) words[i].whole = bytes::Words::LoadPart(text.data(), text.size());
   }
   return words;
 }
