@@ -191,7 +191,7 @@ constexpr Row kRows[] = {
     {.key = "FVAR_SELECTION_CHARACTERISTIC", .source = Source::FirstChild},
 };
 constexpr PreparedRows<kRows> kPrepared;
-constexpr ObjectTable kTable{{}, kRows, kPrepared.Text(), kPrepared.Rows(), {}, {}};
+constexpr ObjectTable kTable{{}, kRows, {}, kPrepared.Text(), kPrepared.Rows(), {}, {}};
 
 TEST(JsonText, WritesPreparedRowsLikeOtherMembers) {
   const std::string text = TextOf([&](JsonText& json) {

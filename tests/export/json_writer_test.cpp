@@ -30,7 +30,7 @@ namespace fs = std::filesystem;
 
 template <class Class>
 Class* Add(VoA2LElement& parent) {
-  auto* child = parent.store->Create<Class>(&parent);
+  auto* child = parent.Store().Create<Class>(&parent);
   EXPECT_TRUE(parent.AddChild(child));
   return child;
 }
@@ -124,9 +124,9 @@ TEST_F(JsonWriterTest, KeepsTheOrderOfThousandsOfChildren) {
   for (std::size_t i = 0; i < kCount; ++i) {
     const std::string name = std::to_string(i);
     auto* measurement = Add<VoA2LElementMeasurement>(*module_);
-    measurement->NAME = root_->store->Copy("m" + name);
+    measurement->NAME = root_->Store().Copy("m" + name);
     auto* blob = Add<VoA2LElementBlob>(*module_);
-    blob->NAME = root_->store->Copy("b" + name);
+    blob->NAME = root_->Store().Copy("b" + name);
     if (i % 3 == 0) Add<VoA2LElementAnnotation>(*blob);
   }
   auto* last = static_cast<VoA2LElementMeasurement*>(Add<VoA2LElementMeasurement>(*module_));

@@ -44,7 +44,7 @@ std::vector<ElementKind> AllKinds() {
 
 VoA2LElement* MakeChild(ElementKind kind, VoA2LElement& parent) {
   if (VoA2LElement* child = CreateElement(kind, parent)) return child;
-  auto* child = parent.store->Create<VoA2LElement>(&parent);
+  auto* child = parent.Store().Create<VoA2LElement>(&parent);
   child->kind = kind;
   return child;
 }

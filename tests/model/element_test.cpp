@@ -37,13 +37,13 @@ class ElementTest : public testing::Test {
 
   // An element of the base class with this kind.
   VoA2LElement* MakePlain(ElementKind kind, VoA2LElement* parent = nullptr) {
-    auto* element = root_->store->Create<VoA2LElement>(parent);
+    auto* element = root_->Store().Create<VoA2LElement>(parent);
     element->kind = kind;
     return element;
   }
 
   VoA2LElementASAP2Version* MakeVersion(VoA2LElement& parent, std::uint32_t upgrade) {
-    auto* version = root_->store->Create<VoA2LElementASAP2Version>(&parent);
+    auto* version = root_->Store().Create<VoA2LElementASAP2Version>(&parent);
     version->VERSION_NO = 1;
     version->UPGRADE_NO = upgrade;
     return version;
@@ -64,6 +64,9 @@ TEST_F(ElementTest, BaseHasDefaults) {
   EXPECT_EQ(root_->ParamCount(), 0U);
   EXPECT_FALSE(root_->HasMoreParameters());
 }
+
+// There are millions of them. Where pointers are larger than four bytes, they take most of it.
+TEST_F(ElementTest, IsSmall) { static_assert(sizeof(VoA2LElement) <= 4 * sizeof(std::uint64_t)); }
 
 // Its children and its parent point to it, so a copy would be an element that no tree knows.
 TEST_F(ElementTest, IsNotCopied) {
@@ -146,7 +149,7 @@ TEST_F(ElementTest, CalibrationObjectsAreTheFiveKindsWithATrackedValidity) {
 }
 
 TEST_F(ElementTest, WriteOfTheRootPutsTheVersionFirst) {
-  auto* project = root_->store->Create<VoA2LElementProject>(root_.get());
+  auto* project = root_->Store().Create<VoA2LElementProject>(root_.get());
   project->NAME = "P";
   VoA2LElement* version = MakeVersion(*root_, 71);
   ASSERT_TRUE(root_->AddChild(project));
@@ -190,9 +193,9 @@ TEST_F(ElementTest, WriteOfTheBaseAddsNoIndentation) {
 }
 
 TEST_F(ElementTest, WriteIndentsByTwoBlanksPerLevel) {
-  auto* project = root_->store->Create<VoA2LElementProject>(root_.get());
-  auto* module = root_->store->Create<VoA2LElementModule>(project);
-  auto* function = root_->store->Create<VoA2LElementFunction>(module);
+  auto* project = root_->Store().Create<VoA2LElementProject>(root_.get());
+  auto* module = root_->Store().Create<VoA2LElementModule>(project);
+  auto* function = root_->Store().Create<VoA2LElementFunction>(module);
   ASSERT_TRUE(root_->AddChild(project) && project->AddChild(module) && module->AddChild(function));
   EXPECT_EQ(Written(*project, 1),
             "  /begin PROJECT  \"\"\n"
@@ -399,12 +402,12 @@ TEST_F(ElementTest, TablesAloneHaveASecondRun) {
 TEST_F(ElementTest, EveryNewElementIsValidAndEmpty) {
   for (const ElementKind kind : KindsWithAClass()) {
     SCOPED_TRACE(Shown(kind));
-    const VoA2LElement* element = Make(kind);
+    VoA2LElement* element = Make(kind);
     EXPECT_EQ(element->kind, kind);
     EXPECT_EQ(element->valid, 1);
     EXPECT_EQ(element->Parent(), root_.get());
     EXPECT_EQ(element->ChildCount(), 0U);
-    EXPECT_EQ(element->store, root_->store);
+    EXPECT_EQ(&element->Store(), &root_->Store());
   }
   EXPECT_EQ(root_->ChildCount(), 0U) << "creating a child does not attach it";
 }
@@ -417,7 +420,7 @@ TEST(PlainElement, SharesTheStoreOfItsParent) {
   std::string_view text = "P \"d\"";
   EXPECT_TRUE(project.ParseParameters(text));
   EXPECT_EQ(project.NAME, "P");
-  EXPECT_EQ(project.store, root.store);
+  EXPECT_EQ(&project.Store(), &root.Store());
   DestroyTree(&root);
   EXPECT_EQ(root.ChildCount(), 0U);
 }

@@ -63,6 +63,17 @@ TEST(KeywordToKind, TakesTheWholeTextExactly) {
   }
 }
 
+// No keyword has a small letter, so one in its place makes another word of it.
+TEST(KeywordToKind, LooksAtEveryByte) {
+  for (const NumberedKeyword& entry : AllKeywords()) {
+    for (std::size_t i = 0; i < entry.keyword.size(); ++i) {
+      std::string text = entry.keyword;
+      text[i] = 'a';
+      EXPECT_EQ(KeywordToKind(text), KIND_UNKNOWN) << text;
+    }
+  }
+}
+
 TEST(KeywordToKind, GivesUnknownForAnyOtherText) {
   for (const std::string_view text :
        {"", " ", "X", "/begin", "/end", "KIND_ROOT", "KIND_UNKNOWN", "VARIANT", "AXIS_PTS_6",

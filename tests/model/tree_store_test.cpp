@@ -108,6 +108,20 @@ TEST(List, CanBeClearedAndFilledAgain) {
   EXPECT_EQ(Items(list), (std::vector<int>{7, 8}));
 }
 
+TEST(List, KnowsItsStoreFromTheFirstItemOn) {
+  TreeStore store;
+  List<int> filled;
+  EXPECT_EQ(filled.Store(), nullptr);
+  filled.PushBack(store, 1);
+  EXPECT_EQ(filled.Store(), &store);
+  List<int> attached;
+  attached.Attach(store);
+  attached.Attach(store);
+  EXPECT_EQ(attached.Store(), &store);
+  EXPECT_TRUE(attached.empty());
+  EXPECT_EQ(attached.begin(), attached.end());
+}
+
 TEST(TreeStore, GivesArraysOfTheirOwn) {
   TreeStore store;
   std::set<void*> arrays;
@@ -209,21 +223,39 @@ TEST(TreeStore, LosesLittleMemory) {
   EXPECT_LT(*bytes, given + given / 50 + std::uint64_t{4} * 1024 * 1024);
 }
 
+// What large lists have outgrown becomes room for texts and objects.
+TEST(TreeStore, FillsTheArraysThatALargeListHasOutgrown) {
+  constexpr std::size_t kItems = std::size_t{1} << 20;
+  constexpr std::size_t kTexts = kItems * sizeof(std::uint64_t) * 9 / 10;
+  TreeStore store;
+  List<std::uint64_t> list;
+  for (std::uint64_t i = 0; i < kItems + 1; ++i) list.PushBack(store, i);
+  const std::string text(64, 'x');
+  const auto bytes = AllocatedBytes([&] {
+    for (std::size_t used = 0; used < kTexts; used += text.size()) {
+      static_cast<void>(store.Copy(text));
+    }
+  });
+  for (std::uint64_t i = 0; i < kItems + 1; ++i) ASSERT_EQ(list[i], i);
+  if (!bytes.has_value()) GTEST_SKIP() << "allocations cannot be counted here";
+  EXPECT_LT(*bytes, kTexts / 4);
+}
+
 TEST(TreeStore, CreatesElementsThatKnowIt) {
   TreeStore store;
   EXPECT_EQ(store.root, nullptr);
   auto* parent = store.Create<VoA2LElement>();
   auto* child = store.Create<VoA2LElement>(parent);
   EXPECT_EQ(parent->parent, nullptr);
-  EXPECT_EQ(parent->store, &store);
+  EXPECT_EQ(&parent->Store(), &store);
   EXPECT_EQ(child->parent, parent);
-  EXPECT_EQ(child->store, &store);
+  EXPECT_EQ(&child->Store(), &store);
   EXPECT_TRUE(parent->children.empty());
 }
 
 TEST(TreeStore, OfANewTreeKnowsTheRoot) {
   VoA2LElement* root = NewTree();
-  EXPECT_EQ(root->store->root, root);
+  EXPECT_EQ(root->Store().root, root);
   DestroyTree(root);
 }
 

@@ -489,7 +489,7 @@ class Orphanage : public VoA2LElement {
  public:
   bool AddChild(VoA2LElement* child) override {
     child->parent = nullptr;
-    children.PushBack(*store, child);
+    children.PushBack(Store(), child);
     return true;
   }
 };

@@ -54,7 +54,7 @@ TEST(ElementFactory, GivesEachKeywordItsClass) {
   for (const Row& row : kRows) {
     const std::string keyword(KindToKeyword(row.kind));
     SCOPED_TRACE(keyword);
-    const VoA2LElement* element = CreateElement(row.kind, *root);
+    VoA2LElement* element = CreateElement(row.kind, *root);
     if (row.kind == ElementKind::ENCODING) {
       EXPECT_EQ(element, nullptr);
       continue;
@@ -64,14 +64,14 @@ TEST(ElementFactory, GivesEachKeywordItsClass) {
     EXPECT_EQ(Plain(row.className), ClassName(keyword));
     EXPECT_EQ(element->kind, row.kind);
     EXPECT_EQ(element->parent, root.get());
-    EXPECT_EQ(element->store, root->store);
+    EXPECT_EQ(&element->Store(), &root->Store());
   }
   EXPECT_EQ(root->ChildCount(), 0U);
 }
 
 TEST(ElementFactory, KeepsUnknownBlocksInAClassOfTheirOwn) {
   Tree root(NewTree());
-  const VoA2LElement* element = CreateElement(KIND_UNKNOWN, *root);
+  VoA2LElement* element = CreateElement(KIND_UNKNOWN, *root);
   ASSERT_NE(element, nullptr);
   EXPECT_EQ(typeid(*element), typeid(VoA2LElementUnknown));
   EXPECT_EQ(element->kind, KIND_UNKNOWN);

@@ -65,7 +65,7 @@ class Made {
 
  private:
   Tree root_{NewTree()};
-  Class* element_ = root_->store->Create<Class>(root_.get());
+  Class* element_ = root_->Store().Create<Class>(root_.get());
 };
 
 }  // namespace a2l::test

@@ -16,12 +16,15 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <type_traits>
+#include <utility>
 #include <variant>
 #include <vector>
 
 #include "a2l2json/export/document_table.h"
 #include "a2l2json/export/forms.h"
 #include "a2l2json/export/object_table.h"
+#include "a2l2json/export/places.h"
 
 namespace a2l {
 
@@ -33,108 +36,73 @@ class Exporter {
   /// The whole document.
   void Document(const VoA2LElement& root) { Object(DocumentTable(), root); }
 
- private:
-  struct Stack {
-    std::vector<std::uint32_t> places;
-    std::size_t used = 0;
-  };
+  /// The function that writes one row of a table, compiled for that row.
+  template <const auto& kRows, std::size_t kIndex>
+  static std::size_t WriteRowOf(Exporter& exporter, const ObjectTable& table, std::size_t next,
+                                const VoA2LElement& element, const Places& places) {
+    return exporter.WriteRow(table, kRows[kIndex], kIndex, next, element, places);
+  }
 
+ private:
   // Only the rows that have a value are visited; what stands between them is written with the next
   // one, or at the end.
   void Object(const ObjectTable& table, const VoA2LElement& element) {
     const Places places(places_, table, element);
     sink_.BeginObject();
     std::size_t next = 0;  // the first row that is not yet written
-    places.Rows().ForEach([&](std::size_t row) { WriteRow(table, row, next, element, places); });
+    places.Rows().ForEach([&](std::size_t row) {
+      if constexpr (std::is_same_v<Sink, JsonText>) {
+        next = table.writers[row](*this, table, next, element, places);
+      } else {
+        next = WriteRow(table, table.rows[row], row, next, element, places);
+      }
+    });
     sink_.Absent(table, next, table.rows.size());
     sink_.EndObject();
   }
 
-  // The children of one element, sorted to the rows of its table in one pass: per row the first
-  // child of its kinds, and per child the next one of the same row. The arrays of all objects
-  // that are being written lie in one stack.
-  class Places {
-   public:
-    Places(Stack& stack, const ObjectTable& table, const VoA2LElement& element)
-        : stack_(stack),
-          rows_(table.always),
-          first_(stack.used),
-          next_(first_ + table.rows.size()),
-          element_(element) {
-      const List<VoA2LElement*>& children = element.children;
-      stack.used = next_ + children.size();
-      if (stack.places.size() < stack.used) stack.places.resize(stack.used * 2);
-      for (std::size_t i = children.size(); i-- > 0;) {
-        const std::uint8_t row = table.rowOfKind[KindIndex(children[i]->kind)];
-        if (row == 0) continue;
-        stack.places[next_ + i] = First(row - 1U);
-        stack.places[first_ + row - 1] = static_cast<std::uint32_t>(i + 1);
-        rows_.Add(row - 1U);
-        hasChild_.Add(row - 1U);
-      }
-    }
-    Places(const Places&) = delete;
-    Places& operator=(const Places&) = delete;
-    ~Places() { stack_.used = first_; }
-
-    // The rows to look at.
-    [[nodiscard]] const RowSet& Rows() const { return rows_; }
-    // Positions count from 1; 0 is none.
-    [[nodiscard]] std::uint32_t First(std::size_t row) const {
-      return hasChild_.Contains(row) ? stack_.places[first_ + row] : 0;
-    }
-    [[nodiscard]] std::uint32_t Next(std::uint32_t position) const {
-      return stack_.places[next_ + position - 1];
-    }
-    [[nodiscard]] const VoA2LElement& Child(std::uint32_t position) const {
-      return *element_.children[position - 1];
-    }
-
-   private:
-    Stack& stack_;
-    RowSet rows_;
-    RowSet hasChild_;
-    std::size_t first_;
-    std::size_t next_;
-    const VoA2LElement& element_;
-  };
-
-  // Writes a row that has a value, and those from `next` on in front of it, which have none.
-  void WriteRow(const ObjectTable& table, std::size_t index, std::size_t& next,
-                const VoA2LElement& element, const Places& places) {
-    const Row& row = table.rows[index];
-    const auto key = [&] {
-      sink_.Key(table, next, index);
-      next = index + 1;
-    };
+  // Writes a row that has a value, and those from `next` on in front of it, which have none. Gives
+  // the first row that is not yet written. Where the row is a constant, little of this is left.
+  [[gnu::always_inline]] std::size_t WriteRow(const ObjectTable& table, const Row& row,
+                                              std::size_t index, std::size_t next,
+                                              const VoA2LElement& element, const Places& places) {
     const std::uint32_t first = TakesChildren(row) ? places.First(index) : 0;
     switch (row.source) {
       case Source::Element:
-        key();
+        sink_.Key(table, next, index);
         WriteValue(row.form, element);
-        return;
+        break;
       case Source::Presence:
-        key();
+        sink_.Key(table, next, index);
         sink_.Bool(true);
-        return;
+        break;
       case Source::FirstChild:
-        if (first == 0) return LeaveOut(table, index, next);
-        key();
-        WriteValue(places.Child(first).kind == row.kind ? row.form : row.otherForm,
-                   places.Child(first));
-        return;
+        if (first == 0) {  // no key then
+          sink_.Absent(table, next, index);
+          break;
+        }
+        sink_.Key(table, next, index);
+        if (row.otherKind == KIND_ROOT || places.Child(first).kind == row.kind) {
+          WriteValue(row.form, places.Child(first));
+        } else {
+          WriteValue(row.otherForm, places.Child(first));
+        }
+        break;
       case Source::Children:
-        if (first == 0) return LeaveOut(table, index, next);
-        key();
+        if (first == 0) {
+          sink_.Absent(table, next, index);
+          break;
+        }
+        sink_.Key(table, next, index);
         sink_.BeginArray();
         for (std::uint32_t position = first; position != 0; position = places.Next(position)) {
           sink_.Item();
           WriteValue(row.form, places.Child(position));
         }
         sink_.EndArray();
-        return;
+        break;
       case Source::Grandchildren:
-        key();
+        sink_.Key(table, next, index);
         sink_.BeginArray();
         for (std::uint32_t position = first; position != 0; position = places.Next(position)) {
           for (const VoA2LElement* grandchild : places.Child(position).children) {
@@ -144,24 +112,24 @@ class Exporter {
           }
         }
         sink_.EndArray();
-        return;
+        break;
       case Source::Found:
         const VoA2LElement* found = row.find(element);
-        if (found == nullptr) return;
-        key();
+        if (found == nullptr) return next;
+        sink_.Key(table, next, index);
         WriteValue(row.form, *found);
-        return;
+        break;
     }
+    return index + 1;
   }
 
-  // A row without a value, and without a key then.
-  void LeaveOut(const ObjectTable& table, std::size_t index, std::size_t& next) {
-    sink_.Absent(table, next, index);
-    next = index + 1;
-  }
-
-  void WriteValue(const Form& form, const VoA2LElement& element) {
-    std::visit([&](const auto& take) { Write(take, element); }, form);
+  // Of the kinds of forms, calls that which it is.
+  [[gnu::always_inline]] void WriteValue(const Form& form, const VoA2LElement& element) {
+    [&]<std::size_t... kKinds>(std::index_sequence<kKinds...>) __attribute__((always_inline)) {
+      static_cast<void>(
+          ((form.index() == kKinds && (Write(*std::get_if<kKinds>(&form), element), true)) || ...));
+    }
+    (std::make_index_sequence<std::variant_size_v<Form>>());
   }
 
   void Write(std::monostate /*nothing*/, const VoA2LElement& /*element*/) { sink_.Null(); }
@@ -224,7 +192,7 @@ class Exporter {
   }
 
   Sink& sink_;
-  Stack places_;
+  Places::Stack places_;
   std::string text_;
 };
 

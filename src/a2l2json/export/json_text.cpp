@@ -73,7 +73,7 @@ char* EscapeOne(std::string_view& text, char* out) {
 
 // Copies `text` up to the first byte that can need an escape; gives the number of bytes. What is
 // behind them is written over: there must be room for a whole block.
-std::size_t CopyPlain(std::string_view text, char* out) {
+[[gnu::always_inline]] inline std::size_t CopyPlain(std::string_view text, char* out) {
   using bytes::Block;
   using bytes::kBlock;
   if (text.size() < kBlock) {
@@ -120,6 +120,15 @@ void JsonText::Put(std::string_view text) {
   }
   std::memcpy(buffer_.get() + used_, text.data(), text.size());
   used_ += text.size();
+}
+
+void JsonText::PutPrepared(const char* begin, const char* end) {
+  if (first_) begin += kSeparator.size();
+  first_ = false;
+  const auto size = static_cast<std::size_t>(end - begin);
+  if (kBufferSize - used_ < size + bytes::kBlock) return Put({begin, size});
+  bytes::CopyInBlocks(End(), begin, size);
+  used_ += size;
 }
 
 void JsonText::Item() {

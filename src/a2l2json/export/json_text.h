@@ -72,14 +72,7 @@ class JsonText {
     first_ = false;
   }
   // Members that begin with a separator; the first one of an object goes without it.
-  void PutPrepared(const char* begin, const char* end) {
-    if (first_) begin += kSeparator.size();
-    first_ = false;
-    const auto size = static_cast<std::size_t>(end - begin);
-    if (kBufferSize - used_ < size + bytes::kBlock) return Put({begin, size});
-    bytes::CopyInBlocks(End(), begin, size);
-    used_ += size;
-  }
+  void PutPrepared(const char* begin, const char* end);
   void PutByte(char c) {
     Reserve(1);
     buffer_[used_++] = c;

@@ -9,8 +9,11 @@
 #include <span>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 #include <variant>
 
+#include "a2l2json/export/exporter.h"
+#include "a2l2json/export/json_text.h"
 #include "a2l2json/export/keyword_keys.h"
 #include "a2l2json/export/object_table.h"
 #include "a2l2json/model/element.h"
@@ -20,6 +23,13 @@ namespace a2l {
 
 template <const auto& kRows>
 inline constexpr PreparedRows<kRows> kPrepared;
+
+template <const auto& kRows>
+inline constexpr auto kRowWriters = []<std::size_t... kIndex>(std::index_sequence<kIndex...>) {
+  return std::array<RowWriter, sizeof...(kIndex)>{
+      &Exporter<JsonText>::WriteRowOf<kRows, kIndex>...};
+}
+(std::make_index_sequence<std::size(kRows)>());
 
 namespace table_checks {
 
@@ -147,7 +157,8 @@ template <class Class, const auto& kRows, ElementKind... kWithoutKey>
 consteval ObjectTable MakeTable() {
   table_checks::Check<Class, kRows, kWithoutKey...>();
   static_assert(std::size(kRows) <= RowSet::kMost, "a table has more rows than a RowSet can hold");
-  ObjectTable table{{}, kRows, kPrepared<kRows>.Text(), kPrepared<kRows>.Rows(), {}, {}};
+  ObjectTable table{{}, kRows, kRowWriters<kRows>, kPrepared<kRows>.Text(), kPrepared<kRows>.Rows(),
+                    {}, {}};
   if constexpr (!std::is_same_v<Class, VoA2LElement>) table.kinds = Class::kinds;
   for (std::size_t i = 0; i < table.rows.size(); ++i) {
     if (AbsentText(table.rows[i]).empty() || table.rows[i].source == Source::Found) {

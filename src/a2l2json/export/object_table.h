@@ -14,11 +14,23 @@
 
 namespace a2l {
 
+class JsonText;
+class Places;
+struct ObjectTable;
+template <class Sink>
+class Exporter;
+
+/// Writes one row of a table as JSON text; see Exporter.
+using RowWriter = std::size_t (*)(Exporter<JsonText>&, const ObjectTable&, std::size_t next,
+                                  const VoA2LElement&, const Places&);
+
 /// The table of one object.
 struct ObjectTable {
   /// The kinds of the class that the object is made of; none for the whole document.
   std::span<const ElementKind> kinds;
   std::span<const Row> rows;
+  /// A function for each row.
+  std::span<const RowWriter> writers;
   /// The prepared text of the rows, where that of each begins, and where the last one ends.
   const char* text = nullptr;
   std::span<const RowText> texts;

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <memory>
 #include <ostream>
-#include <utility>
 #include <vector>
 
 #include "a2l2json/model/file_stream.h"
@@ -32,16 +31,15 @@ bool VoA2LElement::AddChild(VoA2LElement* child) { return Attach(child, kBaseChi
 
 std::int32_t VoA2LElement::MoreParameterCount() const { return HasMoreParameters() ? 0 : -1; }
 
-void VoA2LElement::MakeStore() {
+TreeStore& VoA2LElement::StoreAbove() {
   VoA2LElement* top = this;
-  while (top->store == nullptr && top->parent != nullptr) top = top->parent;
-  if (top->store == nullptr) {
-    top->store = new TreeStore;  // released by DestroyTree
-    top->store->root = top;
+  while (top->children.Store() == nullptr && top->parent != nullptr) top = top->parent;
+  if (top->children.Store() == nullptr) {
+    auto store = std::make_unique<TreeStore>();
+    top->children.Attach(*store);
+    store.release()->root = top;  // released by DestroyTree
   }
-  for (VoA2LElement* element = this; element->store == nullptr; element = element->parent) {
-    element->store = top->store;
-  }
+  return *top->children.Store();
 }
 
 bool VoA2LElement::Attach(VoA2LElement* child, const KindSet& accepted) {
@@ -104,9 +102,10 @@ VoA2LElement* NewTree() {
 void DestroyTree(VoA2LElement* element) {
   if (element == nullptr) return;
   if (element->parent != nullptr) element->parent->children.Remove(element);
-  if (element->store != nullptr && element->store->root == element) {
+  TreeStore* const store = element->children.Store();
+  if (store != nullptr && store->root == element) {
     element->children = {};
-    delete std::exchange(element->store, nullptr);
+    delete store;
   }
 }
 

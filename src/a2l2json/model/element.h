@@ -37,29 +37,28 @@ class VoA2LElement {
   VoA2LElement(const VoA2LElement&) = delete;
   VoA2LElement& operator=(const VoA2LElement&) = delete;
 
-  // A file has millions of elements, and most of a tree is what every one of them has. So the small
-  // fields lie in the padding behind the list, and the first number of a property behind the kind.
+  // A file has millions of elements, and most of a tree is what every one of them has. So the
+  // fields are as small as they can be, and the store is found by way of the parent.
 
   /// The block that holds this element; null for the root and for an element not yet attached.
   VoA2LElement* parent = nullptr;
   /// The elements inside this one, in file order.
-  [[no_unique_address]] List<VoA2LElement*> children;
-  /// Cleared when parameters of an object or of one of its properties were wrong.
-  std::uint8_t valid : 1 = 1;
-  /// Set where a second run of values (the rows of a table) follows the fixed parameters.
-  std::uint8_t hasMoreParameters : 1 = 0;
-  /// Tokens that must be there before ParseParameters is called, or kOpenParameterList.
-  std::uint16_t paramCount = 0;
-  /// The memory that this element and its tree lie in; see Store.
-  TreeStore* store = nullptr;
+  List<VoA2LElement*> children;
   /// Its keyword, by which KindToKeyword (model/keywords.h) gives the text.
   ElementKind kind = KIND_ROOT;
+  /// Tokens that must be there before ParseParameters is called, or kOpenParameterList.
+  std::uint16_t paramCount = 0;
+  /// Set where a second run of values (the rows of a table) follows the fixed parameters.
+  std::uint8_t hasMoreParameters : 1 = 0;
+  /// Cleared when parameters of an object or of one of its properties were wrong.
+  std::uint8_t valid : 1 = 1;
 
-  /// The store. An element without one gets that of its parent; without a parent, it gets a new
-  /// one and is the root of its tree.
+  /// The memory that this element and its tree lie in: that of its children, or else of the
+  /// nearest element above that has some, which mostly is the parent's parent at the latest. Where
+  /// there is none, a new one is made for the topmost element, which is the root of its tree.
   [[nodiscard]] TreeStore& Store() {
-    if (store == nullptr) MakeStore();
-    return *store;
+    TreeStore* const own = children.Store();
+    return own != nullptr ? *own : StoreAbove();
   }
 
   /// Takes the parameters off the front of `text`, which holds them in file order without the
@@ -113,7 +112,7 @@ class VoA2LElement {
   [[nodiscard]] virtual bool WritesChildren() const;
 
  private:
-  void MakeStore();
+  TreeStore& StoreAbove();
 };
 
 /// The children that the root accepts, and every element that states no others.

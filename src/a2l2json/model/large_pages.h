@@ -5,8 +5,15 @@
 
 namespace a2l::detail {
 
-/// The size of a large page, and what memory that shall have such pages is aligned to.
+/// The size of a large page.
 inline constexpr std::size_t kLargePage = std::size_t{2} * 1024 * 1024;
+
+/// What memory is aligned to that shall have such pages: any memory where there are none.
+#ifdef __linux__
+inline constexpr std::size_t kLargePageAlignment = kLargePage;
+#else
+inline constexpr std::size_t kLargePageAlignment = alignof(std::max_align_t);
+#endif
 
 /// Asks the system to back memory with large pages where it has them: the first touch of each page
 /// ends in the system, and a tree of 100 MB has 50 of them in place of 27,000. Changes nothing

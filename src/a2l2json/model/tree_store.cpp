@@ -13,7 +13,7 @@ constexpr std::size_t kMostBlockSize = kLargePage;
 
 // A block that consists of large pages begins at one.
 constexpr std::align_val_t AlignmentOf(std::size_t size) {
-  return std::align_val_t{size % kLargePage == 0 ? kLargePage : alignof(std::max_align_t)};
+  return std::align_val_t{size % kLargePage == 0 ? kLargePageAlignment : alignof(std::max_align_t)};
 }
 
 }  // namespace
@@ -22,6 +22,12 @@ char* Blocks::MakeRoom(std::size_t size) {
   // What is left of the open block is lost when another is opened. A piece that is large against a
   // block does not cause that, so that little is lost.
   if (size > nextSize_ / 8) return AddBlock(size);
+  if (spare_ != nullptr && spare_->size >= size) {
+    front_ = reinterpret_cast<char*>(spare_);
+    back_ = front_ + spare_->size;
+    spare_ = spare_->next;
+    return nullptr;
+  }
   const std::size_t room = nextSize_ - sizeof(Block);
   front_ = AddBlock(room);
   back_ = front_ + room;

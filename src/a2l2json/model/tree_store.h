@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -54,7 +55,16 @@ class Blocks {
     return back_ -= size;
   }
 
+  /// Takes back `size` bytes that AllocateObject gave, at least as many as a Spare has.
+  void TakeBack(void* memory, std::size_t size) { spare_ = new (memory) Spare{spare_, size}; }
+
  private:
+  // Memory that was taken back and is opened before a new block is added.
+  struct Spare {
+    Spare* next;
+    std::size_t size;
+  };
+
   struct alignas(kAlignment) Block {
     Block* before;
     std::size_t size;
@@ -62,12 +72,13 @@ class Blocks {
 
   [[nodiscard]] std::size_t Left() const { return static_cast<std::size_t>(back_ - front_); }
 
-  // Null where a new block with room for `size` bytes has been opened; otherwise a block of that
-  // size alone, while the open one goes on being filled.
+  // Null where a new block, or a spare one, with room for `size` bytes has been opened; otherwise a
+  // block of that size alone, while the open one goes on being filled.
   char* MakeRoom(std::size_t size);
   char* AddBlock(std::size_t size);
 
   Block* last_ = nullptr;
+  Spare* spare_ = nullptr;
   char* front_ = nullptr;  // of what is left in the open block
   char* back_ = nullptr;
   std::size_t nextSize_ = std::size_t{4} * 1024;
@@ -103,7 +114,7 @@ class TreeStore {
                   "the store's memory is not aligned for this element");
     auto* element = new (memory_.AllocateObject(sizeof(Element))) Element(arguments...);
     element->parent = parent;
-    element->store = this;
+    if (parent == nullptr) element->children.Attach(*this);
     return element;
   }
 
@@ -118,17 +129,25 @@ class TreeStore {
   /// `size` bytes for a text (at least one).
   [[nodiscard]] char* AllocateBytes(std::size_t size) { return memory_.AllocateBytes(size); }
 
-  /// An array of 2^`sizeClass` bytes, aligned for any element of a list.
+  static constexpr std::size_t kArrayHead = 16;
+
+  /// An array of 2^`sizeClass` bytes behind a head, aligned for any element of a list.
   [[nodiscard]] void* AllocateArray(unsigned sizeClass) {
     if (FreeArray* array = freeArrays_[sizeClass]) {
       freeArrays_[sizeClass] = array->next;
       return array;
     }
-    return memory_.AllocateObject(std::size_t{1} << sizeClass);
+    return memory_.AllocateObject(ArraySize(sizeClass));
   }
 
   /// Takes back an array that a list has outgrown; the next list that grows to it uses it again.
+  /// Few lists grow large, so large arrays become room for anything.
   void RecycleArray(void* array, unsigned sizeClass) {
+    constexpr unsigned kLargeSizeClass = 12;
+    if (sizeClass >= kLargeSizeClass) {
+      memory_.TakeBack(array, ArraySize(sizeClass));
+      return;
+    }
     freeArrays_[sizeClass] = new (array) FreeArray{freeArrays_[sizeClass]};
   }
 
@@ -137,68 +156,93 @@ class TreeStore {
     FreeArray* next;
   };
 
+  static constexpr std::size_t ArraySize(unsigned sizeClass) {
+    return kArrayHead + (std::size_t{1} << sizeClass);
+  }
+
   detail::Blocks memory_;
   std::array<FreeArray*, std::numeric_limits<std::size_t>::digits> freeArrays_{};
 };
 
-/// A list whose items lie in a TreeStore. It owns nothing itself: the store does.
+/// A list whose items lie in a TreeStore. It owns nothing itself: the store does. Most lists of a
+/// tree stay empty, and an empty one is no more than a pointer; what a list is otherwise stands in
+/// front of its items.
 template <class Item>
 class List {
   static_assert(std::is_trivially_copyable_v<Item> && std::is_trivially_destructible_v<Item>,
                 "items are moved as bytes and end with their store, their destructors never run");
   static_assert(alignof(Item) <= detail::Blocks::kAlignment,
                 "the store's memory is not aligned for these items");
+  static_assert(std::has_single_bit(sizeof(Item)) && sizeof(Item) <= 16,
+                "items fill an array, of which the first has 16 bytes");
 
  public:
   /// Appends `item`; the memory comes from `store`, the same one for every call on one list.
   void PushBack(TreeStore& store, Item item) {
-    if (size_ == Capacity()) Grow(store);
-    items_[size_++] = item;
+    if (array_ == nullptr || array_->size == array_->room) Grow(store);
+    Items()[array_->size++] = item;
   }
 
-  void Clear() { size_ = 0; }
+  void Clear() {
+    if (array_ != nullptr) array_->size = 0;
+  }
 
   /// Takes every occurrence of `item` out; the others keep their order.
   void Remove(const Item& item) {
-    size_ = static_cast<std::uint32_t>(std::remove(begin(), end(), item) - begin());
+    if (array_ == nullptr) return;
+    array_->size = static_cast<std::uint32_t>(std::remove(begin(), end(), item) - begin());
   }
 
-  [[nodiscard]] std::size_t size() const { return size_; }
-  [[nodiscard]] bool empty() const { return size_ == 0; }
-  [[nodiscard]] Item& operator[](std::size_t i) { return items_[i]; }
-  [[nodiscard]] const Item& operator[](std::size_t i) const { return items_[i]; }
-  [[nodiscard]] Item* begin() { return items_; }
-  [[nodiscard]] Item* end() { return items_ + size_; }
-  [[nodiscard]] const Item* begin() const { return items_; }
-  [[nodiscard]] const Item* end() const { return items_ + size_; }
+  /// Makes `store` known to a list that has none yet, before there are items.
+  void Attach(TreeStore& store) {
+    if (array_ == nullptr) Grow(store);
+  }
+  /// The store that the items lie in; null for a list that never had any.
+  [[nodiscard]] TreeStore* Store() const { return array_ != nullptr ? array_->store : nullptr; }
+
+  [[nodiscard]] std::size_t size() const { return array_ != nullptr ? array_->size : 0; }
+  [[nodiscard]] bool empty() const { return size() == 0; }
+  [[nodiscard]] Item& operator[](std::size_t i) { return Items()[i]; }
+  [[nodiscard]] const Item& operator[](std::size_t i) const { return Items()[i]; }
+  [[nodiscard]] Item* begin() { return array_ != nullptr ? Items() : nullptr; }
+  [[nodiscard]] Item* end() { return begin() + size(); }
+  [[nodiscard]] const Item* begin() const { return array_ != nullptr ? Items() : nullptr; }
+  [[nodiscard]] const Item* end() const { return begin() + size(); }
 
  private:
-  static constexpr unsigned kFirstSizeClass = 5;
+  // What stands in front of the items.
+  struct alignas(detail::Blocks::kAlignment) Array {
+    TreeStore* store;
+    std::uint32_t size;
+    std::uint32_t room;
+  };
+  static_assert(sizeof(Array) <= TreeStore::kArrayHead);
+
+  static constexpr unsigned kFirstSizeClass = 4;
   static constexpr unsigned kMostSizeClass = std::numeric_limits<std::size_t>::digits - 2;
 
-  [[nodiscard]] std::size_t Capacity() const {
-    return items_ == nullptr ? 0 : (std::size_t{1} << sizeClass_) / sizeof(Item);
+  [[nodiscard]] Item* Items() const { return reinterpret_cast<Item*>(array_ + 1); }
+
+  [[nodiscard]] unsigned SizeClass() const {
+    return static_cast<unsigned>(std::bit_width(array_->room * sizeof(Item) - 1));
   }
 
   void Grow(TreeStore& store) {
-    const unsigned sizeClass = items_ == nullptr ? kFirstSizeClass : sizeClass_ + 1U;
+    const unsigned sizeClass = array_ == nullptr ? kFirstSizeClass : SizeClass() + 1U;
     // More items than can be counted are more than any memory holds.
     constexpr std::size_t kMostItems = std::numeric_limits<std::uint32_t>::max();
-    if (sizeClass > kMostSizeClass || (std::size_t{1} << sizeClass) / sizeof(Item) > kMostItems) {
-      detail::RunOutOfMemory();
+    const std::size_t room = (std::size_t{1} << sizeClass) / sizeof(Item);
+    if (sizeClass > kMostSizeClass || room > kMostItems) detail::RunOutOfMemory();
+    auto* const array = new (store.AllocateArray(sizeClass))
+        Array{&store, static_cast<std::uint32_t>(size()), static_cast<std::uint32_t>(room)};
+    if (array_ != nullptr) {
+      std::memcpy(array + 1, array_ + 1, array_->size * sizeof(Item));
+      store.RecycleArray(array_, SizeClass());
     }
-    auto* items = static_cast<Item*>(store.AllocateArray(sizeClass));
-    if (items_ != nullptr) {
-      std::memcpy(items, items_, size_ * sizeof(Item));
-      store.RecycleArray(items_, sizeClass_);
-    }
-    items_ = items;
-    sizeClass_ = static_cast<std::uint8_t>(sizeClass);
+    array_ = array;
   }
 
-  Item* items_ = nullptr;
-  std::uint32_t size_ = 0;
-  std::uint8_t sizeClass_ = 0;
+  Array* array_ = nullptr;
 };
 
 }  // namespace a2l

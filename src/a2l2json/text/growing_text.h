@@ -22,7 +22,7 @@ class GrowingText {
     bytes::Copy(bytes_.get(), text.data(), text.size());
     size_ = text.size();
   }
-  void Append(char separator, std::string_view text) {
+  [[gnu::always_inline]] void Append(char separator, std::string_view text) {
     if (room_ - size_ <= text.size()) Enlarge(text.size() + 1);
     bytes_[size_] = separator;
     bytes::Copy(bytes_.get() + size_ + 1, text.data(), text.size());

@@ -91,7 +91,7 @@ TEST(Typedefs, HaveDefaultsUntilTheyAreRead) {
 TEST(TypedefStructure, WritesItsComponentsInOrder) {
   const Made<VoA2LElementTypedefStructure> structure("S \"\" 8");
   for (const char* name : {"b", "a"}) {
-    auto* component = structure->store->Create<VoA2LElementStructureComponent>(&*structure);
+    auto* component = structure->Store().Create<VoA2LElementStructureComponent>(&*structure);
     component->NAME = name;
     component->TYPEDEF_NAME = "T";
     ASSERT_TRUE(structure->AddChild(component));

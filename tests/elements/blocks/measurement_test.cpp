@@ -60,10 +60,10 @@ TEST(BitOperation, HoldsItsOperationsInOrder) {
   Made<VoA2LElementBitOperation> operation("  1 2");
   EXPECT_TRUE(operation.ok);
   EXPECT_EQ(operation.rest, "  1 2");
-  auto* shift = operation->store->Create<VoA2LElementLeftShift>(&*operation);
+  auto* shift = operation->Store().Create<VoA2LElementLeftShift>(&*operation);
   shift->LEFT_SHIFT = 4;
   ASSERT_TRUE(operation->AddChild(shift));
-  ASSERT_TRUE(operation->AddChild(operation->store->Create<VoA2LElementSignExtend>(&*operation)));
+  ASSERT_TRUE(operation->AddChild(operation->Store().Create<VoA2LElementSignExtend>(&*operation)));
   EXPECT_EQ(operation.Written(1),
             "  /begin BIT_OPERATION\n"
             "    LEFT_SHIFT 4\n"

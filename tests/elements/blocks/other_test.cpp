@@ -127,9 +127,9 @@ TEST(Unit, TakesFourParameters) {
 
 TEST(Unit, WritesItsChildrenOneLevelDeeper) {
   const Made<VoA2LElementUnit> unit(R"(kms "speed" "km/s" DERIVED)");
-  auto* reference = unit->store->Create<VoA2LElementRefUnit>(&*unit);
+  auto* reference = unit->Store().Create<VoA2LElementRefUnit>(&*unit);
   reference->REF_UNIT = "m";
-  auto* conversion = unit->store->Create<VoA2LElementUnitConversion>(&*unit);
+  auto* conversion = unit->Store().Create<VoA2LElementUnitConversion>(&*unit);
   conversion->GRADIENT = 1000;
   ASSERT_TRUE(unit->AddChild(reference) && unit->AddChild(conversion));
   EXPECT_EQ(unit.Written(),
@@ -150,7 +150,7 @@ TEST(UserRights, TakesALevel) {
   };
   ExpectParse(rows);
   const Made<VoA2LElementUserRights> rights("engineers");
-  ASSERT_TRUE(rights->AddChild(rights->store->Create<VoA2LElementReadOnly>(&*rights)));
+  ASSERT_TRUE(rights->AddChild(rights->Store().Create<VoA2LElementReadOnly>(&*rights)));
   EXPECT_EQ(rights.Written(1),
             "  /begin USER_RIGHTS\n"
             "    engineers\n"

@@ -70,9 +70,9 @@ struct VoA2LElementCharacteristic final
 /// One axis of a characteristic. Unlike the objects, it stops at the first bad number.
 struct VoA2LElementAxisDescr final : detail::Block<VoA2LElementAxisDescr, ElementKind::AXIS_DESCR> {
   AxisAttribute ATTRIBUTE{};
+  std::uint32_t MAX_AXIS_POINTS = 0;
   std::string_view INPUT_QUANTITY;
   std::string_view CONVERSION;
-  std::uint32_t MAX_AXIS_POINTS = 0;
   double LOWER_LIMIT = 0;
   double UPPER_LIMIT = 0;
   static constexpr Parameter parameters[] = {
@@ -94,11 +94,11 @@ struct VoA2LElementAxisPts final : detail::Block<VoA2LElementAxisPts, ElementKin
   std::string_view NAME;
   std::string_view LONG_IDENTIFIER;
   std::uint32_t ADDRESS = 0;
+  std::uint32_t MAX_AXIS_POINTS = 0;
   std::string_view INPUT_QUANTITY;
   std::string_view DEPOSIT;  ///< name of the record layout
   double MAX_DIFF = 0;
   std::string_view CONVERSION;
-  std::uint32_t MAX_AXIS_POINTS = 0;
   double LOWER_LIMIT = 0;
   double UPPER_LIMIT = 0;
   static constexpr Parameter parameters[] = {

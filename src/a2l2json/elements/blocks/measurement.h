@@ -17,9 +17,9 @@ struct VoA2LElementMeasurement final
   std::string_view NAME;
   std::string_view LONG_IDENTIFIER;
   DataType DATATYPE{};
-  std::string_view CONVERSION;
   std::uint32_t RESOLUTION = 1;  ///< smallest change of the value, in bits
-  double ACCURACY = 0;           ///< in percent
+  std::string_view CONVERSION;
+  double ACCURACY = 0;  ///< in percent
   double LOWER_LIMIT = 0;
   double UPPER_LIMIT = 0;
   static constexpr Parameter parameters[] = {
