@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Compares the searches and copies of bytes, and the escapes that use them, with plain loops.
+// Compares the searches and copies of bytes, and what uses them, with plain loops.
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -10,7 +10,9 @@
 #include <vector>
 
 #include "a2l2json/export/json_text.h"
+#include "a2l2json/model/keywords.h"
 #include "a2l2json/text/bytes.h"
+#include "a2l2json/text/growing_text.h"
 #include "fuzz/check.h"
 
 namespace a2l::fuzz {
@@ -50,6 +52,29 @@ void CheckCopy(const Bytes& text) {
   bytes::Copy(copy.data(), text.data(), text.size());
   CheckSame(std::string_view(copy.data(), copy.size()), std::string_view(text.data(), text.size()),
             "Copy");
+}
+
+void CheckKeyword(std::string_view text) {
+  ElementKind kind = KIND_UNKNOWN;
+  for (const std::int32_t number : detail::kKeywordNumbers) {
+    if (KindToKeyword(ElementKind{number}) == text) kind = ElementKind{number};
+  }
+  Check(KeywordToKind(text) == kind, "the kind of a keyword");
+}
+
+void CheckGrowingText(const Bytes& text) {
+  GrowingText grown;
+  std::string expected;
+  for (std::size_t begin = 0; begin < text.size();) {
+    const std::size_t size =
+        std::min<std::size_t>(static_cast<unsigned char>(text[begin]) % 40, text.size() - begin);
+    const Bytes line(text.begin() + static_cast<std::ptrdiff_t>(begin),
+                     text.begin() + static_cast<std::ptrdiff_t>(begin + size));
+    grown.Append(text[begin], {line.data(), line.size()});
+    expected.append(1, text[begin]).append(line.data(), line.size());
+    begin += size + 1;
+  }
+  CheckSame(grown.View(), expected, "GrowingText");
 }
 
 std::string Escaped(std::string_view text) {
@@ -95,6 +120,8 @@ void CheckBytes(std::string_view input) {
   CheckFindAll(text);
   CheckCopy(text);
   CheckEscapes(text);
+  CheckGrowingText(text);
+  CheckKeyword({text.data(), text.size()});
 }
 
 }  // namespace
