@@ -484,10 +484,11 @@ TEST(FragmentReading, EndOfTheRootItselfIsAnError) {
   }
 }
 
-// A root that accepts children without becoming their parent.
+// A root that accepts children without becoming their parent, by way of which they find the store.
 class Orphanage : public VoA2LElement {
  public:
   bool AddChild(VoA2LElement* child) override {
+    child->children.Attach(Store());
     child->parent = nullptr;
     children.PushBack(Store(), child);
     return true;
