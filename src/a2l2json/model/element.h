@@ -40,9 +40,9 @@ class VoA2LElement {
   // A file has millions of elements, and most of a tree is what every one of them has. So the
   // fields are as small as they can be, and the store is found by way of the parent.
 
-  /// The block that holds this element; null for the root and for an element not yet attached. It is
-  /// the way to the store: an element that is to leave its parent and still be read into gets the
-  /// store first, by children.Attach.
+  /// The block that holds this element; null for the root and for an element not yet attached. It
+  /// is the way to the store: an element that is to leave its parent and still be read into gets
+  /// the store first, by children.Attach.
   VoA2LElement* parent = nullptr;
   /// The elements inside this one, in file order.
   List<VoA2LElement*> children;
