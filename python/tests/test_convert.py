@@ -1,0 +1,197 @@
+# SPDX-License-Identifier: MIT
+from __future__ import annotations
+
+import json
+import threading
+from pathlib import Path
+
+import a2l2json
+import pytest
+
+HEAD = b"ASAP2_VERSION 1 71\n/begin PROJECT p \"\"\n/begin MODULE m \"\"\n"
+TAIL = b"/end MODULE\n/end PROJECT\n"
+
+
+def unit(name: bytes) -> bytes:
+    """A file with one unit whose display text is `name`."""
+    return HEAD + b'/begin UNIT u "" "' + name + b'" DERIVED\n/end UNIT\n' + TAIL
+
+
+def display(result: a2l2json.Result) -> str:
+    return result.document["FModules"][0]["FUNIT"][0]["FDISPLAY"]
+
+
+def test_load_gives_the_document(top: Path, demo: Path) -> None:
+    result = a2l2json.load(demo, mend=False)
+    expected = (top / "examples" / "demo.json").read_bytes()
+    assert result.json == expected
+    assert result.document == json.loads(expected)
+    assert result.document is result.document
+    assert result.diagnostics == ()
+    assert result.findings == ()
+    assert result.mended is None
+
+
+def test_load_takes_text_and_path_alike(demo: Path) -> None:
+    assert a2l2json.load(str(demo)).json == a2l2json.load(demo).json
+
+
+def test_loads_takes_bytes_and_text() -> None:
+    assert display(a2l2json.loads(unit("°C".encode()))) == "°C"
+    assert display(a2l2json.loads(unit("°C".encode()).decode())) == "°C"
+
+
+def test_bytes_that_are_no_utf_8_are_cp1252() -> None:
+    assert display(a2l2json.loads(unit(b"\xb0C \x80"))) == "°C €"
+
+
+def test_both_encodings_may_stand_in_one_file() -> None:
+    assert display(a2l2json.loads(unit("Ω ".encode() + b"\xb0C"))) == "Ω °C"
+
+
+def test_a_byte_that_no_encoding_has_is_kept_as_a_character() -> None:
+    assert display(a2l2json.loads(unit(b"\x81"))) == "\x81"
+
+
+def test_the_encoding_may_be_told() -> None:
+    assert display(a2l2json.loads(unit("µ".encode("cp437")), encoding="cp437")) == "µ"
+
+
+def test_the_encoding_of_a_file_may_be_told(tmp_path: Path) -> None:
+    path = tmp_path / "a.a2l"
+    path.write_bytes(unit("Ж".encode("cp1251")))
+    assert display(a2l2json.load(path, encoding="cp1251")) == "Ж"
+
+
+def test_a_byte_that_the_encoding_does_not_know_costs_no_more_than_itself() -> None:
+    assert display(a2l2json.loads(unit(b"a\xffb"), encoding="ascii")) == "a\ufffdb"
+
+
+def test_an_unknown_encoding_is_an_error_of_the_caller() -> None:
+    with pytest.raises(LookupError):
+        a2l2json.loads(unit(b""), encoding="no such encoding")
+
+
+def test_a_warning_is_a_diagnostic() -> None:
+    result = a2l2json.loads(HEAD + b"COLOUR red\n" + TAIL, mend=False)
+    (one,) = result.diagnostics
+    assert (one.line, one.severity, one.kind) == (4, "warning", "unexpected-element")
+    assert one.text == "unexpected element COLOUR"
+    assert str(one) == "Warning: Line(4) unexpected element COLOUR"
+
+
+def test_a_file_that_cannot_be_converted_raises() -> None:
+    with pytest.raises(a2l2json.A2LError) as raised:
+        a2l2json.loads(HEAD + b"/end PROJECT\n", mend=False)
+    assert raised.value.line == 4
+    assert raised.value.diagnostics[-1].severity == "error"
+    assert "4" in str(raised.value)
+
+
+def test_a_file_that_is_not_there_raises(tmp_path: Path) -> None:
+    for encoding in (None, "cp1252"):
+        with pytest.raises(a2l2json.A2LError, match="missing.a2l") as raised:
+            a2l2json.load(tmp_path / "missing.a2l", encoding=encoding)
+        assert raised.value.line is None
+
+
+@pytest.mark.parametrize(
+    "text", [b"", b"\x1f\x8b\x08\x00\x00\x00\x00\x00", b"PK\x03\x04", b"name,address\nn,1\n"]
+)
+def test_what_is_not_a2l_raises_with_a_sentence(text: bytes) -> None:
+    with pytest.raises(a2l2json.A2LError) as raised:
+        a2l2json.loads(text)
+    assert len(str(raised.value)) > 20
+
+
+ONE_LINE = (
+    b'/begin MEASUREMENT n "" UBYTE NO_COMPU_METHOD 0 0 0 255 ECU_ADDRESS 0x51A50 /end MEASUREMENT\n'
+)
+
+
+def test_mending_saves_what_the_layout_would_cost() -> None:
+    def address(result: a2l2json.Result) -> object:
+        return result.document["FModules"][0]["FMEASUREMENT"][0]["FECU_ADDRESS"]
+
+    text = HEAD + ONE_LINE + TAIL
+    mended = a2l2json.loads(text)
+    assert address(mended) == "0x51A50"
+    (finding,) = mended.findings
+    assert (finding.rule, finding.line, finding.column) == ("same-line", 4, 61)
+    assert finding.mended
+    assert mended.mended is not None and b"ECU_ADDRESS 0x51A50\n" in mended.mended
+
+    as_it_is = a2l2json.loads(text, mend=False)
+    assert address(as_it_is) is None
+    assert as_it_is.findings == ()
+
+
+def test_convert_writes_what_the_program_writes(top: Path, demo: Path, tmp_path: Path) -> None:
+    out = tmp_path / "demo.json"
+    assert a2l2json.convert(demo, out) == ()
+    assert out.read_bytes() == (top / "examples" / "demo.json").read_bytes()
+
+
+def test_convert_leaves_what_is_there_where_it_fails(tmp_path: Path) -> None:
+    broken, out = tmp_path / "broken.a2l", tmp_path / "out.json"
+    broken.write_bytes(HEAD + b"/end PROJECT\n")
+    out.write_bytes(b"as before")
+    with pytest.raises(a2l2json.A2LError):
+        a2l2json.convert(broken, out)
+    assert out.read_bytes() == b"as before"
+
+
+def test_convert_says_where_it_cannot_write(demo: Path, tmp_path: Path) -> None:
+    with pytest.raises(FileNotFoundError):
+        a2l2json.convert(demo, tmp_path / "no such folder" / "out.json")
+
+
+def test_other_threads_run_while_one_converts() -> None:
+    objects = b"".join(
+        b'/begin MEASUREMENT n%d "" UBYTE NO_COMPU_METHOD 0 0 0 255\n/end MEASUREMENT\n' % i
+        for i in range(60_000)
+    )
+    text = HEAD + objects + TAIL
+    steps = 0
+    stop = threading.Event()
+
+    def count() -> None:
+        nonlocal steps
+        while not stop.is_set():
+            steps += 1
+
+    other = threading.Thread(target=count)
+    other.start()
+    try:
+        # Between the two readings there is nothing but the call: a thread that is kept from running
+        # makes a handful of steps at most.
+        most = 0
+        for _ in range(20):
+            call = a2l2json._convert._Call(mend=False)
+            before = steps
+            call.text(text)
+            most = max(most, steps - before)
+            if most > 1000:
+                break
+    finally:
+        stop.set()
+        other.join()
+    assert most > 1000
+
+
+def test_many_threads_may_convert_at_once(demo: Path) -> None:
+    expected = a2l2json.load(demo).json
+    results = []
+    threads = [
+        threading.Thread(target=lambda: results.append(a2l2json.load(demo).json)) for _ in range(8)
+    ]
+    for thread in threads:
+        thread.start()
+    for thread in threads:
+        thread.join()
+    assert results == [expected] * 8
+
+
+def test_the_version_is_that_of_the_project(top: Path) -> None:
+    assert f"VERSION {a2l2json.version()}\n" in (top / "CMakeLists.txt").read_text()
+    assert a2l2json.__version__ == a2l2json.version()
