@@ -15,7 +15,7 @@ from setuptools.command.build_py import build_py
 from setuptools.dist import Distribution
 from wheel.bdist_wheel import bdist_wheel
 
-TOP = Path(__file__).parent.parent
+TOP = Path(__file__).resolve().parent.parent
 
 
 def version():
