@@ -9,7 +9,6 @@
 
 #include "a2l2json/a2l2json.h"
 #include "capi/input.h"
-#include "capi/mending.h"
 #include "capi/result.h"
 
 namespace {
@@ -59,7 +58,7 @@ const char* a2l2json_version() {
   return a2l::Version().data();  // NOLINT(bugprone-suspicious-stringview-data-usage): a literal
 }
 
-int a2l2json_can_mend() { return a2l::capi::CanMend() ? 1 : 0; }
+int a2l2json_can_mend() { return 1; }
 
 a2l2json_code a2l2json_convert_text(const char* text, size_t size, const a2l2json_options* options,
                                     a2l2json_result** result) {
@@ -79,7 +78,8 @@ a2l2json_code a2l2json_convert_text(const char* text, size_t size, const a2l2jso
                  [view](std::string_view& bytes) {
                    bytes = view;
                    return a2l::FileError::None;
-                 }},
+                 },
+             .path = checked.folder == nullptr ? "" : checked.folder + std::string("/-")},
             checked, made);
       });
 }

@@ -94,9 +94,17 @@ typedef struct a2l2json_options {
   int mend;
 
   /**
-   * What to call the text in findings; NULL: by its path, or by nothing where it comes from memory.
+   * What to call the text in diagnostics, findings and sentences; NULL: by its path, or by nothing
+   * where it comes from memory.
    */
   const char* name;
+
+  /**
+   * For mending, where text in memory lies: the files that it includes are read from this folder
+   * and those below it. NULL: none is read. The files that a file includes are read from its own
+   * folder and those below, whatever this says.
+   */
+  const char* folder;
 
   /**
    * Where to put the document, instead of keeping it in the result, so that it is never in memory
@@ -108,7 +116,7 @@ typedef struct a2l2json_options {
 } a2l2json_options;
 
 #define A2L2JSON_OPTIONS_INIT \
-  { sizeof(a2l2json_options), 0, NULL, NULL, NULL }
+  { sizeof(a2l2json_options), 0, NULL, NULL, NULL, NULL }
 
 /**
  * Converts `size` bytes of A2L text in memory, which need to stay until the call ends. `options`
@@ -173,13 +181,14 @@ typedef enum a2l2json_severity {
 
 /** One warning or error. Later versions may have further members behind these. */
 typedef struct a2l2json_diagnostic {
-  size_t line; /**< number of the physical line of what was converted (the mended text, where it was
-                    mended), the first being 1 */
+  size_t line; /**< number of the physical line, the first being 1; where the text was mended, of
+                    the line of `file` at which the line of the mended text begins */
   a2l2json_severity severity;
   a2l2json_kind kind;
   const char* kind_name; /**< a name of the kind that stays, as in "unexpected-element" */
   const char* text;      /**< as in "unexpected element COLOUR"; may hold any bytes of the input */
   size_t text_size;      /**< of the text, behind which there is a zero byte */
+  const char* file;      /**< the name of the file that it is in, as in a2l2json_finding */
 } a2l2json_diagnostic;
 
 /** How many diagnostics there are. */

@@ -68,7 +68,8 @@ a2l2json_code a2l2json_convert_file(const char* path, const a2l2json_options* op
                                   const a2l::FileError error = Load(file, bytes);
                                   view = bytes;
                                   return error;
-                                }},
+                                },
+                            .path = file},
                            checked, made);
       });
 }

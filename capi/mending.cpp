@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "capi/mending.h"
 
-#include "capi/result.h"
-
-#ifdef A2L2JSON_HAS_MEND
-
+#include <optional>
 #include <string>
 
 #include "a2l2json/mend/mend.h"
+#ifdef A2L2JSON_HAS_FILES
+#include "a2l2json/mend/include_folders.h"
+#endif
 
 namespace a2l::capi {
 namespace {
@@ -21,13 +21,22 @@ std::string_view Sentence(std::string_view text, const MendRuleRow& row) {
 
 }  // namespace
 
-bool CanMend() { return true; }
-
-void MendInto(a2l2json_result& result, std::string_view text, std::string_view name) {
+void MendInto(a2l2json_result& result, std::string_view text, const Input& input, LineMap& lines) {
   std::string_view file;  // of the last finding, as it is kept
   MendOptions options;
-  options.name = name;
-  options.path = name;
+  options.name = input.name;
+  options.path = input.path;
+  options.lines = &lines;
+#ifdef A2L2JSON_HAS_FILES
+  std::optional<IncludeFolders> folders;
+  if (!input.path.empty()) {
+    folders.emplace(IncludeOptions{.path = input.path, .folders = {}, .decode = {}});
+    options.path = folders->MainPath();
+    options.open = [&folders](std::string_view name, std::string_view from) {
+      return folders->Open(name, from);
+    };
+  }
+#endif
   options.report = [&](const Finding& finding) {
     const MendRuleRow& row = RowOf(finding.rule);
     if (result.findings.empty() || finding.file != file) file = result.Keep(finding.file);
@@ -40,15 +49,3 @@ void MendInto(a2l2json_result& result, std::string_view text, std::string_view n
 }
 
 }  // namespace a2l::capi
-
-#else
-
-namespace a2l::capi {
-
-bool CanMend() { return false; }
-
-void MendInto(a2l2json_result& /*result*/, std::string_view /*text*/, std::string_view /*name*/) {}
-
-}  // namespace a2l::capi
-
-#endif

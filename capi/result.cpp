@@ -47,8 +47,6 @@ void Run(const a2l2json_options* options, a2l2json_result& result,
                 isLater ? "The options are those of a later version of the library."
                         : "The options do not tell their size.");
   }
-  if (taken.mend != 0 && !CanMend())
-    return Fail(result, A2L2JSON_NOT_AVAILABLE, "This library cannot mend.");
   convert(taken, result);
 }
 
@@ -85,14 +83,21 @@ constexpr bool StandsAtItsIndex() {
 }
 static_assert(StandsAtItsIndex(), "the names are not in the order of their kinds");
 
-void TakeDiagnostics(const std::vector<Diagnostic>& diagnostics, a2l2json_result& result) {
-  for (const Diagnostic& diagnostic : diagnostics) {
+// `lines` is null where the lines are those of the input.
+void TakeDiagnostics(const std::vector<Diagnostic>& diagnostics, std::string_view name,
+                     const LineMap* lines, a2l2json_result& result) {
+  std::string_view file;  // as it is kept
+  for (Diagnostic diagnostic : diagnostics) {
+    SourceLine place{name, diagnostic.line};
+    if (lines != nullptr) place = lines->Of(diagnostic.line);
+    diagnostic.line = place.line;
+    if (result.diagnostics.empty() || file != place.file) file = result.Keep(place.file);
     result.messages += diagnostic.Text();
     const KindRow& row = kKinds[static_cast<std::size_t>(diagnostic.kind)];
     const bool isError = diagnostic.GetSeverity() == Severity::Error;
     const std::string_view text = result.Keep(diagnostic.What());
     result.diagnostics.push_back({diagnostic.line, isError ? A2L2JSON_ERROR : A2L2JSON_WARNING,
-                                  row.number, row.name, text.data(), text.size()});
+                                  row.number, row.name, text.data(), text.size(), file.data()});
   }
 }
 
@@ -138,8 +143,9 @@ std::string NotRead(const Input& input, FileError error) {
   return sentence.append(": ").append(What(error)).append(".");
 }
 
-std::string WhatIsWrong(const Input& input, const a2l2json_diagnostic& error) {
-  std::string sentence = input.name.empty() ? "Line " : std::string(input.name) + ", line ";
+std::string WhatIsWrong(const a2l2json_diagnostic& error) {
+  const std::string_view file = error.file;
+  std::string sentence = file.empty() ? "Line " : std::string(file) + ", line ";
   sentence += std::to_string(error.line) + ": ";
   return sentence.append(error.text, error.text_size);
 }
@@ -150,14 +156,14 @@ std::string NoA2l(const Input& input, std::string_view why) {
   return sentence += why.empty() ? "Nothing in it could be read." : why;
 }
 
-ReadResult ReadMended(const Input& input, a2l2json_result& result) {
+ReadResult ReadMended(const Input& input, LineMap& lines, a2l2json_result& result) {
   std::string_view bytes;
   if (const FileError error = input.load(bytes); error != FileError::None) {
     ReadResult notRead;
     notRead.fileError = error;
     return notRead;
   }
-  MendInto(result, bytes, input.name);
+  MendInto(result, bytes, input, lines);
   return Read(*result.mended);
 }
 
@@ -191,8 +197,10 @@ a2l2json_code Call(const a2l2json_options* options, a2l2json_result** result,
 }
 
 void Convert(const Input& input, const a2l2json_options& options, a2l2json_result& result) {
-  const ReadResult read = options.mend != 0 ? ReadMended(input, result) : input.read();
-  TakeDiagnostics(read.diagnostics, result);
+  const bool mends = options.mend != 0;
+  LineMap lines;
+  const ReadResult read = mends ? ReadMended(input, lines, result) : input.read();
+  TakeDiagnostics(read.diagnostics, input.name, mends ? &lines : nullptr, result);
   if (read.fileError != FileError::None) {
     return Fail(result, A2L2JSON_NOT_READ, NotRead(input, read.fileError));
   }
@@ -203,7 +211,7 @@ void Convert(const Input& input, const a2l2json_options& options, a2l2json_resul
   }
   if (!read.ok) {
     if (result.code == A2L2JSON_OK) {
-      Fail(result, A2L2JSON_NOT_CONVERTED, WhatIsWrong(input, result.diagnostics.back()));
+      Fail(result, A2L2JSON_NOT_CONVERTED, WhatIsWrong(result.diagnostics.back()));
     }
     return;
   }

@@ -40,6 +40,8 @@ struct Input {
   std::function<std::optional<std::string>()> beginning;
   /// Gives all of its bytes, which stay as long as the input, or tells why they cannot be had.
   std::function<FileError(std::string_view& bytes)> load;
+  /// What its included files are relative to, as in IncludeOptions; empty where none is read.
+  std::string path = {};
 };
 
 /// Makes a result and has `convert` fill it, from checked options that are never null. Whatever is

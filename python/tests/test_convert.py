@@ -117,13 +117,35 @@ def test_mending_saves_what_the_layout_would_cost() -> None:
     mended = a2l2json.loads(text)
     assert address(mended) == "0x51A50"
     (finding,) = mended.findings
-    assert (finding.rule, finding.line, finding.column) == ("same-line", 4, 61)
+    assert (finding.rule, finding.line, finding.column) == ("same-line", 4, 57)
     assert finding.mended
     assert mended.mended is not None and b"ECU_ADDRESS 0x51A50\n" in mended.mended
 
     as_it_is = a2l2json.loads(text, mend=False)
     assert address(as_it_is) is None
     assert as_it_is.findings == ()
+
+
+def test_mending_follows_included_files(tmp_path: Path) -> None:
+    (tmp_path / "parts").mkdir()
+    (tmp_path / "parts" / "one.a2l").write_bytes(ONE_LINE + b"COLOUR red\n")
+    path = tmp_path / "engine.a2l"
+    path.write_bytes(HEAD + b'/include "parts/one.a2l"\n' + TAIL)
+    for encoding in (None, "cp1252"):
+        result = a2l2json.load(path, encoding=encoding)
+        assert result.document["FModules"][0]["FMEASUREMENT"][0]["FECU_ADDRESS"] == "0x51A50"
+        (warning,) = result.diagnostics
+        assert Path(warning.file).name == "one.a2l"
+        assert warning.line == 2
+    assert a2l2json.load(path, mend=False).document["FModules"][0]["FMEASUREMENT"] == []
+
+
+def test_lines_are_those_of_the_file_where_it_is_mended() -> None:
+    (warning,) = a2l2json.loads(b"\n\n" + HEAD + b"\n\nCOLOUR red\n" + TAIL).diagnostics
+    assert warning.line == 8
+    with pytest.raises(a2l2json.A2LError) as raised:
+        a2l2json.loads(b"\n\n" + HEAD + b"\n\n/end PROJECT\n/begin UNIT\n/end MODULE\n")
+    assert raised.value.line is not None and raised.value.line > 6
 
 
 def test_convert_writes_what_the_program_writes(top: Path, demo: Path, tmp_path: Path) -> None:

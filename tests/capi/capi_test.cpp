@@ -113,6 +113,7 @@ TEST(CInterface, GivesDiagnosticsAsData) {
   EXPECT_EQ(warning->text_size, std::strlen("unexpected element WORD"));
   const a2l2json_diagnostic* error = a2l2json_diagnostic_at(result.get(), 1);
   EXPECT_EQ(error->line, 3U);
+  EXPECT_STREQ(error->file, "");
   EXPECT_EQ(error->severity, A2L2JSON_ERROR);
   EXPECT_EQ(error->kind, A2L2JSON_END_DOES_NOT_MATCH);
   EXPECT_STREQ(error->kind_name, "end-does-not-match");
@@ -239,11 +240,7 @@ TEST(CInterface, MendsTheTextBeforeTheConversion) {
   options.mend = 1;
   options.name = "engine.a2l";
   const Result result = Convert(kOneLine, &options);
-  if (a2l2json_can_mend() == 0) {
-    EXPECT_EQ(a2l2json_result_code(result.get()), A2L2JSON_NOT_AVAILABLE);
-    EXPECT_STREQ(a2l2json_error(result.get()), "This library cannot mend.");
-    return;
-  }
+  EXPECT_EQ(a2l2json_can_mend(), 1);
   EXPECT_EQ(a2l2json_result_code(result.get()), A2L2JSON_OK);
   EXPECT_NE(Document(result).find(R"("FECU_ADDRESS": "0x51A50")"), std::string::npos)
       << Document(result);
@@ -262,7 +259,6 @@ TEST(CInterface, MendsTheTextBeforeTheConversion) {
 }
 
 TEST(CInterface, MendsFilesAsTexts) {
-  if (a2l2json_can_mend() == 0) GTEST_SKIP() << "this library cannot mend";
   a2l2json_options options = A2L2JSON_OPTIONS_INIT;
   options.mend = 1;
   const TemporaryFolder folder;
@@ -279,6 +275,62 @@ TEST(CInterface, MendsFilesAsTexts) {
   EXPECT_EQ(a2l2json_result_code(missing.get()), A2L2JSON_NOT_READ);
   EXPECT_EQ(a2l2json_error(missing.get()), path + "x: there is no such file.");
   EXPECT_EQ(Bytes(a2l2json_mended, missing), "(none)");
+}
+
+// An address and a warning in a file that the text includes.
+constexpr std::string_view kIncludes =
+    "/begin PROJECT P \"\"\n/begin MODULE M \"\"\n/include \"sub/m.a2l\"\n/end MODULE\n/end "
+    "PROJECT\n";
+constexpr std::string_view kIncluded =
+    "\n/begin MEASUREMENT m \"\" UBYTE NO_COMPU_METHOD 0 0 0 255 ECU_ADDRESS 0x51A50\n"
+    "/end MEASUREMENT\nCOLOUR red\n";
+
+TEST(CInterface, MendsWithIncludedFiles) {
+  a2l2json_options options = A2L2JSON_OPTIONS_INIT;
+  options.mend = 1;
+  const TemporaryFolder folder;
+  std::filesystem::create_directories(folder / "sub");
+  WriteFile(folder / "in.a2l", kIncludes);
+  WriteFile(folder / "sub/m.a2l", kIncluded);
+  const Result file = ConvertFile((folder / "in.a2l").string(), &options);
+  EXPECT_NE(Document(file).find(R"("FECU_ADDRESS": "0x51A50")"), std::string::npos);
+  ASSERT_EQ(a2l2json_diagnostic_count(file.get()), 1U);
+  const a2l2json_diagnostic* warning = a2l2json_diagnostic_at(file.get(), 0);
+  EXPECT_STREQ(warning->text, "unexpected element COLOUR");
+  EXPECT_EQ(warning->line, 4U);
+  EXPECT_EQ(std::filesystem::path(warning->file).filename(), "m.a2l");
+
+  // Text in memory has no place unless it is told.
+  const Result nowhere = Convert(kIncludes, &options);
+  EXPECT_EQ(Document(nowhere).find("0x51A50"), std::string::npos);
+  ASSERT_GT(a2l2json_finding_count(nowhere.get()), 0U);
+  EXPECT_STREQ(a2l2json_finding_at(nowhere.get(), 0)->rule, "include-missing");
+  const std::string path = folder.Path().string();
+  options.folder = path.c_str();
+  EXPECT_EQ(Document(Convert(kIncludes, &options)), Document(file));
+
+  // Without mending, nothing is included.
+  EXPECT_EQ(Document(ConvertFile((folder / "in.a2l").string())).find("0x51A50"), std::string::npos);
+}
+
+TEST(CInterface, TellsTheLinesOfTheSourceWhereItMends) {
+  a2l2json_options options = A2L2JSON_OPTIONS_INIT;
+  options.mend = 1;
+  options.name = "engine.a2l";
+  // The mended text has the two words in its lines 2 and 4.
+  const Result warned = Convert(
+      "\n\n/begin PROJECT P \"\"\n\nONE 1\n/begin MODULE M\n\n\"\"\nTWO 2\n"
+      "/end MODULE\n/end PROJECT\n",
+      &options);
+  EXPECT_EQ(Bytes(a2l2json_messages, warned),
+            "Warning: Line(5) unexpected element ONE\nWarning: Line(9) unexpected element TWO\n");
+  ASSERT_EQ(a2l2json_diagnostic_count(warned.get()), 2U);
+  EXPECT_EQ(a2l2json_diagnostic_at(warned.get(), 1)->line, 9U);
+  EXPECT_STREQ(a2l2json_diagnostic_at(warned.get(), 1)->file, "engine.a2l");
+
+  const Result failed = Convert("\n\n/begin PROJECT P\n\n\"\"\n\n/end MODULE\n", &options);
+  EXPECT_EQ(a2l2json_result_code(failed.get()), A2L2JSON_NOT_CONVERTED);
+  EXPECT_STREQ(a2l2json_error(failed.get()), "engine.a2l, line 7: /end don't equal /begin PROJECT");
 }
 
 // ---------------------------------------------------------------------------------------------

@@ -69,6 +69,7 @@ MendRun RunMend(std::string_view text, const Files& files) {
   MendOptions options;
   options.name = "file.a2l";
   options.path = "file.a2l";
+  options.lines = &run.lines;
   options.report = [&run](const Finding& finding) {
     run.findings.push_back({finding.rule, std::string(finding.file), finding.line, finding.column,
                             std::string(finding.word), TextWithPlace(finding)});

@@ -30,6 +30,7 @@ struct KeptFinding {
 struct MendRun {
   Mended mended;
   std::vector<KeptFinding> findings;
+  LineMap lines;
 
   /// The findings in their short form, one behind the other.
   [[nodiscard]] std::string Short() const;

@@ -29,10 +29,11 @@ def version() -> str:
 class Diagnostic:
     """A warning or an error of the converter."""
 
-    line: int  #: number of the line, the first being 1; of the mended text where it was mended
+    line: int  #: number of the line, the first being 1
     severity: str  #: "warning" or "error"; an error ends the read
     kind: str  #: a name that stays, as in "unexpected-element"
     text: str  #: as in "unexpected element COLOUR"
+    file: str = ""  #: the file that it is in, which may be an included one; empty for text in memory
 
     def __str__(self) -> str:
         return f"{self.severity.capitalize()}: Line({self.line}) {self.text}"
@@ -90,7 +91,8 @@ class Result:
 def load(path: PathLike, *, mend: bool = True, encoding: Optional[str] = None) -> Result:
     """Converts the file at `path`; `encoding` as in loads().
 
-    With `mend`, the files that it includes are read, too, from its folder and those below.
+    With `mend`, the files that it includes are read, too, from its folder and those below; their
+    bytes are read as UTF-8 or cp1252, whatever `encoding` says.
     Raises A2LError where the file cannot be read or converted.
     """
     if encoding is not None:
@@ -99,7 +101,8 @@ def load(path: PathLike, *, mend: bool = True, encoding: Optional[str] = None) -
                 text = file.read()
         except OSError as error:
             raise A2LError(f"{os.fspath(path)} cannot be read: {error.strerror}") from error
-        return _convert(_recode(text, encoding), mend, name=os.fspath(path))
+        folder = os.path.dirname(os.path.abspath(path))
+        return _convert(_recode(text, encoding), mend, os.fspath(path), folder)
     return _Call(mend=mend).file(path).result()
 
 
@@ -167,13 +170,21 @@ class _Call:
     """One call of the library, and what it gave."""
 
     def __init__(
-        self, mend: bool, name: str = "", write: Optional[Callable[[memoryview], bool]] = None
+        self,
+        mend: bool,
+        name: str = "",
+        folder: str = "",
+        write: Optional[Callable[[memoryview], bool]] = None,
     ) -> None:
         def receive(_: object, address: int, size: int) -> int:
             assert write is not None
             return 0 if write(_view(address, size)) else 1
 
-        self._options = _library.Options(mend=int(mend), name=_path(name) if name else None)
+        self._options = _library.Options(
+            mend=int(mend),
+            name=_path(name) if name else None,
+            folder=_path(folder) if folder else None,
+        )
         if write is not None:
             self._options.write = _library.Write(receive)
         self._pointer = ctypes.c_void_p()
@@ -203,6 +214,7 @@ class _Call:
                 severity="error" if one.severity else "warning",
                 kind=one.kind_name.decode(),
                 text=_text(ctypes.string_at(one.text, one.text_size)),
+                file=_text(one.file),
             )
             for one in self._all("diagnostic")
         )
@@ -237,8 +249,8 @@ class _Call:
         return [at(self._pointer, i).contents for i in range(count)]
 
 
-def _convert(text: bytes, mend: bool, name: str = "") -> Result:
-    return _Call(mend=mend, name=name).text(text).result()
+def _convert(text: bytes, mend: bool, name: str = "", folder: str = "") -> Result:
+    return _Call(mend=mend, name=name, folder=folder).text(text).result()
 
 
 def _view(address: int, size: int) -> memoryview:

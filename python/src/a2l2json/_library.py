@@ -23,8 +23,8 @@ class Options(ctypes.Structure):
     _fields_ = [
         ("size", ctypes.c_size_t),
         ("mend", ctypes.c_int),
-        ("encoding", ctypes.c_char_p),
         ("name", ctypes.c_char_p),
+        ("folder", ctypes.c_char_p),
         ("write", Write),
         ("context", ctypes.c_void_p),
     ]
@@ -43,6 +43,7 @@ class Diagnostic(ctypes.Structure):
         ("kind_name", ctypes.c_char_p),
         ("text", ctypes.c_void_p),
         ("text_size", ctypes.c_size_t),
+        ("file", ctypes.c_char_p),
     ]
 
 

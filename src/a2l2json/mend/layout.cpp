@@ -10,6 +10,17 @@ bool BeginsMarker(std::string_view rest) {
 
 }  // namespace
 
+void Layout::MapRaw(std::string_view bytes) {
+  while (!bytes.empty()) {
+    if (rawBeginsLine_) lines_->BeginLine(file_, line_);
+    const std::size_t end = bytes.find('\n');
+    rawBeginsLine_ = end != std::string_view::npos;
+    if (!rawBeginsLine_) return;
+    ++line_;
+    bytes.remove_prefix(end + 1);
+  }
+}
+
 std::string MendedText(std::string_view text, const TextTraits& traits) {
   std::string mended;
   if (!traits.isClosed) {

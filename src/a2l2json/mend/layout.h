@@ -9,6 +9,7 @@
 #include <string_view>
 #include <utility>
 
+#include "a2l2json/mend/line_map.h"
 #include "a2l2json/mend/source.h"
 
 namespace a2l::mending {
@@ -20,8 +21,16 @@ namespace a2l::mending {
 
 class Layout {
  public:
-  /// Makes room for what a text of `size` bytes is likely to become.
-  explicit Layout(std::size_t size) { text_.reserve(size + size / 8); }
+  /// Makes room for what a text of `size` bytes is likely to become. `lines` may be null.
+  Layout(std::size_t size, LineMap* lines) : lines_(lines) { text_.reserve(size + size / 8); }
+
+  /// Where the words that come next stand in the source.
+  void SetPlace(std::string_view file, std::size_t line) {
+    file_ = file;
+    line_ = line;
+  }
+  /// The line that raw bytes have reached; only where lines are mapped.
+  [[nodiscard]] std::size_t Line() const { return line_; }
 
   /// Begins a line, with the indentation of blocks that lie in `level` others.
   void BeginLine(std::size_t level) {
@@ -61,16 +70,26 @@ class Layout {
   /// Between the two, bytes are taken as they are. White space at the end of all of them goes.
   [[nodiscard]] std::size_t BeginRaw() {
     EndLine();
+    rawBeginsLine_ = true;
     return text_.size();
   }
-  void Raw(std::string_view bytes) { text_ += bytes; }
+  /// Bytes whose first one is at the place that is set; those behind line ends are on the lines
+  /// that follow it.
+  void Raw(std::string_view bytes) {
+    if (lines_ != nullptr) MapRaw(bytes);
+    text_ += bytes;
+  }
   [[nodiscard]] bool LineHasWords() const {
     const std::size_t last = text_.find_last_not_of(" \t\v\f\r");
     return last != std::string::npos && text_[last] != '\n';
   }
   void EndRaw(std::size_t start) {
-    while (text_.size() > start && IsWhite(text_.back())) text_.pop_back();
+    while (text_.size() > start && IsWhite(text_.back())) {
+      if (text_.back() == '\n') UnmapRaw();
+      text_.pop_back();
+    }
     lineIsEmpty_ = text_.size() == start;
+    if (lineIsEmpty_) UnmapRaw();
   }
 
   /// The whole text, its last line ended.
@@ -81,13 +100,28 @@ class Layout {
 
  private:
   void Separate() {
-    if (!lineIsEmpty_) text_ += ' ';
+    if (!lineIsEmpty_) {
+      text_ += ' ';
+    } else if (lines_ != nullptr) {
+      lines_->BeginLine(file_, line_);
+    }
     lineIsEmpty_ = false;
+  }
+  void MapRaw(std::string_view bytes);
+  /// A line end is taken away.
+  void UnmapRaw() {
+    if (lines_ != nullptr && !rawBeginsLine_) lines_->DropLine();
+    rawBeginsLine_ = false;
   }
 
   std::string text_;
+  LineMap* lines_;
+  std::string_view file_;
+  std::size_t line_ = 1;
   std::size_t level_ = 0;
   bool lineIsEmpty_ = true;
+  /// The next raw byte is the first of its line.
+  bool rawBeginsLine_ = false;
   /// A word of the line has a quote in it, and is no text.
   bool hasLooseQuote_ = false;
 };

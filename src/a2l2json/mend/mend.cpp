@@ -39,6 +39,7 @@ Mended Mend(std::string_view text, const MendOptions& options) {
   const bool looksMarked =
       result.text.starts_with(kByteOrderMark) || EncodingOf(result.text) != Encoding::Bytes;
   if (looksMarked) result.text.insert(0, 2, '\n');
+  if (looksMarked && options.lines != nullptr) options.lines->SetLinesBefore(2);
   result.lostValues = comparison.LostValues();
   result.lost = reporter.Count(MendOutcome::Lost);
   result.mended = reporter.Count(MendOutcome::Mended);

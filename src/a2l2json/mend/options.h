@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "a2l2json/mend/finding.h"
+#include "a2l2json/mend/line_map.h"
 
 namespace a2l {
 
@@ -44,6 +45,8 @@ struct MendOptions {
   std::function<void(const Finding& finding)> report;
   /// Called every now and then with the bytes of the text that are done.
   std::function<void(std::size_t done)> progress;
+  /// Where it is given: an empty map, which learns where the lines of the mended text come from.
+  LineMap* lines = nullptr;
 };
 
 }  // namespace a2l

@@ -44,7 +44,7 @@ void RawText::SkipToContent() {
     source.EndLine();
     isNewLine = true;
   }
-  begin_ = isNewLine ? source.lineStart : source.position;
+  SetBegin(isNewLine ? source.lineStart : source.position);
 }
 
 void RawText::SkipToEnd() {
@@ -53,7 +53,7 @@ void RawText::SkipToEnd() {
     if (source.AtEnd()) {
       Copy(source.position);
       if (!lexer_.LeaveFile()) return CloseInner();
-      begin_ = lexer_.Top().position;
+      SetBegin(lexer_.Top().position);
       continue;
     }
     const std::size_t before = source.position;
@@ -90,6 +90,7 @@ void RawText::SkipToEnd() {
 void RawText::CloseInner() {
   for (; !inner_.empty(); inner_.pop_back()) {
     out_.Raw("\n");
+    out_.SetPlace(lexer_.Top().name, lexer_.Top().line);
     out_.Raw(kEnd);
     out_.Raw(" ");
     out_.Raw(inner_.back());
@@ -120,9 +121,13 @@ void RawText::Rewrite(const Word& word, MendRule rule) {
   reporter_.Report(FindingAt(rule, word));
   Copy(word.begin);
   // On a line of its own: what stood before it, may have been the last line of another such text.
-  if (!isFirst_ && out_.LineHasWords()) out_.Raw("\n ");
+  const bool isOnNewLine = !isFirst_ && out_.LineHasWords();
+  if (isOnNewLine) out_.Raw("\n");
+  out_.SetPlace(word.file, word.line);
+  if (isOnNewLine) out_.Raw(" ");
   Append(MendedText(word.text, word.traits));
-  begin_ = rewrittenEnd_ = lexer_.Top().position;
+  SetBegin(lexer_.Top().position);
+  rewrittenEnd_ = begin_;
 }
 
 void RawText::PartMarkers(const Word& word) {
@@ -154,20 +159,27 @@ void RawText::Comment() {
   }
   // Not closed, it would take in what is written behind it.
   Copy(word.begin);
-  begin_ = source.position;
+  SetBegin(source.position);
   reporter_.Report(FindingAt(MendRule::CommentWithoutEnd, word));
 }
 
 void RawText::Include() {
   Copy(lexer_.Top().position);
   Word word;
-  if (lexer_.FollowInclude(word)) begin_ = lexer_.Top().position;
+  if (lexer_.FollowInclude(word)) SetBegin(lexer_.Top().position);
 }
 
 void RawText::Copy(std::size_t end) {
   if (begin_ == end) return;
+  out_.SetPlace(lexer_.Top().name, beginLine_);
   Append(lexer_.Top().text.substr(begin_, end - begin_));
   begin_ = end;
+  beginLine_ = out_.Line();
+}
+
+void RawText::SetBegin(std::size_t position) {
+  begin_ = position;
+  beginLine_ = lexer_.Top().line;
 }
 
 void RawText::Append(std::string_view bytes) {

@@ -36,13 +36,16 @@ class RawText {
   void Include();
   /// What has been read and not copied.
   void Copy(std::size_t end);
+  /// What comes next begins at `position`, in the line of the file that is reached.
+  void SetBegin(std::size_t position);
   void Append(std::string_view bytes);
 
   std::string_view keyword_;
   Lexer& lexer_;
   Layout& out_;
   Reporter& reporter_;
-  std::size_t begin_ = 0;                                    // of what has not been copied
+  std::size_t begin_ = 0;  // of what has not been copied
+  std::size_t beginLine_ = 1;
   std::size_t rewrittenEnd_ = static_cast<std::size_t>(-1);  // of the last text written anew
   bool isFirst_ = true;
   /// The keywords of the blocks inside that are open.

@@ -55,13 +55,14 @@ Walk::Walk(Lexer& lexer, Comparison& comparison, Reporter& reporter, const MendO
       comparison_(comparison),
       reporter_(reporter),
       options_(options),
-      out_(lexer.Main().text.size()) {
+      out_(lexer.Main().text.size(), options.lines) {
   root_.declaration = DeclarationOf(KIND_ROOT);
 }
 
 std::string Walk::Run() {
   while (true) {
     const Word word = Next();
+    out_.SetPlace(word.file, word.line);
     switch (word.type) {
       case WordType::Begin:
         BeginMarker(word);
@@ -317,6 +318,7 @@ void Walk::CopyRaw() {
     }
   }
   const Word marker = RawText(element.keyword, lexer_, out_, reporter_).CopyToEnd();
+  out_.SetPlace(marker.file, marker.line);
   if (marker.type == WordType::End) return EndMarker(marker);
   returned_ = marker;
 }
