@@ -4,8 +4,8 @@
 # behind it: the targets with "##" below.
 
 .DEFAULT_GOAL := build
-.PHONY: help deps deps-ci deps-packages deps-windows deps-js configure build demo test bench install \
-	packages windows js asan tidy format format-check clean
+.PHONY: help deps deps-ci deps-packages deps-windows deps-python deps-js configure build demo test bench install \
+	packages wheels python windows js asan tidy format format-check clean
 .NOTPARALLEL:
 
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
@@ -55,13 +55,19 @@ bench: deps ## measure how fast it is here, as one table of speeds, memory and r
 install: build ## install programs, manual pages, completions and pages to PREFIX (/usr/local)
 	cmake --install build/release --prefix "$(PREFIX)"
 
-packages: deps-packages ## make a Debian package and an archive, in build/packages
-	rm -rf build/packages
-	cmake --preset package
-	cmake --build --preset package -j $(JOBS)
-	cpack --preset package
-	@rm -rf build/packages/_CPack_Packages
-	@ls -l build/packages
+packages: deps ## make everything that is given to users, in dist: see scripts/packages
+	@JOBS=$(JOBS) bash scripts/packages
+
+wheels: deps ## make the Python package for each system, in dist
+	@JOBS=$(JOBS) bash scripts/packages wheels
+
+python: deps-python ## test the Python package
+	cmake --preset wheel
+	cmake --build --preset wheel -j $(JOBS)
+	python/tools/check build/wheel/capi/liba2l2json.so.1
+
+deps-python: deps ## install what the Python package is tested and packed with, too
+	@bash scripts/deps python
 
 deps-js: deps ## install the compiler for WebAssembly and the packages of js/, too
 	@bash scripts/deps js
@@ -70,12 +76,12 @@ windows: deps-windows ## build the programs for Windows, build/windows/a2l2json.
 	cmake --preset windows
 	cmake --build --preset windows -j $(JOBS)
 
-js: deps-js ## build and test the npm package, build/packages/a2l2json-VERSION.tgz
+js: deps-js ## build and test the npm package, dist/a2l2json-VERSION.tgz
 	cmake --preset wasm
 	cmake --build --preset wasm -j $(JOBS)
 	cd js && node scripts/assemble.js && npm test
-	mkdir -p build/packages
-	cd js && npm pack --pack-destination ../build/packages
+	mkdir -p dist
+	cd js && npm pack --pack-destination ../dist
 
 asan: deps-ci ## run the tests under AddressSanitizer and UndefinedBehaviorSanitizer
 	cmake --preset asan-ubsan

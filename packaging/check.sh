@@ -116,8 +116,8 @@ clean_system &
 system=$!
 trap 'kill "$system" 2>/dev/null || true' EXIT
 make packages
-deb=$(the_only build/packages/*.deb)
-archive=$(the_only build/packages/*.tar.gz)
+deb=$(the_only dist/*.deb)
+archive=$(the_only dist/*.tar.gz)
 
 if wait "$system"; then
   install_in_clean_system

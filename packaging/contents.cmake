@@ -4,6 +4,8 @@
 
 if(CPACK_GENERATOR STREQUAL "DEB")
   set(components program library c shared debian)
+elseif(CPACK_GENERATOR STREQUAL "ZIP")
+  set(components program c shared)
 else()
   set(components static shared plain)
 endif()

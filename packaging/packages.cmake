@@ -1,12 +1,13 @@
 # SPDX-License-Identifier: MIT
 #
-# The packages that `make packages` makes with the preset `package`: a Debian package with
-# everything that is installed, and an archive with the statically linked programs.
+# The packages that cpack makes for `make packages`: with the preset `package`, a Debian package with
+# everything that is installed, and an archive with the statically linked programs; with `arm64`, such
+# an archive; with `windows-package`, an archive with the programs and the shared library.
 # cmake/Install.cmake includes this file.
 
 include_guard(GLOBAL)
 
-if(NOT A2L2JSON_STATIC OR NOT A2L2JSON_LIBRARY)
+if(NOT A2L2JSON_STATIC AND NOT WIN32)
   return()
 endif()
 
@@ -34,11 +35,17 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
 set(CPACK_PROJECT_CONFIG_FILE "${packaging}/contents.cmake")
 
 # ---------------------------------------------------------------------------------------------
-# The archive
+# The archives
 
-foreach(program ${programs})
-  install(TARGETS ${program}_static COMPONENT static EXCLUDE_FROM_ALL)
-endforeach()
+if(A2L2JSON_STATIC)
+  foreach(program ${programs})
+    install(TARGETS ${program}_static COMPONENT static EXCLUDE_FROM_ALL)
+  endforeach()
+endif()
+if(NOT A2L2JSON_LIBRARY)
+  include(CPack)
+  return()
+endif()
 
 # ---------------------------------------------------------------------------------------------
 # The Debian package. In it, some files have other names or are compressed.
