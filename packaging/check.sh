@@ -9,7 +9,8 @@
 #
 # As root, debootstrap makes the clean system from the package sources of this machine. Without root
 # or debootstrap, it is the unpacked package with the shared libraries of this machine. All files
-# stay in build/package-check.
+# stay in build/package-check. The wheel, the archives for other systems, the npm package and the page
+# are tried as well where they have been made.
 
 set -euo pipefail
 shopt -s globstar nullglob
@@ -117,7 +118,7 @@ system=$!
 trap 'kill "$system" 2>/dev/null || true' EXIT
 make packages
 deb=$(the_only dist/*.deb)
-archive=$(the_only dist/*.tar.gz)
+archive=$(the_only dist/*-linux-"$(uname -m)".tar.gz)
 
 if wait "$system"; then
   install_in_clean_system
@@ -269,4 +270,6 @@ say 'no link of an installed page leads nowhere'
 if readelf --section-headers --wide "${pc%/*/*}/liba2l2json.a" | grep -q '\.gnu\.lto_'; then
   die 'the library holds intermediate code of link time optimisation'
 fi
+. packaging/check_others.sh
+
 say "all is well ($SECONDS s)"
