@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 from __future__ import annotations
 
+import gc
 import json
 import threading
 from pathlib import Path
@@ -30,6 +31,17 @@ def test_load_gives_the_document(top: Path, demo: Path) -> None:
     assert result.diagnostics == ()
     assert result.findings == ()
     assert result.mended is None
+
+
+@pytest.mark.parametrize("enabled", [True, False])
+def test_the_document_leaves_the_garbage_collector_as_it_is(demo: Path, enabled: bool) -> None:
+    was_enabled = gc.isenabled()
+    (gc.enable if enabled else gc.disable)()
+    try:
+        assert a2l2json.load(demo).document["FModules"]
+        assert gc.isenabled() == enabled
+    finally:
+        (gc.enable if was_enabled else gc.disable)()
 
 
 def test_load_takes_text_and_path_alike(demo: Path) -> None:

@@ -5,6 +5,7 @@ from __future__ import annotations
 
 import codecs
 import ctypes
+import gc
 import json
 import os
 from dataclasses import dataclass
@@ -85,7 +86,16 @@ class Result:
     @cached_property
     def document(self) -> "Document":
         """The document. It is made when it is first asked for, and is then the same one."""
-        return cast("Document", json.loads(_text(self.json)))
+        text = _text(self.json)
+        # The collector of cycles would look through all objects again and again while they are made,
+        # which takes as long as making them; and there are no cycles in a document.
+        was_enabled = gc.isenabled()
+        gc.disable()
+        try:
+            return cast("Document", json.loads(text))
+        finally:
+            if was_enabled:
+                gc.enable()
 
 
 def load(path: PathLike, *, mend: bool = True, encoding: Optional[str] = None) -> Result:
