@@ -5,7 +5,7 @@
 
 .DEFAULT_GOAL := build
 .PHONY: help deps deps-ci deps-packages deps-windows deps-python deps-js configure build demo test bench install \
-	packages wheels python windows js asan tidy format format-check clean
+	packages wheels python windows js js-package asan tidy format format-check clean
 .NOTPARALLEL:
 
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
@@ -76,12 +76,14 @@ windows: deps-windows ## build the programs for Windows, build/windows/a2l2json.
 	cmake --preset windows
 	cmake --build --preset windows -j $(JOBS)
 
-js: deps-js ## build and test the npm package, dist/a2l2json-VERSION.tgz
+js-package: deps-js ## build the npm package, dist/a2l2json-VERSION.tgz
 	cmake --preset wasm
 	cmake --build --preset wasm -j $(JOBS)
-	cd js && node scripts/assemble.js && npm test
 	mkdir -p dist
 	cd js && npm pack --pack-destination ../dist
+
+js: js-package ## the same, and test it
+	cd js && npm test
 
 asan: deps-ci ## run the tests under AddressSanitizer and UndefinedBehaviorSanitizer
 	cmake --preset asan-ubsan

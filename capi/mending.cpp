@@ -6,7 +6,7 @@
 
 #include "a2l2json/mend/mend.h"
 #ifdef A2L2JSON_HAS_FILES
-#include "a2l2json/mend/include_folders.h"
+#include "a2l2json/mend/include_reader.h"
 #endif
 
 namespace a2l::capi {
@@ -28,12 +28,12 @@ void MendInto(a2l2json_result& result, std::string_view text, const Input& input
   options.path = input.path;
   options.lines = &lines;
 #ifdef A2L2JSON_HAS_FILES
-  std::optional<IncludeFolders> folders;
+  std::optional<IncludeReader> reader;
   if (!input.path.empty()) {
-    folders.emplace(IncludeOptions{.path = input.path, .folders = {}, .decode = {}});
-    options.path = folders->MainPath();
-    options.open = [&folders](std::string_view name, std::string_view from) {
-      return folders->Open(name, from);
+    reader.emplace(IncludeOptions{.path = input.path, .folders = {}, .decode = {}});
+    options.path = reader->MainPath();
+    options.open = [&reader](std::string_view name, std::string_view from) {
+      return reader->Open(name, from);
     };
   }
 #endif

@@ -33,11 +33,12 @@ try_wheel() {
       die "Python cannot be installed: $(<"$work/python.log")"
     top=$root
   fi
-  rm -rf "$work/venv" "$root/venv"
-  mkdir -p "${top:-$work}/venv"
-  cp "$wheel" "$demo" "${top:-$work}/venv"
-  local run=(unshare --net env -i PATH=/usr/bin:/bin)
-  ((EUID == 0)) || run=(env -i PATH=/usr/bin:/bin)
+  local folder=${top:-$work}/venv
+  rm -rf "$folder"
+  mkdir -p "$folder"
+  cp "$wheel" "$demo" "$folder"
+  local run=(env -i PATH=/usr/sbin:/usr/bin:/bin)
+  ((EUID != 0)) || run=(unshare --net "${run[@]}")
   "${run[@]}" ${top:+chroot "$top"} sh -euc '
     cd "$1"
     python3 -m venv . >/dev/null
@@ -55,10 +56,11 @@ except a2l2json.A2LError as error:
 else:
     raise AssertionError(\"a program was converted\")
 " >loaded.json
-  ' sh "${top:+/}${top:-$work/}venv" 2>/dev/null || die "$wheel cannot be installed or used"
-  cmp "${top:-$work}/venv/demo.json" "$expected"
-  cmp "${top:-$work}/venv/loaded.json" "$expected"
-  [[ $(<"${top:-$work}/venv/console.txt") == Success. ]] || die 'python -m a2l2json says something else'
+  ' sh "${folder#"$top"}" 2>"$work/wheel.log" ||
+    die "$wheel cannot be installed or used: $(<"$work/wheel.log")"
+  cmp "$folder/demo.json" "$expected"
+  cmp "$folder/loaded.json" "$expected"
+  [[ $(<"$folder/console.txt") == Success. ]] || die 'python -m a2l2json says something else'
   say "$wheel is installed with pip and converts $demo to $expected, byte for byte"
 }
 

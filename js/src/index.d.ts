@@ -24,8 +24,7 @@ export interface Options {
 
 /** A warning or an error. */
 export interface Diagnostic {
-  /** Number of the physical line of what was converted (the mended text, where it was mended), the
-   * first being 1. */
+  /** Number of the physical line of the input, the first being 1; where the text is mended, too. */
   readonly line: number;
   readonly severity: "warning" | "error";
   /** As in "unexpected-element". */

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "a2l2json/mend/include_folders.h"
+#include "a2l2json/mend/include_reader.h"
 
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -17,7 +16,7 @@ namespace {
 namespace fs = std::filesystem;
 using Status = IncludedFile::Status;
 
-class IncludeFoldersTest : public testing::Test {
+class IncludeReaderTest : public testing::Test {
  protected:
   void SetUp() override {
     fs::create_directories(folder_ / "main/sub");
@@ -37,15 +36,15 @@ class IncludeFoldersTest : public testing::Test {
     return options;
   }
   [[nodiscard]] IncludedFile Open(std::string_view name) const {
-    const IncludeFolders folders(Options());
+    const IncludeReader folders(Options());
     return folders.Open(name, folders.MainPath());
   }
 
   TemporaryFolder folder_;
 };
 
-TEST_F(IncludeFoldersTest, FindsFilesBesideTheOneThatNamesThem) {
-  const IncludeFolders folders(Options());
+TEST_F(IncludeReaderTest, FindsFilesBesideTheOneThatNamesThem) {
+  const IncludeReader folders(Options());
   EXPECT_EQ(folders.MainPath(), Path("main/engine.a2l"));
   const IncludedFile a = folders.Open("sub\\a.a2l", folders.MainPath());
   EXPECT_EQ(a.status, Status::Read);
@@ -58,7 +57,7 @@ TEST_F(IncludeFoldersTest, FindsFilesBesideTheOneThatNamesThem) {
   EXPECT_EQ(missing.problem, "there is no such file");
 }
 
-TEST_F(IncludeFoldersTest, StaysInTheFolder) {
+TEST_F(IncludeReaderTest, StaysInTheFolder) {
   const IncludedFile outside = Open("../main2/c.a2l");
   EXPECT_EQ(outside.status, Status::Refused);
   EXPECT_EQ(outside.problem, "it lies outside of the folders that are given");
@@ -71,56 +70,72 @@ TEST_F(IncludeFoldersTest, StaysInTheFolder) {
   EXPECT_EQ(Open("link.a2l").status, Status::Refused);
 }
 
-TEST_F(IncludeFoldersTest, LeavesItWhereThatIsAllowed) {
+TEST_F(IncludeReaderTest, LeavesItWhereThatIsAllowed) {
   IncludeOptions options = Options();
   options.allowOutside = true;
-  const IncludeFolders anywhere(options);
+  const IncludeReader anywhere(options);
   EXPECT_EQ(anywhere.Open("../main2/c.a2l", anywhere.MainPath()).bytes, "c");
   options = Options();
   options.folders = {(folder_ / "main2").string() + "/"};
-  const IncludeFolders two(options);
+  const IncludeReader two(options);
   EXPECT_EQ(two.Open("c.a2l", two.MainPath()).bytes, "c");
   EXPECT_EQ(two.Open("../main2/c.a2l", two.MainPath()).bytes, "c");
 }
 
-TEST_F(IncludeFoldersTest, TakesAFolderForTextOfNoFile) {
+TEST_F(IncludeReaderTest, TakesAFolderForTextOfNoFile) {
   IncludeOptions options;
   options.path = (folder_ / "main").string() + "/-";
-  const IncludeFolders folders(options);
+  const IncludeReader folders(options);
   EXPECT_EQ(folders.Open("sub/a.a2l", folders.MainPath()).bytes, "a");
   EXPECT_EQ(folders.Open("../main2/c.a2l", folders.MainPath()).status, Status::Refused);
 }
 
-TEST_F(IncludeFoldersTest, AllowsNothingOutsideOfAFolderThatIsNotThere) {
+TEST_F(IncludeReaderTest, AllowsNothingOutsideOfAFolderThatIsNotThere) {
   for (const std::string_view path : {"no such folder/-", "-", "", "/no such folder/-"}) {
     IncludeOptions options;
     options.path = path;
-    const IncludeFolders folders(options);
+    const IncludeReader folders(options);
     const IncludedFile file = folders.Open(Path("main2/c.a2l"), folders.MainPath());
     EXPECT_EQ(file.status, Status::Refused) << path;
   }
 }
 
-TEST_F(IncludeFoldersTest, ReadsRegularFilesOnly) {
+TEST_F(IncludeReaderTest, ReadsRegularFilesOnly) {
   const IncludedFile folder = Open("sub");
   EXPECT_EQ(folder.status, Status::Refused);
   EXPECT_EQ(folder.problem, "it is no regular file");
 }
 
-TEST_F(IncludeFoldersTest, DecodesWhatItReads) {
+TEST_F(IncludeReaderTest, DecodesWhatItReads) {
   IncludeOptions options = Options();
-  options.decode = [](std::string_view bytes) -> std::optional<std::string> {
-    if (bytes == "b") return {};
-    return std::string(bytes) + "!";
+  options.decode = [](std::string& bytes) -> std::string {
+    if (bytes == "b") return "it is in another one";
+    bytes += "!";
+    return {};
   };
-  const IncludeFolders folders(options);
+  const IncludeReader folders(options);
   EXPECT_EQ(folders.Open("sub/a.a2l", folders.MainPath()).bytes, "a!");
   const IncludedFile wrong = folders.Open("sub/b.a2l", folders.MainPath());
   EXPECT_EQ(wrong.status, Status::Missing);
-  EXPECT_EQ(wrong.problem, "it is not in the encoding that is given");
+  EXPECT_EQ(wrong.problem, "it is in another one");
 }
 
-TEST_F(IncludeFoldersTest, ReadsLongFiles) {
+TEST_F(IncludeReaderTest, KnowsNamesThatNoFileCanHave) {
+  using namespace std::string_view_literals;
+  EXPECT_EQ(Open("sub/a.a2l\0"sv).status, Status::Missing);
+  EXPECT_EQ(Open("").status, Status::Missing);
+}
+
+TEST_F(IncludeReaderTest, TellsWhyAFileCannotBeRead) {
+  std::string bytes;
+  EXPECT_EQ(ReadWholeFile(folder_ / "main", bytes), "it is a folder");
+  EXPECT_EQ(ReadWholeFile(folder_ / "missing", bytes), "No such file or directory");
+  EXPECT_EQ(bytes, "");
+  EXPECT_EQ(ReadWholeFile(folder_ / "main/sub/a.a2l", bytes), "");
+  EXPECT_EQ(bytes, "a");
+}
+
+TEST_F(IncludeReaderTest, ReadsLongFiles) {
   const std::string text(300000, 'x');
   WriteFile(folder_ / "main/long.a2l", text);
   EXPECT_EQ(Open("long.a2l").bytes, text);

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// Where the files lie that a file includes.
+// Reads the files that a file includes.
 #pragma once
 
 #include <filesystem>
 #include <functional>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,14 +14,14 @@
 namespace a2l {
 
 struct IncludeOptions {
-  /// The path of the file that is mended, in UTF-8 on Windows; or, ending in "/-", a folder that
-  /// text of no file is taken to lie in. "-" alone is the folder that the process works in.
+  /// The path of the file that is mended, in UTF-8 on Windows. "-" is text that lies in the folder
+  /// that the process works in; with a folder before it, as in "parts/-", in that.
   std::string path;
   /// Where to look behind the folder of the file that names another.
   std::vector<std::string> folders;
-  /// Makes UTF-8 of the bytes of an included file; nothing where they are not in the encoding.
-  /// Without it, they are taken as they are.
-  std::function<std::optional<std::string>(std::string_view bytes)> decode;
+  /// Makes UTF-8 of the bytes of an included file, or tells in a few words why it cannot. Without
+  /// it, they are taken as they are.
+  std::function<std::string(std::string& bytes)> decode;
   /// Files may also lie outside of the folder of the file, and of `folders`.
   bool allowOutside = false;
 };
@@ -30,9 +29,9 @@ struct IncludeOptions {
 /// Finds the files that others include: in the folder of the file that names them, then in those
 /// that are given. Reads regular files only and, unless told otherwise, none outside of these
 /// folders and that of the first file, wherever links lead.
-class IncludeFolders {
+class IncludeReader {
  public:
-  explicit IncludeFolders(IncludeOptions options);
+  explicit IncludeReader(IncludeOptions options);
 
   /// Where the first file lies; for MendOptions::path.
   [[nodiscard]] const std::string& MainPath() const { return mainPath_; }
@@ -40,7 +39,9 @@ class IncludeFolders {
   [[nodiscard]] IncludedFile Open(std::string_view name, std::string_view from) const;
 
  private:
+  [[nodiscard]] bool MayLookAt(const std::filesystem::path& path) const;
   [[nodiscard]] bool IsInside(const std::filesystem::path& path) const;
+  [[nodiscard]] IncludedFile Read(const std::filesystem::path& path) const;
 
   IncludeOptions options_;
   std::vector<std::filesystem::path> folders_;
@@ -48,8 +49,8 @@ class IncludeFolders {
   std::string mainPath_;
 };
 
-/// Reads a regular file to its end, without `bytes` ever being much longer than it. False where
-/// that cannot be done.
-[[nodiscard]] bool ReadRegularFile(const std::filesystem::path& path, std::string& bytes);
+/// Puts all bytes of a file, or of a pipe, behind `bytes`. Gives what kept it from that, in a few
+/// words; nothing where it is done.
+[[nodiscard]] std::string ReadWholeFile(const std::filesystem::path& path, std::string& bytes);
 
 }  // namespace a2l
