@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <fstream>
+#include <istream>
 #include <system_error>
 #include <utility>
 
@@ -15,6 +16,8 @@ namespace a2l {
 namespace {
 
 namespace fs = std::filesystem;
+
+constexpr std::size_t kPiece = std::size_t{1} << 20;
 
 // Why the system did not do what it was asked for last.
 std::string LastProblem() {
@@ -43,8 +46,18 @@ fs::path IncludedPath(std::string_view name) {
 
 }  // namespace
 
+bool ReadToEnd(std::istream& in, std::string& bytes) {
+  while (in.good()) {
+    const std::size_t size = bytes.size();
+    if (bytes.capacity() < size + kPiece) bytes.reserve(std::max(2 * size, size + kPiece));
+    bytes.resize(size + kPiece);
+    in.read(bytes.data() + size, static_cast<std::streamsize>(kPiece));
+    bytes.resize(size + static_cast<std::size_t>(in.gcount()));
+  }
+  return in.eof();
+}
+
 std::string ReadWholeFile(const fs::path& path, std::string& bytes) {
-  constexpr std::size_t kPiece = std::size_t{1} << 20;
   // A folder can be opened on some systems, and then gives no bytes and no error.
   std::error_code error;
   if (fs::is_directory(path, error)) return "it is a folder";
@@ -53,14 +66,7 @@ std::string ReadWholeFile(const fs::path& path, std::string& bytes) {
   if (!in.is_open()) return LastProblem();
   const std::uintmax_t expected = fs::file_size(path, error);
   if (!error) bytes.reserve(bytes.size() + static_cast<std::size_t>(expected) + kPiece);
-  while (in.good()) {
-    const std::size_t size = bytes.size();
-    if (bytes.capacity() < size + kPiece) bytes.reserve(std::max(2 * size, size + kPiece));
-    bytes.resize(size + kPiece);
-    in.read(bytes.data() + size, static_cast<std::streamsize>(kPiece));
-    bytes.resize(size + static_cast<std::size_t>(in.gcount()));
-  }
-  return in.eof() ? std::string() : LastProblem();
+  return ReadToEnd(in, bytes) ? std::string() : LastProblem();
 }
 
 IncludeReader::IncludeReader(IncludeOptions options) : options_(std::move(options)) {

@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <iosfwd>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -48,6 +49,9 @@ class IncludeReader {
   std::vector<std::filesystem::path> allowed_;
   std::string mainPath_;
 };
+
+/// Puts all bytes of a stream behind `bytes`. False where that is not possible.
+[[nodiscard]] bool ReadToEnd(std::istream& in, std::string& bytes);
 
 /// Puts all bytes of a file, or of a pipe, behind `bytes`. Gives what kept it from that, in a few
 /// words; nothing where it is done.
