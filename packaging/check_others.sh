@@ -1,5 +1,7 @@
 # SPDX-License-Identifier: MIT
 #
+# shellcheck shell=bash disable=SC2154
+#
 # The part of packaging/check.sh about what is neither the Debian package nor the archive for this
 # system. What `make packages` has left out is not checked, and said to be.
 
