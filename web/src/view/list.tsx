@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+//
+// A list of any length, of which only what is in sight is in the page. Its rows come in blocks from
+// elsewhere. To a screen reader it is a list box.
+import type { ComponentChildren } from "preact";
+import { useEffect, useRef, useState } from "preact/hooks";
+
+import { useRowHeight, useVirtualizer } from "./virtual.ts";
+
+const BLOCK = 100;
+
+interface Props<Row> {
+  readonly label: string;
+  readonly count: number;
+  /** Another value for another list. */
+  readonly version: unknown;
+  readonly load: (first: number, count: number) => Promise<Row[]>;
+  readonly draw: (row: Row) => ComponentChildren;
+  readonly open: (index: number) => void;
+  readonly opened: number | null;
+  readonly lines?: number;
+}
+
+export function List<Row>(props: Props<Row>) {
+  const { label, count, version, load, draw, open, opened, lines = 3.25 } = props;
+  const box = useRef<HTMLDivElement>(null);
+  const height = useRowHeight(lines);
+  const virtualizer = useVirtualizer(box, count, height);
+  const [active, setActive] = useState(0);
+  const [rows, setRows] = useState<ReadonlyMap<number, Row[]>>(new Map());
+  const loading = useRef({ version, blocks: new Set<number>() });
+
+  // Another list begins at its top, with no rows yet; those of the one before stay in sight until
+  // then, so that nothing flickers while a person types.
+  if (loading.current.version !== version) {
+    loading.current = { version, blocks: new Set() };
+    setActive(0);
+  }
+  useEffect(() => {
+    box.current?.scrollTo({ top: 0 });
+  }, [version]);
+
+  const items = virtualizer.getVirtualItems();
+  const current = loading.current;
+  useEffect(() => {
+    const first = Math.floor((items[0]?.index ?? 0) / BLOCK);
+    const last = Math.floor((items.at(-1)?.index ?? 0) / BLOCK);
+    for (let block = first; block <= last && block * BLOCK < count; ++block) {
+      if (current.blocks.has(block)) continue;
+      const isFirst = current.blocks.size === 0;
+      current.blocks.add(block);
+      void load(block * BLOCK, BLOCK).then((loaded) => {
+        if (loading.current !== current) return;
+        setRows((before) => new Map(isFirst ? [] : before).set(block, loaded));
+      });
+    }
+  });
+
+  const move = (to: number): void => {
+    const index = Math.max(0, Math.min(count - 1, to));
+    setActive(index);
+    virtualizer.scrollToIndex(index);
+  };
+  const page = Math.max(1, Math.floor((box.current?.clientHeight ?? 0) / height) - 1);
+  const keys: { readonly [key: string]: () => void } = {
+    ArrowDown: () => move(active + 1),
+    ArrowUp: () => move(active - 1),
+    PageDown: () => move(active + page),
+    PageUp: () => move(active - page),
+    Home: () => move(0),
+    End: () => move(count - 1),
+    Enter: () => open(active),
+    " ": () => open(active),
+  };
+  const id = (index: number): string => `${label}-${index}`.replace(/\W+/g, "-");
+  const isThere = items.some(({ index }) => index === active);
+
+  return (
+    <div
+      ref={box}
+      class="list"
+      role="listbox"
+      tabIndex={0}
+      aria-label={label}
+      aria-activedescendant={isThere && count > 0 ? id(active) : undefined}
+      onKeyDown={(event) => {
+        const work = keys[event.key];
+        if (work === undefined || count === 0) return;
+        event.preventDefault();
+        work();
+      }}
+    >
+      <div role="presentation" style={{ height: virtualizer.getTotalSize(), position: "relative" }}>
+        {items.map(({ index, start }) => {
+          const row = rows.get(Math.floor(index / BLOCK))?.[index % BLOCK];
+          return (
+            <div
+              key={index}
+              id={id(index)}
+              role="option"
+              class={`row${index === active ? " active" : ""}`}
+              aria-selected={index === opened}
+              aria-setsize={count}
+              aria-posinset={index + 1}
+              style={{ height, transform: `translateY(${start}px)` }}
+              onClick={() => {
+                setActive(index);
+                open(index);
+              }}
+            >
+              {row === undefined ? <span class="quiet">…</span> : draw(row)}
+            </div>
+          );
+        })}
+      </div>
+    </div>
+  );
+}

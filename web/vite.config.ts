@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+import { fileURLToPath } from "node:url";
+import { defineConfig } from "vitest/config";
+import { viteSingleFile } from "vite-plugin-singlefile";
+
+// The npm package of this repository, as browsers have it: its module stands beside it, in js/dist.
+const alias = { a2l2json: fileURLToPath(new URL("../js/src/web.js", import.meta.url)) };
+
+// Everything goes into the page: styles, the worker, and the module inside the worker.
+export default defineConfig({
+  plugins: [viteSingleFile()],
+  resolve: { alias },
+  oxc: { jsx: { runtime: "automatic", importSource: "preact" } },
+  worker: { format: "iife" },
+  build: { target: "es2022", assetsInlineLimit: 100e6, chunkSizeWarningLimit: 10e3 },
+  test: {
+    projects: [
+      { extends: true, test: { name: "unit", include: ["test/unit/**/*.test.ts"] } },
+      {
+        extends: true,
+        test: {
+          name: "page",
+          include: ["test/page/**/*.test.ts"],
+          testTimeout: 60e3,
+          hookTimeout: 60e3,
+          fileParallelism: false,
+        },
+      },
+    ],
+  },
+});
