@@ -3,12 +3,7 @@
 // What a conversion does, as a curve or a table: raw values on one side, physical ones or texts on
 // the other.
 import { ticks } from "d3-array";
-import type {
-  COMPU_METHOD,
-  COMPU_TAB,
-  COMPU_VTAB,
-  COMPU_VTAB_RANGE,
-} from "a2l2json";
+import type { COMPU_METHOD, COMPU_TAB, COMPU_VTAB, COMPU_VTAB_RANGE } from "a2l2json";
 import { compileFormula } from "./formula.ts";
 
 export interface Point {
@@ -67,7 +62,9 @@ export function drawable(limits: Limits | null): Limits {
 }
 
 const term = (factor: number, sign: string): string =>
-  factor === 0 ? "" : `${factor < 0 ? " − " : " + "}${Math.abs(factor) === 1 && sign !== "" ? "" : Math.abs(factor)}${Math.abs(factor) === 1 || sign === "" ? "" : " · "}${sign}`;
+  factor === 0
+    ? ""
+    : `${factor < 0 ? " − " : " + "}${Math.abs(factor) === 1 && sign !== "" ? "" : Math.abs(factor)}${Math.abs(factor) === 1 || sign === "" ? "" : " · "}${sign}`;
 
 /** A sum as people write it, as in "2 · x − 40". */
 export function sum(terms: readonly (readonly [number, string])[]): string {
@@ -114,8 +111,16 @@ export function physicalOf(method: COMPU_METHOD, raw: number): number[] {
 }
 
 const fraction = (c: readonly number[]): string => {
-  const above = sum([[c[0]!, "x²"], [c[1]!, "x"], [c[2]!, ""]]);
-  const below = sum([[c[3]!, "x²"], [c[4]!, "x"], [c[5]!, ""]]);
+  const above = sum([
+    [c[0]!, "x²"],
+    [c[1]!, "x"],
+    [c[2]!, ""],
+  ]);
+  const below = sum([
+    [c[3]!, "x²"],
+    [c[4]!, "x"],
+    [c[5]!, ""],
+  ]);
   return below === "1" ? `raw = ${above}` : `raw = (${above}) / (${below})`;
 };
 
@@ -151,7 +156,10 @@ function drawMethod(method: COMPU_METHOD, limits: Limits, raws: Limits): Drawing
     case "LINEAR": {
       const [factor, offset] = numbers(method.FCOEFFS_LINEAR);
       if (factor === undefined || offset === undefined) return nothing("The factors are missing.");
-      const rule = `physical = ${sum([[factor, "raw"], [offset, ""]])}`;
+      const rule = `physical = ${sum([
+        [factor, "raw"],
+        [offset, ""],
+      ])}`;
       const curve = steps(limits).map((x) => ({ raw: (x - offset) / factor, physical: x }));
       return drawn(rule, finite(curve));
     }
@@ -214,10 +222,7 @@ export function drawTable(table: Table): Drawing {
           : "Physical values lie on a line between two rows of the table.",
         curve: finite(points).sort((a, b) => a.raw - b.raw),
         isStepped,
-        table: [
-          ...rows(points),
-          ...otherwise(json.FDEFAULT_VALUE_NUMERIC ?? json.FDEFAULT_VALUE),
-        ],
+        table: [...rows(points), ...otherwise(json.FDEFAULT_VALUE_NUMERIC ?? json.FDEFAULT_VALUE)],
       };
     }
     case "COMPU_VTAB":

@@ -84,7 +84,11 @@ function compile(node: Expression): Compiled {
       return (x) => work(argument(x));
     }
     case "BinaryExpression": {
-      const [work, left, right] = [own(OPERATORS, String(node.operator)), part("left"), part("right")];
+      const [work, left, right] = [
+        own(OPERATORS, String(node.operator)),
+        part("left"),
+        part("right"),
+      ];
       if (work === undefined) throw new Unknown();
       return (x) => work(left(x), right(x));
     }

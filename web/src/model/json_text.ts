@@ -31,8 +31,8 @@ export function pretty(json: string): string {
 
 /** Parses, and keeps the numbers that JavaScript cannot hold as strings of their digits. */
 export function parseExact(json: string): Json {
-  const kept = json.replace(/"(?:[^"\\]|\\.)*"|-?\d{16,}(?![\d.eE])/g, (token) =>
-    token[0] === '"' || Number.isSafeInteger(Number(token)) ? token : `"${token}"`,
+  const kept = json.replace(/"(?:[^"\\]|\\.)*"|-?\d[\d.eE+-]*/g, (token) =>
+    /^-?\d{16,}$/.test(token) && !Number.isSafeInteger(Number(token)) ? `"${token}"` : token,
   );
   return JSON.parse(kept) as Json;
 }

@@ -25,7 +25,12 @@ export interface Kind {
   readonly references?: readonly Reference[];
 }
 
-const to = (path: string, role: string, kinds: readonly string[], form: Form = "name"): Reference => ({
+const to = (
+  path: string,
+  role: string,
+  kinds: readonly string[],
+  form: Form = "name",
+): Reference => ({
   path,
   form,
   to: kinds,

@@ -31,7 +31,10 @@ export class Search {
 
   /** All words of the query must be in an object. `kind` null stands for all kinds. */
   find(query: string, kind: number | null): Found {
-    const words = query.toLowerCase().split(/\s+/).filter((word) => word !== "");
+    const words = query
+      .toLowerCase()
+      .split(/\s+/)
+      .filter((word) => word !== "");
     const counts = KINDS.map(() => 0);
     const ranked: number[][] = Array.from({ length: RANKS }, () => []);
     const { kinds, size } = this.#document;

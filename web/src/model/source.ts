@@ -111,7 +111,10 @@ export class Places {
       } else if (beganIn > 0) {
         const isNamed = KIND_NUMBER.has(keyword!) && open.length >= 2;
         const name = !isNamed ? "" : isUnnamed(keyword!) ? keyword! : word(text, begin, end);
-        open.push({ keyword: keyword!, entry: isNamed ? this.#enter(keyword!, name, beganIn) : -1 });
+        open.push({
+          keyword: keyword!,
+          entry: isNamed ? this.#enter(keyword!, name, beganIn) : -1,
+        });
         beganIn = 0;
         keyword = null;
       }
@@ -122,7 +125,7 @@ export class Places {
       keyword = null;
     };
 
-    for (let at = 0; at < size; ) {
+    for (let at = 0; at < size;) {
       const c = text[at]!;
       if (c === LINE_FEED) {
         ++line;

@@ -36,9 +36,7 @@ export function ComparisonView({ comparison, name }: Props) {
   };
   return (
     <article class="whole" aria-labelledby="title">
-      <Title>
-        Comparison
-      </Title>
+      <Title>Comparison</Title>
       {comparison.trouble !== null ? (
         <p class="trouble" role="alert">
           {comparison.trouble.sentence}

@@ -67,7 +67,13 @@ function Curve({ curve, isStepped, unit }: Shown) {
       <text x={(LEFT + WIDTH - RIGHT) / 2} y={HEIGHT - 6} text-anchor="middle" class="axis">
         raw
       </text>
-      <text x={14} y={HEIGHT / 2} text-anchor="middle" class="axis" transform={`rotate(-90 14 ${HEIGHT / 2})`}>
+      <text
+        x={14}
+        y={HEIGHT / 2}
+        text-anchor="middle"
+        class="axis"
+        transform={`rotate(-90 14 ${HEIGHT / 2})`}
+      >
         physical{unit === "" ? "" : ` [${unit}]`}
       </text>
       <path class="line" d={path(curve, isStepped, x, y)} />

@@ -21,37 +21,48 @@ interface Props<Row> {
   readonly lines?: number;
 }
 
+/** What is in sight: rows, and what belongs to them. */
+interface Shown<Row> extends Pick<Props<Row>, "version" | "count" | "load" | "open"> {
+  readonly rows: ReadonlyMap<number, Row[]>;
+}
+
 export function List<Row>(props: Props<Row>) {
-  const { label, count, version, load, draw, open, opened, lines = 3.25 } = props;
+  const { label, version, draw, opened, lines = 3.25 } = props;
   const box = useRef<HTMLDivElement>(null);
   const height = useRowHeight(lines);
-  const virtualizer = useVirtualizer(box, count, height);
   const [active, setActive] = useState(0);
-  const [rows, setRows] = useState<ReadonlyMap<number, Row[]>>(new Map());
-  const loading = useRef({ version, blocks: new Set<number>() });
+  const [shown, setShown] = useState<Shown<Row>>({ ...props, count: 0, rows: new Map() });
+  const { count, rows, open, load } = shown;
+  const virtualizer = useVirtualizer(box, count, height);
+  const asked = useRef(new Set<number>());
 
-  // Another list begins at its top, with no rows yet; those of the one before stay in sight until
-  // then, so that nothing flickers while a person types.
-  if (loading.current.version !== version) {
-    loading.current = { version, blocks: new Set() };
-    setActive(0);
-  }
+  // Another list takes the place of the one before when its first rows are there: nothing flickers
+  // while a person types, and no row stands for another.
   useEffect(() => {
-    box.current?.scrollTo({ top: 0 });
+    let isWanted = true;
+    void props.load(0, BLOCK).then((first) => {
+      if (!isWanted) return;
+      asked.current = new Set([0]);
+      setShown({ ...props, rows: new Map([[0, first]]) });
+      setActive(0);
+      box.current?.scrollTo({ top: 0 });
+    });
+    return () => void (isWanted = false);
   }, [version]);
 
   const items = virtualizer.getVirtualItems();
-  const current = loading.current;
   useEffect(() => {
     const first = Math.floor((items[0]?.index ?? 0) / BLOCK);
     const last = Math.floor((items.at(-1)?.index ?? 0) / BLOCK);
     for (let block = first; block <= last && block * BLOCK < count; ++block) {
-      if (current.blocks.has(block)) continue;
-      const isFirst = current.blocks.size === 0;
-      current.blocks.add(block);
+      if (asked.current.has(block)) continue;
+      asked.current.add(block);
       void load(block * BLOCK, BLOCK).then((loaded) => {
-        if (loading.current !== current) return;
-        setRows((before) => new Map(isFirst ? [] : before).set(block, loaded));
+        setShown((before) =>
+          before.version === shown.version
+            ? { ...before, rows: new Map(before.rows).set(block, loaded) }
+            : before,
+        );
       });
     }
   });
@@ -99,7 +110,7 @@ export function List<Row>(props: Props<Row>) {
               id={id(index)}
               role="option"
               class={`row${index === active ? " active" : ""}`}
-              aria-selected={index === opened}
+              aria-selected={index === opened && shown.version === version}
               aria-setsize={count}
               aria-posinset={index + 1}
               style={{ height, transform: `translateY(${start}px)` }}

@@ -65,7 +65,9 @@ function Source({ first, last }: { readonly first: number; readonly last: number
           </div>
         ))}
       </div>
-      {last - first + 1 > count && <p class="quiet">and {grouped(last - first + 1 - count)} more</p>}
+      {last - first + 1 > count && (
+        <p class="quiet">and {grouped(last - first + 1 - count)} more</p>
+      )}
     </>
   );
 }
@@ -101,12 +103,30 @@ export function ObjectView({ object }: { readonly object: number }) {
 
   const { row, values, json, place, to, from, shown, unit, module } = detail;
   const isFolder = row.kind === "GROUP" || row.kind === "FUNCTION";
+  const isConversion = row.kind.startsWith("COMPU_");
+  const conversion = shown !== null &&
+    (shown.curve.length > 0 || shown.table.length > 0 || shown.rule !== "") && (
+      <section key="conversion" aria-labelledby="conversion">
+        <h3 id="conversion">Conversion</h3>
+        <ConversionView shown={shown} />
+      </section>
+    );
+  const valueList = (
+    <section key="values" aria-labelledby="values">
+      <h3 id="values">Values</h3>
+      {values !== null && typeof values === "object" && !Array.isArray(values) ? (
+        <Values value={values} unit={unit} linkOf={linkIn(detail)} />
+      ) : (
+        <pre tabIndex={0} aria-labelledby="values">
+          {String(values)}
+        </pre>
+      )}
+    </section>
+  );
   return (
     <article key={detail.row.object} aria-labelledby="title">
       <p class="kind">{row.kind}</p>
-      <Title>
-        {row.name || row.kind}
-      </Title>
+      <Title>{row.name || row.kind}</Title>
       {row.text !== "" && <p class="text">{row.text}</p>}
       <p class="quiet">
         in module {module}
@@ -114,12 +134,7 @@ export function ObjectView({ object }: { readonly object: number }) {
         {unit !== "" && <> · unit {unit}</>}
       </p>
 
-      {shown !== null && (shown.curve.length > 0 || shown.table.length > 0 || shown.rule !== "") && (
-        <section aria-labelledby="conversion">
-          <h3 id="conversion">Conversion</h3>
-          <ConversionView shown={shown} />
-        </section>
-      )}
+      {isConversion ? [conversion, valueList] : isFolder ? null : [valueList, conversion]}
 
       {isFolder ? (
         <section aria-labelledby="tree">
@@ -155,16 +170,7 @@ export function ObjectView({ object }: { readonly object: number }) {
         ))}
       </section>
 
-      <section aria-labelledby="values">
-        <h3 id="values">Values</h3>
-        {values !== null && typeof values === "object" && !Array.isArray(values) ? (
-          <Values value={values} unit={unit} linkOf={linkIn(detail)} />
-        ) : (
-          <pre tabIndex={0} aria-labelledby="values">
-            {String(values)}
-          </pre>
-        )}
-      </section>
+      {isFolder && valueList}
 
       <section aria-labelledby="source">
         <h3 id="source">Source</h3>

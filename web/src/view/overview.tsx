@@ -105,9 +105,7 @@ export function Overview(props: {
   const isMended = lines.mended > 0;
   return (
     <article aria-labelledby="title">
-      <Title>
-        {head?.project || summary.name}
-      </Title>
+      <Title>{head?.project || summary.name}</Title>
       {trouble !== null && (
         <p class="trouble" role="alert">
           {trouble.sentence}
@@ -136,26 +134,6 @@ export function Overview(props: {
               ["Read in", `${summary.seconds.toFixed(1)} s`],
             ]}
           />
-          <section aria-labelledby="kinds">
-            <h3 id="kinds">Objects by kind</h3>
-            <ul class="kinds">
-              {KINDS.map(
-                ({ name }, kind) =>
-                  counts[kind]! > 0 && (
-                    <li key={name}>
-                      <button type="button" onClick={() => showKind(kind)}>
-                        <span>{name}</span> <b>{grouped(counts[kind]!)}</b>
-                      </button>
-                    </li>
-                  ),
-              )}
-            </ul>
-          </section>
-          <section aria-labelledby="trees">
-            <h3 id="trees">Groups and functions</h3>
-            <Roots key={`g${summary.seconds}`} kind="GROUP" title="Tree of groups" />
-            <Roots key={`f${summary.seconds}`} kind="FUNCTION" title="Tree of functions" />
-          </section>
         </>
       )}
       <section aria-labelledby="messages">
@@ -193,6 +171,30 @@ export function Overview(props: {
           </>
         )}
       </section>
+      {head !== null && (
+        <>
+          <section aria-labelledby="kinds">
+            <h3 id="kinds">Objects by kind</h3>
+            <ul class="kinds">
+              {KINDS.map(
+                ({ name }, kind) =>
+                  counts[kind]! > 0 && (
+                    <li key={name}>
+                      <button type="button" onClick={() => showKind(kind)}>
+                        <span>{name}</span> <b>{grouped(counts[kind]!)}</b>
+                      </button>
+                    </li>
+                  ),
+              )}
+            </ul>
+          </section>
+          <section aria-labelledby="trees">
+            <h3 id="trees">Groups and functions</h3>
+            <Roots key={`g${summary.seconds}`} kind="GROUP" title="Tree of groups" />
+            <Roots key={`f${summary.seconds}`} kind="FUNCTION" title="Tree of functions" />
+          </section>
+        </>
+      )}
     </article>
   );
 }

@@ -42,9 +42,7 @@ export function TextView({ text, count, line }: Props) {
   const title = text === "source" ? "Source" : "Mended text";
   return (
     <article class="whole" aria-labelledby="title">
-      <Title>
-        {title}
-      </Title>
+      <Title>{title}</Title>
       <p class="quiet">
         Line {grouped(line)} of {grouped(count)}
       </p>

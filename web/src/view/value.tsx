@@ -11,13 +11,7 @@ export const isAbsent = (value: Json): boolean =>
   value === null || value === false || value === "" || (Array.isArray(value) && value.length === 0);
 
 // Physical values have the unit of the object.
-const WITH_UNIT = new Set([
-  "FLOWER_LIMIT",
-  "FUPPER_LIMIT",
-  "FSTEP_SIZE",
-  "FMAX_DIFF",
-  "FMAX_GRAD",
-]);
+const WITH_UNIT = new Set(["FLOWER_LIMIT", "FUPPER_LIMIT", "FSTEP_SIZE", "FMAX_DIFF", "FMAX_GRAD"]);
 const BITS = new Set(["FBIT_MASK", "FERROR_MASK"]);
 const MOST_ITEMS = 500;
 

@@ -8,9 +8,16 @@ import {
   type COMPU_METHOD,
   type Diagnostic,
   type Finding,
+  type MEASUREMENT,
 } from "a2l2json";
 
-import { compare, differences, type Change, type Difference, type State } from "../model/compare.ts";
+import {
+  compare,
+  differences,
+  type Change,
+  type Difference,
+  type State,
+} from "../model/compare.ts";
 import { draw, drawTable, type Limits, type Shown, type Table } from "../model/conversion.ts";
 import { csv } from "../model/csv.ts";
 import { Document, namesOf, type Head } from "../model/document.ts";
@@ -331,13 +338,9 @@ export class Session {
     const document = this.#document();
     const kind = KINDS[document.kindOf(object)]!.name;
     const json = document.jsonOf(object);
-    if (kind === "COMPU_METHOD") {
-      const user = this.#user(object, "conversion");
-      return this.#drawMethod(json as never, object, user === null ? null : document.jsonOf(user));
-    }
+    if (kind === "COMPU_METHOD") return this.#drawMethod(json as never, object, this.#users(object));
     if (kind === "COMPU_TAB" || kind === "COMPU_VTAB" || kind === "COMPU_VTAB_RANGE") {
-      const user = this.#user(object, "table");
-      const method = user === null ? null : (document.jsonOf(user) as { FUNIT?: string } | null);
+      const [method] = this.#users(object) as { FUNIT?: string }[];
       return { ...drawTable({ kind, json } as never), unit: method?.FUNIT ?? "" };
     }
     const name = (json as { FCONVERSION?: unknown } | null)?.FCONVERSION;
@@ -345,28 +348,30 @@ export class Session {
     const method = document.find(name, ["COMPU_METHOD"], document.moduleOf(object));
     return method === null
       ? null
-      : this.#drawMethod(document.jsonOf(method) as never, method, json);
+      : this.#drawMethod(document.jsonOf(method) as never, method, [json]);
   }
 
-  #user(object: number, role: string): number | null {
-    let user: number | null = null;
-    this.#document().forEachReferrer(object, (from, reference) => {
-      if (reference.role === role) user ??= from;
+  // Some of the objects that refer to this one: all of them could be very many.
+  #users(object: number): Json[] {
+    const users: number[] = [];
+    this.#document().forEachReferrer(object, (from) => {
+      if (users.length < LINKS) users.push(from);
     });
-    return user;
+    return users.map((user) => this.#document().jsonOf(user));
   }
 
-  #drawMethod(method: COMPU_METHOD, number: number, user: Json): Shown {
+  // Between the widest limits of those that use it.
+  #drawMethod(method: COMPU_METHOD, number: number, users: readonly Json[]): Shown {
     const document = this.#document();
-    const { FLOWER_LIMIT, FUPPER_LIMIT, FDATATYPE } = (user ?? {}) as {
-      FLOWER_LIMIT?: number;
-      FUPPER_LIMIT?: number;
-      FDATATYPE?: string;
+    const fields = users.map((user) => (user ?? {}) as Partial<MEASUREMENT>);
+    const type = fields.find(({ FDATATYPE }) => FDATATYPE !== undefined)?.FDATATYPE;
+    const limits = fields.flatMap(({ FLOWER_LIMIT: lower, FUPPER_LIMIT: upper }): Limits[] =>
+      lower == null || upper == null ? [] : [{ lower, upper }],
+    );
+    const widest: Limits = {
+      lower: Math.min(...limits.map(({ lower }) => lower)),
+      upper: Math.max(...limits.map(({ upper }) => upper)),
     };
-    const limits: Limits | null =
-      FLOWER_LIMIT == null || FUPPER_LIMIT == null
-        ? null
-        : { lower: FLOWER_LIMIT, upper: FUPPER_LIMIT };
     const kinds = ["COMPU_TAB", "COMPU_VTAB", "COMPU_VTAB_RANGE"];
     const found =
       method.FCOMPU_TAB_REF === null
@@ -375,8 +380,11 @@ export class Session {
     const table =
       found === null
         ? null
-        : ({ kind: KINDS[document.kindOf(found)]!.name, json: document.jsonOf(found) } as unknown as Table);
-    return draw(method, table, limits, FDATATYPE);
+        : ({
+            kind: KINDS[document.kindOf(found)]!.name,
+            json: document.jsonOf(found),
+          } as unknown as Table);
+    return draw(method, table, widest, type);
   }
 
   // ----------------------------------------------------------------------------------------------
@@ -410,7 +418,10 @@ export class Session {
 
   /** Numbers of the changes in these states whose name or kind has all words of the query. */
   changes(states: readonly State[], query: string): Uint32Array {
-    const words = query.toLowerCase().split(/\s+/).filter((word) => word !== "");
+    const words = query
+      .toLowerCase()
+      .split(/\s+/)
+      .filter((word) => word !== "");
     const fits = (change: Change): boolean => {
       if (!states.includes(change.state)) return false;
       if (words.length === 0) return true;
@@ -441,8 +452,7 @@ export class Session {
       ...this.#changeRow(change),
       before,
       after,
-      differences:
-        before === undefined || after === undefined ? [] : differences(before, after),
+      differences: before === undefined || after === undefined ? [] : differences(before, after),
       object: change.after,
     };
   }

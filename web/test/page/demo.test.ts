@@ -1,0 +1,268 @@
+// SPDX-License-Identifier: MIT
+import { readFileSync, truncateSync } from "node:fs";
+import path from "node:path";
+import { gzipSync } from "node:zlib";
+import { describe, expect, test } from "vitest";
+
+import {
+  barriers,
+  demo,
+  executable,
+  file,
+  newPage,
+  open,
+  openObject,
+  opened,
+  saved,
+  search,
+  top,
+  useBrowser,
+} from "./browser.ts";
+
+describe.skipIf(executable === undefined)("the page", () => {
+  useBrowser();
+
+  test("shows at once what is in a file", async () => {
+    const page = await opened(demo);
+    const text = await page.locator(".detail").innerText();
+    for (const part of ["Demo", "Idle speed control of a demonstration engine", "R2.1", "1.71"]) {
+      expect(text).toContain(part);
+    }
+    expect(await page.getByRole("button", { name: "COMPU_METHOD 2" }).count()).toBe(1);
+    expect(await page.title()).toBe("demo.a2l – a2l2json");
+  });
+
+  test("shows messages and findings with their lines, and the lines themselves", async () => {
+    const text = [
+      "/begin PROJECT P \"\"",
+      "/begin MODULE M \"\"",
+      "  COLOUR red",
+      "  /begin MEASUREMENT A \"\" UBYTE NO_COMPU_METHOD 0 0 0 255 ECU_ADDRESS 0x10 FORMAT \"%3.1\" /end MEASUREMENT",
+      "/end MODULE",
+      "/end PROJECT",
+      "",
+    ].join("\n");
+    const page = await opened(file("findings.a2l", text));
+    const findings = page.getByRole("listbox", { name: "Findings" });
+    const first = findings.getByRole("option").first();
+    expect(await first.innerText()).toMatch(/line [34]\b/);
+    await first.click();
+    await page.locator(".marked", { hasText: /COLOUR|ECU_ADDRESS/ }).waitFor();
+    await page.goBack();
+    await page.getByRole("listbox", { name: "Findings" }).waitFor();
+  });
+
+  test("finds objects by name, description and address while one types", async () => {
+    const page = await opened(demo);
+    await search(page, "", "32 objects");
+    await search(page, "idlespeed", "2 objects");
+    await search(page, "crankshaft", "1 object");
+    await search(page, "0x80001300", "1 object");
+    await page.locator(".objects .row b", { hasText: "TemperatureAxis" }).waitFor();
+    expect(await page.locator(".objects .row").count()).toBe(1);
+    await search(page, "nothing of that", "0 objects");
+  });
+
+  test("shows the objects of one kind", async () => {
+    const page = await opened(demo);
+    await page.getByRole("button", { name: "COMPU_METHOD 2" }).click();
+    await page.locator(".count [role=status]", { hasText: "2 objects" }).waitFor();
+    await page.locator(".objects .row").nth(1).waitFor();
+    expect(await page.locator(".objects .row b").allInnerTexts()).toEqual([
+      "CM_Speed",
+      "CM_Temperature",
+    ]);
+  });
+
+  test("opens an object: values with units, references as links, source and JSON", async () => {
+    const page = await opened(demo);
+    await openObject(page, "IdleSpeed", "CHARACTERISTIC");
+    const detail = page.locator(".detail");
+    expect(await detail.innerText()).toContain("500 1/min");
+    expect(await page.getByRole("region", { name: "Lines of the source" }).innerText()).toContain(
+      "AXIS_PTS_REF TemperatureAxis",
+    );
+    await page.getByText("Show the JSON as it is").click();
+    const json = await page.locator("pre[aria-label=JSON]").innerText();
+    const { FModules } = JSON.parse(readFileSync(path.join(top, "examples/demo.json"), "utf8"));
+    expect(JSON.parse(json)).toEqual(FModules[0].FCHARACTERISTIC[0]);
+
+    // Along the references, and back.
+    await detail.getByRole("link", { name: "TemperatureAxis" }).first().click();
+    await page.locator("#title", { hasText: "TemperatureAxis" }).waitFor();
+    expect(await page.locator("#title").evaluate((e) => e === document.activeElement)).toBe(true);
+    const from = page.getByRole("region", { name: "Referred to by" });
+    expect(await from.innerText()).toContain("IdleSpeed");
+    await page.goBack();
+    await page.locator("#title", { hasText: "IdleSpeed" }).waitFor();
+    await detail.getByRole("link", { name: "IdleControl" }).click();
+    await page.locator("#title", { hasText: "IdleControl" }).waitFor();
+  });
+
+  test("shows conversions as a curve or a table", async () => {
+    const page = await opened(demo);
+    await openObject(page, "CM_Speed");
+    expect(await page.getByRole("img", { name: /^Curve from raw/ }).getAttribute("aria-label")).toBe(
+      // of EngineSpeed, 0 to 8000: raw = 4 x
+      "Curve from raw 0 to 32000, physical 0 to 8000 1/min",
+    );
+    await openObject(page, "CV_Gear");
+    const table = page.getByRole("region", { name: "Table of the conversion" });
+    expect(await table.locator("tbody tr").allInnerTexts()).toEqual([
+      "0\tneutral",
+      "1\tdrive",
+      "otherwise\tunknown",
+    ]);
+  });
+
+  test("shows groups and functions as trees", async () => {
+    const page = await opened(demo);
+    await page.getByText("Tree of groups").click();
+    await page.locator("summary", { hasText: "Idle control" }).click();
+    await page.getByRole("link", { name: "TemperatureAxis" }).click();
+    await page.locator("#title", { hasText: "TemperatureAxis" }).waitFor();
+  });
+
+  test("compares two files", async () => {
+    const text = readFileSync(demo, "utf8");
+    const later = text
+      .replace("UWORD CM_Speed 1 0.5 0 8000", "UWORD CM_Speed 1 0.5 0 9000")
+      .replace("MEASUREMENT EngineSpeed", "MEASUREMENT  EngineSpeed")
+      .replace("/begin COMPU_VTAB CV_Gear", "/begin COMPU_VTAB CV_Gears");
+    expect(later).not.toBe(text);
+    const page = await opened(file("later.a2l", later));
+    await page.locator("input[type=file]").nth(1).setInputFiles(demo);
+    const list = page.getByRole("listbox", { name: "Differences" });
+    await list.getByRole("option").nth(2).waitFor();
+    const rows = (await list.getByRole("option").allInnerTexts()).map((row) => row.split("\n"));
+    expect(rows.map(([state, name]) => `${state} ${name}`)).toEqual([
+      "came CV_Gears",
+      "changed EngineSpeed",
+      "went CV_Gear",
+    ]);
+    await list.getByText("EngineSpeed").click();
+    const table = page.getByRole("region", { name: "What changed" });
+    expect(await table.locator("tbody tr").allInnerTexts()).toEqual(["UPPER_LIMIT\t8000\t9000"]);
+    expect(await barriers(page)).toEqual([]);
+  });
+
+  test("saves the JSON of the program, the mended text, and lists", async () => {
+    const page = await opened(demo);
+    const choose = (name: string) => async (): Promise<void> => {
+      await page.locator("summary", { hasText: "Save" }).click();
+      await page.getByRole("button", { name }).click();
+    };
+    const [jsonName, json] = await saved(page, choose("JSON, as the program writes it"));
+    expect(jsonName).toBe("demo.json");
+    expect(json.equals(readFileSync(path.join(top, "examples/demo.json")))).toBe(true);
+
+    const [mendedName, mended] = await saved(page, choose("Mended A2L"));
+    expect(mendedName).toBe("demo.mended.a2l");
+    const [, mendedJson] = await saved(page, choose("JSON of the mended text"));
+    const other = await opened(file("mended.a2l", mended));
+    const [, again] = await saved(other, async () => {
+      await other.locator("summary", { hasText: "Save" }).click();
+      await other.getByRole("button", { name: "JSON, as the program writes it" }).click();
+    });
+    expect(again.equals(mendedJson)).toBe(true);
+
+    await search(page, "temperatureaxis", "1 object");
+    const [csvName, csv] = await saved(page, () =>
+      page.getByRole("button", { name: "Save list as CSV" }).click(),
+    );
+    expect(csvName).toBe("demo.csv");
+    expect(csv.toString()).toBe(
+      "\uFEFFKind,Name,Description,Address,Module\r\n" +
+        "AXIS_PTS,TemperatureAxis,Coolant temperature,0x80001300,Engine\r\n",
+    );
+  });
+
+  test("takes a file that is dropped", async () => {
+    const page = await newPage();
+    const data = await page.evaluateHandle((text) => {
+      const transfer = new DataTransfer();
+      transfer.items.add(new File([text], "dropped.a2l"));
+      return transfer;
+    }, readFileSync(demo, "utf8"));
+    await page.dispatchEvent("body", "drop", { dataTransfer: data });
+    await page.locator("#title", { hasText: "Demo" }).waitFor();
+  });
+
+  test("can be used with the keyboard alone", async () => {
+    const page = await opened(demo);
+    await page.getByLabel("Search names").focus();
+    await page.keyboard.type("cm_");
+    await page.locator(".count [role=status]", { hasText: "2 objects" }).waitFor();
+    await page.keyboard.press("ArrowDown"); // into the list
+    await page.keyboard.press("ArrowDown");
+    const active = page.locator("#Found-objects-1");
+    expect(await page.locator(".objects .list").getAttribute("aria-activedescendant")).toBe(
+      await active.getAttribute("id"),
+    );
+    await page.keyboard.press("Enter");
+    await page.locator("#title", { hasText: "CM_Temperature" }).waitFor();
+    expect(await active.getAttribute("aria-selected")).toBe("true");
+    await page.keyboard.press("Home");
+    await page.keyboard.press("Enter");
+    await page.locator("#title", { hasText: "CM_Speed" }).waitFor();
+  });
+
+  test("says in a sentence why a file cannot be shown", async () => {
+    const page = await newPage();
+    const says = async (at: string, sentence: string): Promise<void> => {
+      await open(page, at);
+      await page.locator(".trouble", { hasText: sentence }).waitFor();
+    };
+    await says(file("empty.a2l", ""), "empty.a2l is no A2L file. It is empty.");
+    await says(
+      file("packed.a2l", gzipSync(readFileSync(demo))),
+      "packed.a2l is no A2L file. It is compressed (gzip): decompress it first.",
+    );
+    await says(file("letter.txt", "Dear reader,\n"), "letter.txt is no A2L file.");
+    const large = file("large.a2l", "");
+    truncateSync(large, 2.2e9);
+    await says(large, "The input has 2.2 GB, and at most 2.1 GB can be converted here");
+    await says(
+      file("wrong.a2l", '/begin PROJECT P ""\n/begin MODULE M ""\nUNIT_CONVERSION 1 2\n'),
+      "wrong.a2l, line 3: unexpected property of element UNIT_CONVERSION",
+    );
+    expect(await barriers(page)).toEqual([]);
+    await open(page, demo); // and goes on
+    await page.locator("#title", { hasText: "Demo" }).waitFor();
+  });
+
+  for (const colorScheme of ["light", "dark"] as const) {
+    test(`has no barriers that axe finds, ${colorScheme}`, async () => {
+      const page = await newPage({ colorScheme });
+      expect(await barriers(page)).toEqual([]);
+      await open(page, demo);
+      expect(await barriers(page)).toEqual([]);
+      await page.locator("summary", { hasText: "Save" }).click();
+      expect(await barriers(page)).toEqual([]);
+      await page.locator("summary", { hasText: "Save" }).click();
+      for (const name of ["EngineSpeed", "CT_Sensor", "Idle", "RL_Axis"]) {
+        await openObject(page, name);
+        expect(await barriers(page), name).toEqual([]);
+      }
+      await page.getByRole("link", { name: "Source" }).click();
+      await page.locator(".marked", { hasText: "An engine control unit" }).waitFor();
+      expect(await barriers(page)).toEqual([]);
+    });
+  }
+
+  test("fits a narrow window, and a wide one at 200 %, without scrolling sideways", async () => {
+    for (const viewport of [
+      { width: 360, height: 740 },
+      { width: 640, height: 400 }, // what a window of 1280 by 800 has at 200 %
+    ]) {
+      const page = await opened(demo, { viewport });
+      const overflow = () =>
+        page.evaluate(() => document.documentElement.scrollWidth - window.innerWidth);
+      expect(await overflow()).toBeLessThanOrEqual(0);
+      await openObject(page, "IdleSpeed", "CHARACTERISTIC");
+      expect(await overflow()).toBeLessThanOrEqual(0);
+      await page.getByRole("link", { name: "Overview" }).click();
+      await page.getByLabel("Search names").waitFor();
+    }
+  });
+});
