@@ -6,6 +6,8 @@ import { viteSingleFile } from "vite-plugin-singlefile";
 // The npm package of this repository, as browsers have it: its module stands beside it, in js/dist.
 const alias = { a2l2json: fileURLToPath(new URL("../js/src/web.js", import.meta.url)) };
 
+const browser = { testTimeout: 60e3, hookTimeout: 60e3, fileParallelism: false };
+
 // Everything goes into the page: styles, the worker, and the module inside the worker.
 export default defineConfig({
   plugins: [viteSingleFile()],
@@ -16,16 +18,8 @@ export default defineConfig({
   test: {
     projects: [
       { extends: true, test: { name: "unit", include: ["test/unit/**/*.test.ts"] } },
-      {
-        extends: true,
-        test: {
-          name: "page",
-          include: ["test/page/**/*.test.ts"],
-          testTimeout: 60e3,
-          hookTimeout: 60e3,
-          fileParallelism: false,
-        },
-      },
+      { extends: true, test: { ...browser, name: "page", include: ["test/page/**/*.test.ts"] } },
+      { extends: true, test: { ...browser, name: "slow", include: ["test/slow/**/*.test.ts"] } },
     ],
   },
 });

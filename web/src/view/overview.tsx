@@ -131,7 +131,7 @@ export function Overview(props: {
                   ? "every name is in the file"
                   : `${counted(summary.unfound, "name")} of other objects ${summary.unfound === 1 ? "is" : "are"} not in the file`,
               ],
-              ["Read in", `${summary.seconds.toFixed(1)} s`],
+              ["Read in", `${summary.seconds.toFixed(1)} s by a2l2json ${summary.version}`],
             ]}
           />
         </>
@@ -175,6 +175,7 @@ export function Overview(props: {
         <>
           <section aria-labelledby="kinds">
             <h3 id="kinds">Objects by kind</h3>
+            {total === 0 && <p class="quiet">There are none.</p>}
             <ul class="kinds">
               {KINDS.map(
                 ({ name }, kind) =>
