@@ -4,8 +4,9 @@
 # behind it: the targets with "##" below.
 
 .DEFAULT_GOAL := build
-.PHONY: help deps deps-ci deps-packages deps-windows deps-python deps-js configure build demo test bench install \
-	packages wheels python windows js js-package asan tidy format format-check clean
+.PHONY: help deps deps-ci deps-packages deps-windows deps-python deps-js deps-page configure build demo \
+	test bench install packages wheels python windows js js-package page page-package asan tidy format \
+	format-check clean
 .NOTPARALLEL:
 
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
@@ -84,6 +85,20 @@ js-package: deps-js ## build the npm package, dist/a2l2json-VERSION.tgz
 
 js: js-package ## the same, and test it
 	cd js && npm test
+
+deps-page: deps-js ## install the packages of web/ and a browser to try the page in, too
+	@bash scripts/deps page
+
+page-package: deps-page ## build the page, dist/a2l2json.html
+	cmake --preset wasm
+	cmake --build --preset wasm -j $(JOBS)
+	cd js && node scripts/assemble.js
+	cd web && npm run build
+	mkdir -p dist
+	cp web/dist/index.html dist/a2l2json.html
+
+page: page-package ## the same, and test it
+	cd web && npm test && npm run test:page
 
 asan: deps-ci ## run the tests under AddressSanitizer and UndefinedBehaviorSanitizer
 	cmake --preset asan-ubsan

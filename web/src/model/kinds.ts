@@ -121,8 +121,8 @@ export const KINDS: readonly Kind[] = [
   kind("FUNCTION", {
     references: [
       to("FSUB_FUNCTION", "sub-function", ["FUNCTION"], "joined"),
-      to("FDEF_CHARACTERISTIC", "defines", PARAMETERS, "joined"),
-      to("FREF_CHARACTERISTIC", "uses", PARAMETERS, "joined"),
+      to("FDEF_CHARACTERISTIC", "definition", PARAMETERS, "joined"),
+      to("FREF_CHARACTERISTIC", "use", PARAMETERS, "joined"),
       to("FIN_MEASUREMENT", "input", QUANTITIES, "joined"),
       to("FOUT_MEASUREMENT", "output", QUANTITIES, "joined"),
       to("FLOC_MEASUREMENT", "local", QUANTITIES, "joined"),
@@ -183,7 +183,7 @@ export const KINDS: readonly Kind[] = [
     path: ["FVARIANT_CODING", "FVAR_CHARACTERISTIC"],
     textKey: null,
     references: [
-      to("FNAME", "variant of", PARAMETERS),
+      to("FNAME", "object with variants", PARAMETERS),
       to("FCRITERION_NAME", "criterion", ["VAR_CRITERION"], "joined"),
     ],
   }),

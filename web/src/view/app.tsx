@@ -2,7 +2,7 @@
 import { useCallback, useEffect, useRef, useState } from "preact/hooks";
 
 import { KINDS } from "../model/kinds.ts";
-import type { Comparison, Row, Summary } from "../worker/session.ts";
+import type { Comparison, Progress, Row, Summary } from "../worker/session.ts";
 import { backend, proxy, renamed, save } from "./backend.ts";
 import { ChangeView, ComparisonView } from "./comparison.tsx";
 import { List } from "./list.tsx";
@@ -227,13 +227,14 @@ export function App() {
   const isBusy = useRef(false);
   const isShown = summary !== null && summary.head !== null;
 
-  const work = async (name: string, run: (progress: (step: string) => void) => Promise<void>) => {
+  const work = async (name: string, run: (progress: Progress) => Promise<void>) => {
     if (isBusy.current) return;
     isBusy.current = true;
     setFault(null);
     setBusy(`Opening ${name}`);
     try {
-      await run((step) => setBusy(`${name}: ${step}`));
+      // A step may be told when all is done: it comes by another way than the result.
+      await run((step) => isBusy.current && setBusy(`${name}: ${step}`));
     } catch (error) {
       setFault(error instanceof Error ? error.message : String(error));
     } finally {
@@ -307,6 +308,7 @@ export function App() {
     <div class={isOver ? "page over" : "page"}>
       <header>
         <h1>a2l2json</h1>
+        {summary !== null && <span class="file">{summary.name}</span>}
         {summary !== null && (
           <nav aria-label="Views">
             <a href="#overview" aria-current={route.view === "overview" ? "page" : undefined}>
@@ -315,6 +317,11 @@ export function App() {
             {summary.lines.source > 0 && (
               <a href="#source=1" aria-current={route.view === "source" ? "page" : undefined}>
                 Source
+              </a>
+            )}
+            {summary.lines.mended > 0 && (
+              <a href="#mended=1" aria-current={route.view === "mended" ? "page" : undefined}>
+                Mended text
               </a>
             )}
             {comparison !== null && (

@@ -8,7 +8,7 @@ import type { Point, Shown } from "../model/conversion.ts";
 const WIDTH = 560;
 const HEIGHT = 280;
 const LEFT = 76;
-const RIGHT = 16;
+const RIGHT = 28;
 const TOP = 14;
 const BOTTOM = 44;
 
@@ -90,7 +90,7 @@ export function ConversionView({ shown }: { readonly shown: Shown }) {
   const rows = table.slice(0, 500);
   return (
     <div class="conversion">
-      {rule !== "" && <p class="rule">{rule}</p>}
+      {rule !== "" && <p class={rule.includes(" = ") ? "rule" : undefined}>{rule}</p>}
       {curve.length >= 2 && <Curve {...shown} />}
       {rows.length > 0 && (
         <div class="scroll" tabIndex={0} role="region" aria-label="Table of the conversion">

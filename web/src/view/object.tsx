@@ -23,7 +23,7 @@ function Referrers({ object, group }: { readonly object: number; readonly group:
   return (
     <div>
       <p class="role">
-        <span class="kind">{group.kind}</span> as {group.role}{" "}
+        <span class="kind">{group.kind}</span> {group.role}{" "}
         <span class="quiet">{grouped(group.total)}</span>
       </p>
       <ul class="links">
@@ -115,7 +115,7 @@ export function ObjectView({ object }: { readonly object: number }) {
     <section key="values" aria-labelledby="values">
       <h3 id="values">Values</h3>
       {values !== null && typeof values === "object" && !Array.isArray(values) ? (
-        <Values value={values} unit={unit} linkOf={linkIn(detail)} />
+        <Values value={values} unit={unit} units={detail.units} linkOf={linkIn(detail)} />
       ) : (
         <pre tabIndex={0} aria-labelledby="values">
           {String(values)}

@@ -102,6 +102,8 @@ export function Overview(props: {
     });
   }, [summary]);
   const total = counts.reduce((sum, count) => sum + count, 0);
+  const saved = findings.filter(({ mended }) => mended).length;
+  const lost = findings.length - saved;
   const isMended = lines.mended > 0;
   return (
     <article aria-labelledby="title">
@@ -144,7 +146,7 @@ export function Overview(props: {
           <>
             <p>
               {counted(diagnostics.length, "message")}.{" "}
-              {isMended && "Their lines are those of the mended text. "}
+              {isMended && "Lines are those of the mended text. "}
               Choose one to see its line.
             </p>
             {shown !== null && (
@@ -164,8 +166,10 @@ export function Overview(props: {
         ) : (
           <>
             <p>
-              {counted(findings.length, "finding")}: values that would be lost by the way the file
-              is laid out. Choose one to see its line.
+              {saved > 0 &&
+                `${counted(saved, "value")} ${saved === 1 ? "is" : "are"} mended: the layout of the file would have lost ${saved === 1 ? "it" : "them"}. `}
+              {lost > 0 && `${counted(lost, "value")} ${lost === 1 ? "is" : "are"} lost. `}
+              Choose one to see its line.
             </p>
             {shown !== null && <Messages label="Findings" messages={shown.found} where="source" />}
           </>

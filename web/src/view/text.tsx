@@ -46,7 +46,14 @@ export function TextView({ text, count, line }: Props) {
       <p class="quiet">
         Line {grouped(line)} of {grouped(count)}
       </p>
-      <div ref={box} class="code fill" tabIndex={0} role="region" aria-label={title}>
+      <div
+        ref={box}
+        class="code fill"
+        tabIndex={0}
+        role="region"
+        aria-label={title}
+        style={{ "--digits": String(count).length }}
+      >
         <div style={{ height: virtualizer.getTotalSize(), position: "relative" }}>
           {items.map(({ index, start }) => (
             <div

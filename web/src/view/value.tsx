@@ -18,11 +18,17 @@ const MOST_ITEMS = 500;
 /** The link of a name in a key, or the name as it is. */
 export type LinkOf = (key: string, name: string) => ComponentChildren;
 
-interface Props {
+interface Context {
+  /** The unit of the object around. */
+  readonly unit: string;
+  /** Units by the names of conversions. */
+  readonly units: { readonly [conversion: string]: string };
+  readonly linkOf: LinkOf;
+}
+
+interface Props extends Context {
   readonly name: string;
   readonly value: Json;
-  readonly unit: string;
-  readonly linkOf: LinkOf;
 }
 
 function Leaf({ name, value, unit, linkOf }: Props) {
@@ -51,7 +57,7 @@ function Leaf({ name, value, unit, linkOf }: Props) {
 }
 
 function Value(props: Props) {
-  const { name, value, unit, linkOf } = props;
+  const { name, value, ...context } = props;
   if (Array.isArray(value)) {
     const isFlat = value.every((item) => item === null || typeof item !== "object");
     const shown = value.slice(0, MOST_ITEMS);
@@ -79,19 +85,21 @@ function Value(props: Props) {
     );
   }
   if (value !== null && typeof value === "object") {
-    return <Values value={value} unit={unit} linkOf={linkOf} />;
+    return <Values value={value} {...context} />;
   }
-  return <Leaf name={name} value={value} unit={unit} linkOf={linkOf} />;
+  return <Leaf name={name} value={value} {...context} />;
 }
 
 /** The members of an object that the file has. */
-export function Values(props: {
-  readonly value: { [key: string]: Json };
-  readonly unit: string;
-  readonly linkOf: LinkOf;
-}) {
-  const { value, unit, linkOf } = props;
-  const own = typeof value.FPHYS_UNIT === "string" ? value.FPHYS_UNIT : unit;
+export function Values(props: Context & { readonly value: { [key: string]: Json } }) {
+  const { value, ...context } = props;
+  const conversion = value.FCONVERSION;
+  const own =
+    typeof value.FPHYS_UNIT === "string"
+      ? value.FPHYS_UNIT
+      : typeof conversion === "string"
+        ? (context.units[conversion] ?? "")
+        : context.unit;
   return (
     <dl class="values">
       {Object.entries(value)
@@ -100,7 +108,7 @@ export function Values(props: {
           <div key={key}>
             <dt>{keyword(key)}</dt>
             <dd>
-              <Value name={key} value={member} unit={own} linkOf={linkOf} />
+              <Value name={key} value={member} {...context} unit={own} />
             </dd>
           </div>
         ))}

@@ -86,6 +86,8 @@ export interface Detail {
   readonly from: readonly Links[];
   readonly shown: Shown | null;
   readonly unit: string;
+  /** The units of the conversions that it refers to, by their names. */
+  readonly units: { readonly [conversion: string]: string };
 }
 
 export interface ChangeRow {
@@ -255,16 +257,18 @@ export class Session {
     const row = this.#row(object);
     const shown = this.#shown(object);
     const json = JSON.parse(text) as { FPHYS_UNIT?: string | null; FUNIT?: string };
+    const to = this.to(object);
     return {
       row,
       module: document.head.modules[document.moduleOf(object)]!.name,
       values: parseExact(text),
       json: pretty(text),
       place: this.#places?.find(row.kind, row.name, this.#nth.get(object) ?? 0) ?? null,
-      to: this.to(object),
+      to,
       from: this.#from(object),
       shown,
       unit: json?.FPHYS_UNIT || json?.FUNIT || shown?.unit || "",
+      units: this.#units(to),
     };
   }
 
@@ -284,6 +288,15 @@ export class Session {
       }
     }
     return [...found].map(([role, links]) => ({ role, kind: null, total: links.length, links }));
+  }
+
+  #units(to: readonly Links[]): { [conversion: string]: string } {
+    const units: { [conversion: string]: string } = {};
+    for (const { name, kind, object } of to.flatMap(({ links }) => links)) {
+      if (kind !== "COMPU_METHOD") continue;
+      units[name] = (this.#document().jsonOf(object!) as { FUNIT?: string }).FUNIT ?? "";
+    }
+    return units;
   }
 
   #from(object: number): Links[] {
@@ -338,7 +351,8 @@ export class Session {
     const document = this.#document();
     const kind = KINDS[document.kindOf(object)]!.name;
     const json = document.jsonOf(object);
-    if (kind === "COMPU_METHOD") return this.#drawMethod(json as never, object, this.#users(object));
+    if (kind === "COMPU_METHOD")
+      return this.#drawMethod(json as never, object, this.#users(object));
     if (kind === "COMPU_TAB" || kind === "COMPU_VTAB" || kind === "COMPU_VTAB_RANGE") {
       const [method] = this.#users(object) as { FUNIT?: string }[];
       return { ...drawTable({ kind, json } as never), unit: method?.FUNIT ?? "" };
@@ -351,13 +365,20 @@ export class Session {
       : this.#drawMethod(document.jsonOf(method) as never, method, [json]);
   }
 
-  // Some of the objects that refer to this one: all of them could be very many.
+  // Some of the objects that refer to this one, or their axes: all of them could be very many.
   #users(object: number): Json[] {
-    const users: number[] = [];
-    this.#document().forEachReferrer(object, (from) => {
-      if (users.length < LINKS) users.push(from);
+    const document = this.#document();
+    const users: Json[] = [];
+    document.forEachReferrer(object, (from, { path }) => {
+      if (users.length >= LINKS) return;
+      const user = document.jsonOf(from) as { FAXIS_DESCR?: { FCONVERSION?: string }[] };
+      if (!path.startsWith("FAXIS_DESCR[]")) users.push(user);
+      else {
+        const name = document.names[object];
+        users.push(...(user.FAXIS_DESCR ?? []).filter(({ FCONVERSION }) => FCONVERSION === name));
+      }
     });
-    return users.map((user) => this.#document().jsonOf(user));
+    return users;
   }
 
   // Between the widest limits of those that use it.

@@ -33,11 +33,17 @@ describe.skipIf(executable === undefined || files.length === 0)("the corpus", ()
         const button = page.locator(".kinds button").nth(kind);
         const word = await button.locator("span").innerText();
         await button.click();
-        await page.locator(".objects .row .kind", { hasText: new RegExp(`^${word}$`) }).first().click();
+        await page
+          .locator(".objects .row .kind", { hasText: new RegExp(`^${word}$`) })
+          .first()
+          .click();
         await page.locator("article > p.kind", { hasText: new RegExp(`^${word}$`) }).waitFor();
         // What stands in the file itself is found there.
         const source = page.getByRole("region", { name: "Source" });
-        await source.getByText(/^Line|could not be found/).first().waitFor();
+        await source
+          .getByText(/^Line|could not be found/)
+          .first()
+          .waitFor();
       }
     }
     expect(shown).toBeGreaterThan(files.length / 2);

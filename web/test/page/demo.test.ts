@@ -34,10 +34,10 @@ describe.skipIf(executable === undefined)("the page", () => {
 
   test("shows messages and findings with their lines, and the lines themselves", async () => {
     const text = [
-      "/begin PROJECT P \"\"",
-      "/begin MODULE M \"\"",
+      '/begin PROJECT P ""',
+      '/begin MODULE M ""',
       "  COLOUR red",
-      "  /begin MEASUREMENT A \"\" UBYTE NO_COMPU_METHOD 0 0 0 255 ECU_ADDRESS 0x10 FORMAT \"%3.1\" /end MEASUREMENT",
+      '  /begin MEASUREMENT A "" UBYTE NO_COMPU_METHOD 0 0 0 255 ECU_ADDRESS 0x10 FORMAT "%3.1" /end MEASUREMENT',
       "/end MODULE",
       "/end PROJECT",
       "",
@@ -102,7 +102,9 @@ describe.skipIf(executable === undefined)("the page", () => {
   test("shows conversions as a curve or a table", async () => {
     const page = await opened(demo);
     await openObject(page, "CM_Speed");
-    expect(await page.getByRole("img", { name: /^Curve from raw/ }).getAttribute("aria-label")).toBe(
+    expect(
+      await page.getByRole("img", { name: /^Curve from raw/ }).getAttribute("aria-label"),
+    ).toBe(
       // of EngineSpeed, 0 to 8000: raw = 4 x
       "Curve from raw 0 to 32000, physical 0 to 8000 1/min",
     );
@@ -179,11 +181,14 @@ describe.skipIf(executable === undefined)("the page", () => {
 
   test("takes a file that is dropped", async () => {
     const page = await newPage();
-    const data = await page.evaluateHandle((text) => {
-      const transfer = new DataTransfer();
-      transfer.items.add(new File([text], "dropped.a2l"));
-      return transfer;
-    }, readFileSync(demo, "utf8"));
+    const data = await page.evaluateHandle(
+      (text) => {
+        const transfer = new DataTransfer();
+        transfer.items.add(new File([text], "dropped.a2l"));
+        return transfer;
+      },
+      readFileSync(demo, "utf8"),
+    );
     await page.dispatchEvent("body", "drop", { dataTransfer: data });
     await page.locator("#title", { hasText: "Demo" }).waitFor();
   });

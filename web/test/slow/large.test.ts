@@ -24,7 +24,10 @@ function peak(): number {
     try {
       const line = readFileSync(`/proc/${name}/cmdline`, "utf8");
       if (!line.includes("--type=renderer")) continue;
-      most = Math.max(most, Number(/VmHWM:\s*(\d+)/.exec(readFileSync(`/proc/${name}/status`, "utf8"))![1]));
+      most = Math.max(
+        most,
+        Number(/VmHWM:\s*(\d+)/.exec(readFileSync(`/proc/${name}/status`, "utf8"))![1]),
+      );
     } catch {
       // It has ended meanwhile.
     }
@@ -45,7 +48,9 @@ async function type(page: Page, text: string): Promise<number> {
     requestAnimationFrame(frame);
   });
   await page.getByLabel("Search names").pressSequentially(text, { delay: 60 });
-  return page.evaluate(() => (globalThis as unknown as { watch: { longest: number } }).watch.longest);
+  return page.evaluate(
+    () => (globalThis as unknown as { watch: { longest: number } }).watch.longest,
+  );
 }
 
 describe.skipIf(executable === undefined || !isThere)("large files", () => {

@@ -70,7 +70,15 @@ describe("formulas", () => {
   });
 
   test("that are none, or have other variables, are refused", () => {
-    for (const text of ["", "X1 +", "X2", "X1.constructor", "constructor(X1)", "alert(1)", "this"]) {
+    for (const text of [
+      "",
+      "X1 +",
+      "X2",
+      "X1.constructor",
+      "constructor(X1)",
+      "alert(1)",
+      "this",
+    ]) {
       expect(compileFormula(text), text).toBeNull();
     }
   });
@@ -83,11 +91,10 @@ describe("formulas", () => {
 
 describe("drawings", () => {
   test("a curve goes from the lower to the upper limit", () => {
-    const { curve, rule, table } = draw(
-      method("RAT_FUNC", { FCOEFFS: "0,4,0,0,0,1" }),
-      null,
-      { lower: 0, upper: 100 },
-    );
+    const { curve, rule, table } = draw(method("RAT_FUNC", { FCOEFFS: "0,4,0,0,0,1" }), null, {
+      lower: 0,
+      upper: 100,
+    });
     expect(curve[0]).toEqual({ raw: 0, physical: 0 });
     expect(curve.at(-1)).toEqual({ raw: 400, physical: 100 });
     expect(rule).toBe("raw = 4 · x, x being the physical value");
@@ -95,11 +102,10 @@ describe("drawings", () => {
   });
 
   test("a line tells its formula", () => {
-    const { rule, curve } = draw(
-      method("LINEAR", { FCOEFFS_LINEAR: "0.1,-40" }),
-      null,
-      { lower: -40, upper: 60 },
-    );
+    const { rule, curve } = draw(method("LINEAR", { FCOEFFS_LINEAR: "0.1,-40" }), null, {
+      lower: -40,
+      upper: 60,
+    });
     expect(rule).toBe("physical = 0.1 · raw − 40");
     expect(curve.at(-1)).toEqual({ raw: 1000, physical: 60 });
   });
@@ -140,7 +146,9 @@ describe("drawings", () => {
 
   test("tables of texts and of ranges are rows", () => {
     const texts = { FOUT_VAL: ["off", "on"], FDEFAULT_VALUE: "?" };
-    expect(drawTable({ kind: "COMPU_VTAB", json: { ...texts, FIN_VAL: [0, 1] } as never }).table).toEqual([
+    expect(
+      drawTable({ kind: "COMPU_VTAB", json: { ...texts, FIN_VAL: [0, 1] } as never }).table,
+    ).toEqual([
       { raw: "0", value: "off" },
       { raw: "1", value: "on" },
       { raw: "otherwise", value: "?" },
@@ -153,9 +161,30 @@ describe("drawings", () => {
   });
 
   test("sums leave out what is nothing", () => {
-    expect(sum([[1, "x²"], [0, "x"], [-3, ""]])).toBe("x² − 3");
-    expect(sum([[-1, "x"], [0, ""]])).toBe("−x");
-    expect(sum([[0, "x"], [0, ""]])).toBe("0");
-    expect(sum([[2.5, "x"], [1, ""]])).toBe("2.5 · x + 1");
+    expect(
+      sum([
+        [1, "x²"],
+        [0, "x"],
+        [-3, ""],
+      ]),
+    ).toBe("x² − 3");
+    expect(
+      sum([
+        [-1, "x"],
+        [0, ""],
+      ]),
+    ).toBe("−x");
+    expect(
+      sum([
+        [0, "x"],
+        [0, ""],
+      ]),
+    ).toBe("0");
+    expect(
+      sum([
+        [2.5, "x"],
+        [1, ""],
+      ]),
+    ).toBe("2.5 · x + 1");
   });
 });

@@ -5,7 +5,9 @@ import { csv } from "../../src/model/csv.ts";
 import { parseExact, pretty } from "../../src/model/json_text.ts";
 
 test("JSON gets a line per value and keeps its numbers as they are", () => {
-  expect(pretty('{"A": 0.10000000000000001, "B": [], "C": {"D": "x, {\\"y\\": 1}"}, "E": [1, 2]}')).toBe(
+  expect(
+    pretty('{"A": 0.10000000000000001, "B": [], "C": {"D": "x, {\\"y\\": 1}"}, "E": [1, 2]}'),
+  ).toBe(
     [
       "{",
       '  "A": 0.10000000000000001,',

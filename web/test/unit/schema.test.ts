@@ -45,7 +45,10 @@ test("every key of the table is a key of the document", () => {
     }
     for (const { path: reference } of references ?? []) {
       const steps = reference.replaceAll("[]", "").split(".");
-      expect(steps.reduce<Schema | undefined>(inside, object), `${name} ${reference}`).toBeDefined();
+      expect(
+        steps.reduce<Schema | undefined>(inside, object),
+        `${name} ${reference}`,
+      ).toBeDefined();
     }
   }
 });

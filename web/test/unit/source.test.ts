@@ -6,23 +6,23 @@ import { bytes } from "./texts.ts";
 
 const text = [
   "ASAP2_VERSION 1 71", // 1
-  "/begin PROJECT P \"with /begin MEASUREMENT Not this\"",
+  '/begin PROJECT P "with /begin MEASUREMENT Not this"',
   "  /* /begin MEASUREMENT Nor",
   "     this /end */ // /begin MEASUREMENT Nor this",
-  "  /begin MODULE M \"\"", // 5
+  '  /begin MODULE M ""', // 5
   "    /begin MEASUREMENT",
-  "      Speed \"a \\\" b\" UBYTE",
+  '      Speed "a \\" b" UBYTE',
   "      /begin ANNOTATION /end ANNOTATION",
   "    /end MEASUREMENT",
-  "    /begin UNIT U \"\" /end UNIT /begin UNIT V \"say \"\"/end UNIT\"\"\" ", // 10
+  '    /begin UNIT U "" /end UNIT /begin UNIT V "say ""/end UNIT""" ', // 10
   "    /end UNIT",
-  "    /begin MOD_PAR \"\"",
-  "      /begin MEMORY_SEGMENT Flash \"\" /end MEMORY_SEGMENT",
+  '    /begin MOD_PAR ""',
+  '      /begin MEMORY_SEGMENT Flash "" /end MEMORY_SEGMENT',
   "    /end MOD_PAR",
-  "    /begin MEASUREMENT Speed \"again\"", // 15
+  '    /begin MEASUREMENT Speed "again"', // 15
   "    /end MEASUREMENT",
-  "    /begin MEASUREMENT Open \"",
-  "  \"",
+  '    /begin MEASUREMENT Open "',
+  '  "',
   "  /end MODULE",
   "/end PROJECT", // 20
 ].join("\r\n");
@@ -68,10 +68,9 @@ test("bytes that are no UTF-8 are windows-1252", () => {
 });
 
 test("UTF-16 is read as well", () => {
-  expect(new Lines(asBytes(Uint8Array.of(0xff, 0xfe, 0x61, 0, 0x0a, 0, 0x62, 0))).take(1, 5)).toEqual([
-    "a",
-    "b",
-  ]);
+  expect(
+    new Lines(asBytes(Uint8Array.of(0xff, 0xfe, 0x61, 0, 0x0a, 0, 0x62, 0))).take(1, 5),
+  ).toEqual(["a", "b"]);
 });
 
 test("text that ends in the middle of anything does no harm", () => {
