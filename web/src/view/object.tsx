@@ -23,7 +23,7 @@ function Referrers({ object, group }: { readonly object: number; readonly group:
   return (
     <div>
       <p class="role">
-        <span class="kind">{group.kind}</span> {group.role}{" "}
+        {group.role} of <span class="kind">{group.kind}</span>{" "}
         <span class="quiet">{grouped(group.total)}</span>
       </p>
       <ul class="links">
