@@ -6,8 +6,12 @@ import type { ComponentChildren } from "preact";
 import { useEffect, useRef, useState } from "preact/hooks";
 
 import { useRowHeight, useVirtualizer } from "./virtual.ts";
+import { grouped } from "./words.ts";
 
 const BLOCK = 100;
+
+// Browsers draw nothing beyond some ten million pixels; Firefox has the lowest limit.
+const MOST_PIXELS = 15e6;
 
 interface Props<Row> {
   readonly label: string;
@@ -32,7 +36,8 @@ export function List<Row>(props: Props<Row>) {
   const height = useRowHeight(lines);
   const [active, setActive] = useState(0);
   const [shown, setShown] = useState<Shown<Row>>({ ...props, count: 0, rows: new Map() });
-  const { count, rows, open, load } = shown;
+  const { rows, open, load } = shown;
+  const count = Math.min(shown.count, Math.floor(MOST_PIXELS / height));
   const virtualizer = useVirtualizer(box, count, height);
   const asked = useRef(new Set<number>());
 
@@ -86,7 +91,7 @@ export function List<Row>(props: Props<Row>) {
   const id = (index: number): string => `${label}-${index}`.replace(/\W+/g, "-");
   const isThere = items.some(({ index }) => index === active);
 
-  return (
+  const list = (
     <div
       ref={box}
       class="list"
@@ -125,5 +130,12 @@ export function List<Row>(props: Props<Row>) {
         })}
       </div>
     </div>
+  );
+  if (count === shown.count) return list;
+  return (
+    <>
+      {list}
+      <p class="note">Only the first {grouped(count)} are shown: search for the others.</p>
+    </>
   );
 }

@@ -138,43 +138,49 @@ export function Overview(props: {
           />
         </>
       )}
-      <section aria-labelledby="messages">
-        <h3 id="messages">Messages</h3>
-        {diagnostics.length === 0 ? (
-          <p class="quiet">None.</p>
-        ) : (
-          <>
-            <p>
-              {counted(diagnostics.length, "message")}.{" "}
-              {isMended && "Lines are those of the mended text. "}
-              Choose one to see its line.
-            </p>
-            {shown !== null && (
-              <Messages
-                label="Messages"
-                messages={shown.problems}
-                where={isMended ? "mended" : "source"}
-              />
-            )}
-          </>
-        )}
-      </section>
-      <section aria-labelledby="findings">
-        <h3 id="findings">Findings</h3>
-        {findings.length === 0 ? (
-          <p class="quiet">Nothing was lost, and nothing had to be mended.</p>
-        ) : (
-          <>
-            <p>
-              {saved > 0 &&
-                `${counted(saved, "value")} ${saved === 1 ? "is" : "are"} mended: the layout of the file would have lost ${saved === 1 ? "it" : "them"}. `}
-              {lost > 0 && `${counted(lost, "value")} ${lost === 1 ? "is" : "are"} lost. `}
-              Choose one to see its line.
-            </p>
-            {shown !== null && <Messages label="Findings" messages={shown.found} where="source" />}
-          </>
-        )}
-      </section>
+      {(head !== null || diagnostics.length > 0) && (
+        <section aria-labelledby="messages">
+          <h3 id="messages">Messages</h3>
+          {diagnostics.length === 0 ? (
+            <p class="quiet">None.</p>
+          ) : (
+            <>
+              <p>
+                {counted(diagnostics.length, "message")}.{" "}
+                {isMended && "Lines are those of the mended text. "}
+                Choose one to see its line.
+              </p>
+              {shown !== null && (
+                <Messages
+                  label="Messages"
+                  messages={shown.problems}
+                  where={isMended ? "mended" : "source"}
+                />
+              )}
+            </>
+          )}
+        </section>
+      )}
+      {(head !== null || findings.length > 0) && (
+        <section aria-labelledby="findings">
+          <h3 id="findings">Findings</h3>
+          {findings.length === 0 ? (
+            <p class="quiet">Nothing was lost, and nothing had to be mended.</p>
+          ) : (
+            <>
+              <p>
+                {saved > 0 &&
+                  `${counted(saved, "value")} ${saved === 1 ? "is" : "are"} mended: the layout of the file would have lost ${saved === 1 ? "it" : "them"}. `}
+                {lost > 0 && `${counted(lost, "value")} ${lost === 1 ? "is" : "are"} lost. `}
+                Choose one to see its line.
+              </p>
+              {shown !== null && (
+                <Messages label="Findings" messages={shown.found} where="source" />
+              )}
+            </>
+          )}
+        </section>
+      )}
       {head !== null && (
         <>
           <section aria-labelledby="kinds">

@@ -70,11 +70,25 @@ describe.skipIf(executable === undefined || !isThere)("large files", () => {
       const memory = peak();
 
       const rows = page.locator(".objects .row");
+      const first = await rows.first().locator("b").innerText();
       const name = await rows.nth(2).locator("b").innerText();
       const longest = await type(page, name);
       await rows.first().locator("b", { hasText: name }).waitFor();
       await rows.first().click();
       await page.locator("#title", { hasText: name }).waitFor();
+
+      // The last object of all is in reach, and so are its lines.
+      await page.getByLabel("Search names").fill("");
+      await rows.first().locator("b", { hasText: first }).waitFor();
+      const total = await rows.first().getAttribute("aria-setsize");
+      await page.locator(".objects .list").press("End");
+      const last = page.locator(`.objects .row[aria-posinset="${total}"]`);
+      const lastName = await last.locator("b").innerText();
+      await last.click();
+      await page.locator("#title", { hasText: lastName }).waitFor();
+      const kind = await page.locator("article > p.kind").innerText();
+      await page.getByRole("link", { name: "in the whole file" }).click();
+      await page.locator(".code .marked", { hasText: `/begin ${kind}` }).waitFor();
 
       const [, document] = await saved(page, async () => {
         await page.locator("summary", { hasText: "Save" }).click();
