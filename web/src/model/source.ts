@@ -148,10 +148,7 @@ export class Places {
           if (text[at] === LINE_FEED) ++line;
           else if (text[at] === BACKSLASH) {
             if (text[++at] === LINE_FEED) ++line;
-          } else if (text[at] === QUOTE) {
-            if (text[at + 1] !== QUOTE) break;
-            ++at;
-          }
+          } else if (text[at] === QUOTE) break; // two of them are the end and another beginning
         }
         take(begin, at, beginLine);
         ++at;

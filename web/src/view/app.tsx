@@ -3,7 +3,7 @@ import { useCallback, useEffect, useRef, useState } from "preact/hooks";
 
 import { KINDS } from "../model/kinds.ts";
 import type { Comparison, Progress, Row, Summary } from "../worker/session.ts";
-import { backend, proxy, renamed, save } from "./backend.ts";
+import { backend, onFailure, proxy, renamed, save } from "./backend.ts";
 import { ChangeView, ComparisonView } from "./comparison.tsx";
 import { List } from "./list.tsx";
 import { ObjectView } from "./object.tsx";
@@ -279,6 +279,16 @@ export function App() {
       removeEventListener("drop", drop);
     };
   }, []);
+
+  useEffect(
+    () =>
+      onFailure((sentence) => {
+        isBusy.current = false;
+        setBusy(null);
+        setFault(sentence);
+      }),
+    [],
+  );
 
   useEffect(() => {
     document.title = summary === null ? "a2l2json" : `${summary.name} – a2l2json`;

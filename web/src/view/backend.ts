@@ -4,8 +4,17 @@ import { proxy, wrap } from "comlink";
 import type { Session } from "../worker/session.ts";
 import Work from "../worker/worker.ts?worker&inline";
 
+const worker = new Work();
+
 /** The session in its worker. */
-export const backend = wrap<Session>(new Work());
+export const backend = wrap<Session>(worker);
+
+/** Calls `tell` where the worker itself fails: nobody else would answer then. */
+export function onFailure(tell: (sentence: string) => void): void {
+  worker.addEventListener("error", ({ message }) => {
+    tell(`The page cannot work in this browser${message ? `: ${message}` : "."}`);
+  });
+}
 
 export { proxy };
 

@@ -486,7 +486,9 @@ export class Session {
     const { file, document } = this.#loaded.main ?? {};
     if (file === undefined || document === undefined) throw new Error("no file is open");
     const bytes =
-      of === "mended" ? document.bytes : (await convert(file, { mend: false })).document;
+      of === "mended"
+        ? document.bytes
+        : (await convert(file, { mend: false, name: file.name })).document;
     return new Blob([bytes as BlobPart], { type: "application/json" });
   }
 

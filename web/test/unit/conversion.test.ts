@@ -86,6 +86,7 @@ describe("formulas", () => {
   test("may be deep without harm", () => {
     expect(compileFormula("(".repeat(100_000))).toBeNull();
     expect(compileFormula(`${"-".repeat(1500)}1`)?.(0)).toBe(1);
+    expect(compileFormula(`${"1+".repeat(1500)}1`)).toBeNull();
   });
 });
 
