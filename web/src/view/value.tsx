@@ -14,6 +14,7 @@ export const isAbsent = (value: Json): boolean =>
 const WITH_UNIT = new Set(["FLOWER_LIMIT", "FUPPER_LIMIT", "FSTEP_SIZE", "FMAX_DIFF", "FMAX_GRAD"]);
 const BITS = new Set(["FBIT_MASK", "FERROR_MASK"]);
 const MOST_ITEMS = 500;
+const MOST_SIGNS = 20_000;
 
 /** The link of a name in a key, or the name as it is. */
 export type LinkOf = (key: string, name: string) => ComponentChildren;
@@ -49,7 +50,8 @@ function Leaf({ name, value, unit, linkOf }: Props) {
   if (/[\n\t]/.test(text) || text.length > 300) {
     return (
       <pre tabIndex={0} aria-label={keyword(name)}>
-        {text}
+        {text.slice(0, MOST_SIGNS)}
+        {text.length > MOST_SIGNS && " … see the JSON for the rest"}
       </pre>
     );
   }

@@ -301,16 +301,21 @@ export class Session {
 
   #from(object: number): Links[] {
     const document = this.#document();
-    const found = new Map<string, Links & { total: number; links: Link[] }>();
+    const found = new Map<string, { role: string; kind: string; objects: number[] }>();
     document.forEachReferrer(object, (from, { role }) => {
       const kind = KINDS[document.kindOf(from)]!.name;
       const key = `${kind} ${role}`;
-      let group = found.get(key);
-      if (group === undefined) found.set(key, (group = { role, kind, total: 0, links: [] }));
-      if (group.links.at(-1)?.object === from) return; // twice by the same object
-      if (++group.total <= LINKS) group.links.push(this.#link(from));
+      const group = found.get(key) ?? { role, kind, objects: [] };
+      found.set(key, group);
+      // An object may refer to another twice, as with two axes.
+      if (group.objects.at(-1) !== from) group.objects.push(from);
     });
-    return [...found.values()];
+    return [...found.values()].map(({ role, kind, objects }) => ({
+      role,
+      kind,
+      total: objects.length,
+      links: objects.slice(0, LINKS).map((from) => this.#row(from)),
+    }));
   }
 
   /** More of those that refer to the object in one role, from the `first` on. */
@@ -320,11 +325,7 @@ export class Session {
     document.forEachReferrer(object, (from, reference) => {
       if (reference.role === role && KINDS[document.kindOf(from)]!.name === kind) objects.add(from);
     });
-    return [...objects].slice(first, first + 10 * LINKS).map((from) => this.#link(from));
-  }
-
-  #link(object: number): Link {
-    return this.#row(object);
+    return [...objects].slice(first, first + 10 * LINKS).map((from) => this.#row(from));
   }
 
   /** Groups or functions that are part of no other. */
@@ -339,7 +340,7 @@ export class Session {
       document.forEachReferrer(object, (from, { role }) => {
         isPart ||= role === part && from !== object;
       });
-      if (!isPart) found.push(this.#link(object));
+      if (!isPart) found.push(this.#row(object));
     });
     return found;
   }
