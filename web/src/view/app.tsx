@@ -2,7 +2,7 @@
 import { useCallback, useEffect, useRef, useState } from "preact/hooks";
 
 import { KINDS } from "../model/kinds.ts";
-import type { Comparison, Progress, Row, Summary } from "../worker/session.ts";
+import type { Comparison, Progress, Row, Summary } from "../worker/answers.ts";
 import { backend, onFailure, proxy, renamed, save } from "./backend.ts";
 import { ChangeView, ComparisonView } from "./comparison.tsx";
 import { List } from "./list.tsx";

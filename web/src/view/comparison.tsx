@@ -3,7 +3,7 @@ import { useCallback, useEffect, useState } from "preact/hooks";
 
 import type { State } from "../model/compare.ts";
 import type { Json } from "../model/json_text.ts";
-import type { ChangeDetail, ChangeRow, Comparison } from "../worker/session.ts";
+import type { ChangeDetail, ChangeRow, Comparison } from "../worker/answers.ts";
 import { backend, renamed, save } from "./backend.ts";
 import { List } from "./list.tsx";
 import { go, href } from "./route.ts";

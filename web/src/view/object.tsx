@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 import { useEffect, useState } from "preact/hooks";
 
-import type { Detail, Link, Links } from "../worker/session.ts";
+import type { Detail, Link, Links } from "../worker/answers.ts";
 import { backend } from "./backend.ts";
 import { ConversionView } from "./curve.tsx";
 import { href } from "./route.ts";

@@ -2,7 +2,7 @@
 import { useCallback, useEffect, useState } from "preact/hooks";
 
 import { KINDS } from "../model/kinds.ts";
-import type { Link, Summary } from "../worker/session.ts";
+import type { Link, Summary } from "../worker/answers.ts";
 import { backend } from "./backend.ts";
 import { List } from "./list.tsx";
 import { go } from "./route.ts";

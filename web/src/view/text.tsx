@@ -3,7 +3,7 @@
 // A whole text, of which only the lines in sight are in the page.
 import { useEffect, useRef, useState } from "preact/hooks";
 
-import type { Text } from "../worker/session.ts";
+import type { Text } from "../worker/answers.ts";
 import { backend } from "./backend.ts";
 import { go } from "./route.ts";
 import { Title } from "./title.tsx";

@@ -4,7 +4,7 @@
 // person opens it, so groups may hold each other.
 import { useState } from "preact/hooks";
 
-import type { Link, Links } from "../worker/session.ts";
+import type { Link, Links } from "../worker/answers.ts";
 import { backend } from "./backend.ts";
 import { href } from "./route.ts";
 import { grouped } from "./words.ts";

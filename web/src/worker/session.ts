@@ -11,105 +11,28 @@ import {
   type MEASUREMENT,
 } from "a2l2json";
 
-import {
-  compare,
-  differences,
-  type Change,
-  type Difference,
-  type State,
-} from "../model/compare.ts";
+import { compare, differences, type Change, type State } from "../model/compare.ts";
 import { draw, drawTable, type Limits, type Shown, type Table } from "../model/conversion.ts";
 import { csv } from "../model/csv.ts";
-import { Document, namesOf, type Head } from "../model/document.ts";
+import { Document, namesOf } from "../model/document.ts";
 import { parseExact, pretty, type Json } from "../model/json_text.ts";
 import { KINDS } from "../model/kinds.ts";
 import { Search } from "../model/search.ts";
-import { asBytes, Lines, Places, type Place } from "../model/source.ts";
-
-export type Text = "source" | "mended";
-export type Side = "main" | "other";
-export type Progress = (step: string) => void;
-
-/** Why a file cannot be shown. */
-export interface Trouble {
-  readonly sentence: string;
-  readonly code: string;
-}
-
-export interface Summary {
-  readonly name: string;
-  readonly size: number;
-  readonly trouble: Trouble | null;
-  readonly head: Head | null;
-  /** Objects by the number of their kind. */
-  readonly counts: readonly number[];
-  readonly unfound: number;
-  readonly diagnostics: readonly Diagnostic[];
-  readonly findings: readonly Finding[];
-  /** Lines of each text; 0 where there is none. */
-  readonly lines: { readonly [text in Text]: number };
-  readonly seconds: number;
-  readonly version: string;
-}
-
-export interface Row {
-  readonly object: number;
-  readonly kind: string;
-  readonly name: string;
-  readonly text: string;
-  readonly address: string;
-}
-
-export interface Link {
-  readonly name: string;
-  readonly kind: string | null;
-  readonly text: string;
-  /** Null where nothing of that name is in the file. */
-  readonly object: number | null;
-}
-
-export interface Links {
-  readonly role: string;
-  /** The kind of those that refer; null for what is referred to. */
-  readonly kind: string | null;
-  readonly total: number;
-  readonly links: readonly Link[];
-}
-
-export interface Detail {
-  readonly row: Row;
-  readonly module: string;
-  readonly values: Json;
-  readonly json: string;
-  readonly place: Place | null;
-  readonly to: readonly Links[];
-  readonly from: readonly Links[];
-  readonly shown: Shown | null;
-  readonly unit: string;
-  /** The units of the conversions that it refers to, by their names. */
-  readonly units: { readonly [conversion: string]: string };
-}
-
-export interface ChangeRow {
-  readonly state: State;
-  readonly kind: string;
-  readonly name: string;
-  readonly text: string;
-}
-
-export interface Comparison {
-  readonly name: string;
-  readonly trouble: Trouble | null;
-  readonly counts: { readonly [state in State]: number };
-}
-
-export interface ChangeDetail extends ChangeRow {
-  readonly before: Json | undefined;
-  readonly after: Json | undefined;
-  readonly differences: readonly Difference[];
-  /** The object in the file that is shown; null where it went. */
-  readonly object: number | null;
-}
+import { asBytes, Lines, Places } from "../model/source.ts";
+import type {
+  ChangeDetail,
+  ChangeRow,
+  Comparison,
+  Detail,
+  Link,
+  Links,
+  Progress,
+  Row,
+  Side,
+  Summary,
+  Text,
+  Trouble,
+} from "./answers.ts";
 
 /** How many links of one role go to the page at once. */
 export const LINKS = 100;

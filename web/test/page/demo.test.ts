@@ -6,6 +6,7 @@ import { describe, expect, test } from "vitest";
 
 import {
   barriers,
+  built,
   demo,
   executable,
   file,
@@ -30,6 +31,13 @@ describe.skipIf(executable === undefined)("the page", () => {
     }
     expect(await page.getByRole("button", { name: "COMPU_METHOD 2" }).count()).toBe(1);
     expect(await page.title()).toBe("demo.a2l – a2l2json");
+  });
+
+  test("carries the licences of what is in it", () => {
+    const page = readFileSync(built, "utf8");
+    for (const name of ["preact", "comlink", "@tanstack/virtual-core", "jsep", "d3-array"]) {
+      expect(page).toMatch(new RegExp(`\\n${name}\\n\\n.*(License|Copyright)`, "s"));
+    }
   });
 
   test("shows messages and findings with their lines, and the lines themselves", async () => {
