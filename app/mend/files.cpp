@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <random>
@@ -21,30 +22,6 @@ namespace fs = std::filesystem;
 // Why the system did not do what it was asked for last.
 Problem LastProblem() {
   return errno == 0 ? "the system does not say why" : std::generic_category().message(errno);
-}
-
-bool ReadStream(std::istream& in, std::string& bytes) {
-  constexpr std::size_t kPiece = std::size_t{1} << 20;
-  while (in.good()) {
-    const std::size_t size = bytes.size();
-    if (bytes.capacity() < size + kPiece) bytes.reserve(std::max(2 * size, size + kPiece));
-    bytes.resize(size + kPiece);
-    in.read(bytes.data() + size, static_cast<std::streamsize>(kPiece));
-    bytes.resize(size + static_cast<std::size_t>(in.gcount()));
-  }
-  return in.eof();
-}
-
-Problem ReadFile(const fs::path& path, std::string& bytes) {
-  // A folder can be opened on some systems, and then gives no bytes and no error.
-  std::error_code error;
-  if (fs::is_directory(path, error)) return "it is a folder";
-  errno = 0;
-  std::ifstream in(path, std::ios::binary);
-  if (!in.is_open()) return LastProblem();
-  const std::uintmax_t size = fs::file_size(path, error);
-  if (!error) bytes.reserve(static_cast<std::size_t>(size) + (std::size_t{1} << 20));
-  return ReadStream(in, bytes) ? Problem() : LastProblem();
 }
 
 bool WriteStream(std::ostream& out, std::string_view bytes) {
@@ -97,11 +74,6 @@ Problem Convert(const std::string& encoding, std::string& bytes) {
   return "line " + std::to_string(line) + " is not in the encoding " + encoding;
 }
 
-std::string Utf8(const fs::path& path) {
-  const std::u8string text = path.generic_u8string();
-  return {text.begin(), text.end()};
-}
-
 fs::path Beside(const fs::path& path) {
   std::random_device random;
   fs::path beside = path;
@@ -111,22 +83,13 @@ fs::path Beside(const fs::path& path) {
   return beside;
 }
 
-// Names are written with backslashes as well, on whatever system they are read. Empty where no file
-// can have the name.
-fs::path IncludedPath(std::string_view name) {
-  if (name.find('\0') != std::string_view::npos) return {};
-  std::string text(name);
-  std::ranges::replace(text, '\\', '/');
-  return FilePath(text);
-}
-
 }  // namespace
 
 Problem ReadInput(const MendArguments& arguments, std::string& bytes) {
   Problem problem;
   if (arguments.in != "-") {
-    problem = ReadFile(FilePath(arguments.in), bytes);
-  } else if (!ReadStream(std::cin, bytes)) {
+    problem = ReadWholeFile(FilePath(arguments.in), bytes);
+  } else if (!ReadToEnd(std::cin, bytes)) {
     problem = LastProblem();
   }
   if (problem.empty()) problem = ProblemOf(bytes);
@@ -156,66 +119,15 @@ Problem WriteOutput(const std::string& name, std::string_view bytes) {
   return problem;
 }
 
-IncludeFolders::IncludeFolders(const MendArguments& arguments)
-    : encoding_(arguments.encoding), allowOutside_(arguments.allowOutside) {
-  std::error_code error;
-  const fs::path main = arguments.in == "-" ? fs::current_path(error) / "-"
-                                            : fs::weakly_canonical(FilePath(arguments.in), error);
-  mainPath_ = Utf8(main);
-  allowed_.push_back(main.parent_path());
-  for (const std::string& folder : arguments.folders) {
-    folders_.push_back(fs::weakly_canonical(FilePath(folder), error));
-    allowed_.push_back(folders_.back());
-  }
-}
-
-// To ask whether a file on another computer is there tells that computer who asks.
-bool IncludeFolders::MayLookAt(const fs::path& path) const {
-  return allowOutside_ || std::ranges::any_of(allowed_, [&path](const fs::path& folder) {
-           return folder.root_name() == path.root_name();
-         });
-}
-
-bool IncludeFolders::IsInside(const fs::path& path) const {
-  return std::ranges::any_of(allowed_, [&path](const fs::path& folder) {
-    const auto parting = std::ranges::mismatch(folder, path);
-    // A folder may end in a slash, behind which it has an empty part.
-    return parting.in1 == folder.end() || parting.in1->empty();
-  });
-}
-
-IncludedFile IncludeFolders::Read(const fs::path& path) const {
-  IncludedFile file;
-  file.path = Utf8(path);
-  file.problem = ReadFile(path, file.bytes);
-  if (file.problem.empty()) file.problem = Convert(encoding_, file.bytes);
-  if (file.problem.empty()) file.status = IncludedFile::Status::Read;
-  return file;
-}
-
-IncludedFile IncludeFolders::Open(std::string_view name, std::string_view from) const {
-  IncludedFile file;
-  file.problem = "there is no such file";
-  const fs::path included = IncludedPath(name);
-  if (included.empty()) return file;
-  std::vector<fs::path> folders = {FilePath(from).parent_path()};
-  folders.insert(folders.end(), folders_.begin(), folders_.end());
-  for (const fs::path& folder : folders) {
-    std::error_code error;
-    const bool mayLook = MayLookAt(folder / included);
-    const fs::path path = mayLook ? fs::weakly_canonical(folder / included, error) : included;
-    if (mayLook && (error || !fs::exists(path, error))) continue;
-    if (!mayLook || (!allowOutside_ && !IsInside(path))) {
-      file.status = IncludedFile::Status::Refused;
-      file.problem = "it lies outside of the folders that are given";
-    } else if (!fs::is_regular_file(path, error)) {
-      file.status = IncludedFile::Status::Refused;
-      file.problem = "it is no regular file";
-    } else {
-      return Read(path);
-    }
-  }
-  return file;
+IncludeOptions IncludeOptionsOf(const MendArguments& arguments) {
+  IncludeOptions options;
+  options.path = arguments.in;
+  options.folders = arguments.folders;
+  options.allowOutside = arguments.allowOutside;
+  options.decode = [encoding = arguments.encoding](std::string& bytes) {
+    return Convert(encoding, bytes);
+  };
+  return options;
 }
 
 }  // namespace a2l

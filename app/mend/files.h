@@ -3,12 +3,10 @@
 // The files that a2lmend reads and writes.
 #pragma once
 
-#include <filesystem>
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "a2l2json/mend/options.h"
+#include "a2l2json/mend/include_reader.h"
 #include "app/mend/arguments.h"
 
 namespace a2l {
@@ -25,27 +23,7 @@ Problem ReadInput(const MendArguments& arguments, std::string& bytes);
 /// it or what there was before. To standard output for "-".
 Problem WriteOutput(const std::string& name, std::string_view bytes);
 
-/// Finds the files that others include: in the folder of the file that names them, then in those
-/// of -I. Reads regular files only and, unless told otherwise, none outside of these folders and
-/// that of the first file, wherever links lead.
-class IncludeFolders {
- public:
-  explicit IncludeFolders(const MendArguments& arguments);
-
-  /// Where the first file lies.
-  [[nodiscard]] const std::string& MainPath() const { return mainPath_; }
-  [[nodiscard]] IncludedFile Open(std::string_view name, std::string_view from) const;
-
- private:
-  [[nodiscard]] bool MayLookAt(const std::filesystem::path& path) const;
-  [[nodiscard]] bool IsInside(const std::filesystem::path& path) const;
-  [[nodiscard]] IncludedFile Read(const std::filesystem::path& path) const;
-
-  std::vector<std::filesystem::path> folders_;
-  std::vector<std::filesystem::path> allowed_;
-  std::string mainPath_;
-  std::string encoding_;
-  bool allowOutside_;
-};
+/// How the arguments want included files to be read.
+IncludeOptions IncludeOptionsOf(const MendArguments& arguments);
 
 }  // namespace a2l

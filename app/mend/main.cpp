@@ -35,7 +35,7 @@ int Run(const MendArguments& arguments) {
   if (const Problem problem = ReadInput(arguments, bytes); !problem.empty()) {
     return Trouble("read", arguments.in, problem);
   }
-  const IncludeFolders folders(arguments);
+  const IncludeReader reader(IncludeOptionsOf(arguments));
   Progress progress(ErrorsAreSeen() && !arguments.quiet, bytes.size());
   const std::string name = arguments.in == "-" ? "<stdin>" : arguments.in;
   const bool isWritten = !arguments.out.empty();
@@ -43,9 +43,9 @@ int Run(const MendArguments& arguments) {
                          [&progress] { progress.Clear(); });
   MendOptions options;
   options.name = name;
-  options.path = folders.MainPath();
-  options.open = [&folders](std::string_view included, std::string_view from) {
-    return folders.Open(included, from);
+  options.path = reader.MainPath();
+  options.open = [&reader](std::string_view included, std::string_view from) {
+    return reader.Open(included, from);
   };
   if (!arguments.quiet) {
     options.report = [&printer](const Finding& finding) { printer.Print(finding); };
