@@ -23,7 +23,7 @@ constexpr std::array kCodes = {
     CodeRow{A2L2JSON_NOT_A2L, "Nothing of A2L is in the input."},
     CodeRow{A2L2JSON_NOT_CONVERTED, "The text holds an error."},
     CodeRow{A2L2JSON_NOT_READ, "The file cannot be read."},
-    CodeRow{A2L2JSON_NOT_WRITTEN, "The document was not taken."},
+    CodeRow{A2L2JSON_NOT_WRITTEN, "The function that takes the document did not take all of it."},
     CodeRow{A2L2JSON_NO_MEMORY, "Memory ran out."},
     CodeRow{A2L2JSON_BAD_ARGUMENT, "An argument is wrong."},
     CodeRow{A2L2JSON_NOT_AVAILABLE, "This library cannot do what the options ask for."},
@@ -66,7 +66,7 @@ a2l2json_code a2l2json_convert_text(const char* text, size_t size, const a2l2jso
       options, result, [&](const a2l2json_options& checked, a2l2json_result& made) {
         if (text == nullptr && size > 0) {
           made.code = A2L2JSON_BAD_ARGUMENT;
-          made.error = "There is no text, but a size.";
+          made.error = "The text is null, but its size is not 0.";
           return;
         }
         const std::string_view view(text == nullptr ? "" : text, size);

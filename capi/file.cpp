@@ -32,7 +32,7 @@ std::optional<std::string> Beginning(const std::string& name) {
   return bytes;
 }
 
-// All bytes of the file; an error where they cannot be had.
+// All bytes of the file; an error if they cannot be read.
 a2l::FileError Load(const std::string& name, std::string& bytes) {
   constexpr std::streamsize kPiece = std::streamsize{1} << 20U;
   a2l::InputFile file(name);

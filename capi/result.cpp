@@ -152,7 +152,7 @@ std::string WhatIsWrong(const a2l2json_diagnostic& error) {
 
 std::string NoA2l(const Input& input, std::string_view why) {
   std::string sentence = input.name.empty() ? "The text" : std::string(input.name);
-  sentence += " is no A2L file. ";
+  sentence += " is not an A2L file. ";
   return sentence += why.empty() ? "Nothing in it could be read." : why;
 }
 

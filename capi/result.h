@@ -36,9 +36,9 @@ struct Input {
   /// What to call it in sentences; empty for text in memory without a name.
   std::string_view name;
   std::function<ReadResult()> read;
-  /// Its first bytes, kLookedAt of them where there are so many; nothing where they cannot be had.
+  /// Its first bytes, kLookedAt of them where there are so many; nothing if they cannot be read.
   std::function<std::optional<std::string>()> beginning;
-  /// Gives all of its bytes, which stay as long as the input, or tells why they cannot be had.
+  /// Gives all of its bytes, which stay as long as the input, or says why they cannot be read.
   std::function<FileError(std::string_view& bytes)> load;
   /// What its included files are relative to, as in IncludeOptions; empty where none is read.
   std::string path = {};

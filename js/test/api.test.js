@@ -87,11 +87,11 @@ test("an error tells where it is, and what came before", async () => {
   assert.equal(error.document, null);
 });
 
-test("what is no A2L file gets a sentence", async () => {
+test("what is not an A2L file gets a sentence", async () => {
   const sentences = [
-    ["", "The text is no A2L file. It is empty."],
-    [gzipSync(demo), "The text is no A2L file. It is compressed (gzip): decompress it first."],
-    ["Dear Sir or Madam", "The text is no A2L file. Nothing in it could be read."],
+    ["", "The text is not an A2L file. It is empty."],
+    [gzipSync(demo), "The text is not an A2L file. It is compressed (gzip): decompress it first."],
+    ["Dear Sir or Madam", "The text is not an A2L file. Nothing in it could be read."],
   ];
   for (const [input, sentence] of sentences) {
     const error = await failure(input, { mend: false });

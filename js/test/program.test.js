@@ -56,7 +56,7 @@ test("it can replace its input", (t) => {
   assert.ok(demoDocument.equals(readFileSync(file)));
 });
 
-test("it makes a document of what is no A2L file", (t) => {
+test("it makes a document of what is not an A2L file", (t) => {
   const folder = temporaryFolder(t);
   writeFileSync(path.join(folder, "in"), "");
   const result = run(["in", "out"], { cwd: folder });

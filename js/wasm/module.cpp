@@ -17,7 +17,7 @@ extern "C" {
 // Takes a piece of the document; anything but 0 ends the conversion.
 A2L2JSON_FROM_JAVASCRIPT("write") int TakePiece(const char* bytes, std::size_t size);
 
-// Throws, and does not return. Without it, nobody could tell what a call ended by.
+// Throws in JavaScript, and does not return. Otherwise the call would end without a reason.
 A2L2JSON_FROM_JAVASCRIPT("outOfMemory") void OutOfMemory();
 
 // Room for the text; null where there is none.

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What the library does with files where there are none, in the place of the sources that open
-// them.
+// WebAssembly has no files. This stands in for the sources of the library that open them.
 #include <ostream>
 
 #include "a2l2json/model/file_stream.h"

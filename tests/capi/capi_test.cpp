@@ -172,15 +172,15 @@ TEST(CInterface, TellsWhyAFileIsNotRead) {
 
 struct NoA2lRow {
   std::string_view bytes;
-  std::string_view sentence;  // behind "... is no A2L file."
+  std::string_view sentence;  // behind "... is not an A2L file."
 };
 
 constexpr NoA2lRow kNoA2l[] = {
     {"", " It is empty."},
     {"\x1F\x8B\x08\x00"sv, " It is compressed (gzip): decompress it first."},
     {"PK\x03\x04rest", " It is a ZIP archive: take the A2L file out of it first."},
-    {"\xFF\xFE/\0b\0"sv, " It is UTF-16 text: make UTF-8 of it first, or let it be mended."},
-    {"\xFE\xFF\0/\0b"sv, " It is UTF-16 text: make UTF-8 of it first, or let it be mended."},
+    {"\xFF\xFE/\0b\0"sv, " It is UTF-16 text: convert it to UTF-8 first, or turn mending on."},
+    {"\xFE\xFF\0/\0b"sv, " It is UTF-16 text: convert it to UTF-8 first, or turn mending on."},
     {"<?xml version=\"1.0\"?>\n", " It is XML."},
     {R"({"FModules": []})", " It is JSON: was the output handed in?"},
     {"Dear Sir or Madam\n", " Nothing in it could be read."},
@@ -192,13 +192,13 @@ TEST(CInterface, TellsWhatIsNoA2lFile) {
   for (const NoA2lRow& row : kNoA2l) {
     const Result text = Convert(row.bytes);
     EXPECT_EQ(a2l2json_result_code(text.get()), A2L2JSON_NOT_A2L) << row.sentence;
-    EXPECT_EQ(a2l2json_error(text.get()), "The text is no A2L file." + std::string(row.sentence));
+    EXPECT_EQ(a2l2json_error(text.get()), "The text is not an A2L file." + std::string(row.sentence));
     EXPECT_EQ(Document(text), kEmptyDocument);
 
     const std::string path = (folder / "in.a2l").string();
     WriteFile(folder / "in.a2l", row.bytes);
     EXPECT_EQ(a2l2json_error(ConvertFile(path).get()),
-              path + " is no A2L file." + std::string(row.sentence));
+              path + " is not an A2L file." + std::string(row.sentence));
   }
 }
 
@@ -378,7 +378,7 @@ TEST(CInterface, StopsWhereTheCallerDoesNotTakeTheDocument) {
   const a2l2json_options options = Into(taken);
   const Result result = Convert(text, &options);
   EXPECT_EQ(a2l2json_result_code(result.get()), A2L2JSON_NOT_WRITTEN);
-  EXPECT_STREQ(a2l2json_error(result.get()), "The document was not taken.");
+  EXPECT_STREQ(a2l2json_error(result.get()), "The function that takes the document did not take all of it.");
   EXPECT_EQ(taken.refuseAfter, -1) << "it is not asked again";
   EXPECT_EQ(taken.bytes, Document(Convert(text)).substr(0, taken.bytes.size()));
 }
@@ -424,7 +424,7 @@ TEST(CInterface, RefusesWhatIsMissing) {
   EXPECT_EQ(a2l2json_convert_file("x.a2l", nullptr, nullptr), A2L2JSON_BAD_ARGUMENT);
   a2l2json_result* result = nullptr;
   EXPECT_EQ(a2l2json_convert_text(nullptr, 1, nullptr, &result), A2L2JSON_BAD_ARGUMENT);
-  EXPECT_STREQ(a2l2json_error(result), "There is no text, but a size.");
+  EXPECT_STREQ(a2l2json_error(result), "The text is null, but its size is not 0.");
   a2l2json_free(result);
   EXPECT_EQ(a2l2json_convert_file(nullptr, nullptr, &result), A2L2JSON_BAD_ARGUMENT);
   EXPECT_STREQ(a2l2json_error(result), "There is no path.");

@@ -8,7 +8,7 @@ namespace a2l::detail {
 /// The size of a large page.
 inline constexpr std::size_t kLargePage = std::size_t{2} * 1024 * 1024;
 
-/// What memory is aligned to that shall have such pages: any memory where there are none.
+/// The alignment of memory that shall have large pages; on systems without them, the usual one.
 #ifdef __linux__
 inline constexpr std::size_t kLargePageAlignment = kLargePage;
 #else

@@ -2,8 +2,8 @@
 //
 // Bytes, sixteen at a time. A conversion looks at every byte of a file for the ends of lines and
 // tokens, and at every byte of a document for what needs an escape: that is most of its work. So
-// what is written with an eye on the processor lies here, behind searches and copies that read like
-// any other, and each of them is held against a plain loop by tests and a fuzz target.
+// the code that is written for the processor lies here, behind searches and copies that read like
+// any other. Tests and a fuzz target compare each of them with a plain loop.
 //
 // Processors with vectors that every program may use (x86-64, ARM64) compare sixteen bytes in one
 // step, all others eight. Nothing outside of a text is read.

@@ -13,7 +13,7 @@ namespace {
 
 constexpr bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
-// The value of a digit in any base up to 16; 16 for what is none.
+// The value of a digit in any base up to 16; 16 for all other characters.
 constexpr auto kDigitValues = [] {
   std::array<std::uint8_t, 256> values{};
   values.fill(16);

@@ -23,7 +23,7 @@ describe.skipIf(executable === undefined || files.length === 0)("the corpus", ()
       await page.locator("#title").waitFor();
       if ((await page.locator(".trouble").count()) > 0) {
         const sentence = await page.locator(".trouble").innerText();
-        expect(sentence).toMatch(/^\S+\.a2l(, line \d+:| is no A2L file\.) .+/i);
+        expect(sentence).toMatch(/^\S+\.a2l(, line \d+:| is not an A2L file\.) .+/i);
         continue;
       }
       const kinds = await page.locator(".kinds button").count();

@@ -225,12 +225,12 @@ describe.skipIf(executable === undefined)("the page", () => {
       await open(page, at);
       await page.locator(".trouble", { hasText: sentence }).waitFor();
     };
-    await says(file("empty.a2l", ""), "empty.a2l is no A2L file. It is empty.");
+    await says(file("empty.a2l", ""), "empty.a2l is not an A2L file. It is empty.");
     await says(
       file("packed.a2l", gzipSync(readFileSync(demo))),
-      "packed.a2l is no A2L file. It is compressed (gzip): decompress it first.",
+      "packed.a2l is not an A2L file. It is compressed (gzip): decompress it first.",
     );
-    await says(file("letter.txt", "Dear reader,\n"), "letter.txt is no A2L file.");
+    await says(file("letter.txt", "Dear reader,\n"), "letter.txt is not an A2L file.");
     const large = file("large.a2l", "");
     truncateSync(large, 2.2e9);
     await says(large, "The input has 2.2 GB, and at most 2.1 GB can be converted here");

@@ -82,7 +82,7 @@ test("what cannot be converted still has its lines and findings", async () => {
   expect(session.search("", null).objects.length).toBe(0);
 });
 
-test("what is no A2L file, or too large, gets a sentence", async () => {
+test("what is not an A2L file, or too large, gets a sentence", async () => {
   const session = new Session();
   const trouble = async (file: File) => (await session.open(file, () => {})).trouble!;
   expect(await trouble(new File([], "x.a2l"))).toMatchObject({ code: "not-a2l" });
