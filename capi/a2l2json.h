@@ -201,7 +201,7 @@ A2L2JSON_API const a2l2json_diagnostic* a2l2json_diagnostic_at(const a2l2json_re
 /* ------------------------------------------------------------------------------------------ */
 /* What came of mending */
 
-/** The mended text, as the document; NULL where there was nothing to be mended. */
+/** The mended text, as the document; NULL if the options did not ask for mending. */
 A2L2JSON_API const char* a2l2json_mended(const a2l2json_result* result, size_t* size);
 
 /** One thing that the layout of the text would cost, or that is lost whatever the layout. Later

@@ -56,7 +56,7 @@ export interface Conversion {
   json(): A2LDocument;
   readonly diagnostics: readonly Diagnostic[];
   readonly findings: readonly Finding[];
-  /** The mended text; null where nothing was to be mended. */
+  /** The mended text; null if `mend` is false. */
   readonly mended: Uint8Array | null;
 }
 

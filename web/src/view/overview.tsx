@@ -20,9 +20,8 @@ interface Message {
 function Messages(props: {
   readonly label: string;
   readonly messages: readonly Message[];
-  readonly where: "source" | "mended";
 }) {
-  const { label, messages, where } = props;
+  const { label, messages } = props;
   const load = useCallback(
     (first: number, count: number) => Promise.resolve(messages.slice(first, first + count)),
     [messages],
@@ -35,7 +34,7 @@ function Messages(props: {
         version={messages}
         load={load}
         opened={null}
-        open={(i) => go({ view: where, number: messages[i]!.line })}
+        open={(i) => go({ view: "source", number: messages[i]!.line })}
         draw={({ line, label: word, text, isBad }) => (
           <>
             <span class="top">
@@ -83,7 +82,7 @@ export function Overview(props: {
   readonly showKind: (kind: number) => void;
 }) {
   const { summary, showKind } = props;
-  const { head, trouble, diagnostics, findings, counts, lines } = summary;
+  const { head, trouble, diagnostics, findings, counts } = summary;
   const [shown, setShown] = useState<{ problems: Message[]; found: Message[] } | null>(null);
   useEffect(() => {
     setShown({
@@ -104,7 +103,6 @@ export function Overview(props: {
   const total = counts.reduce((sum, count) => sum + count, 0);
   const saved = findings.filter(({ mended }) => mended).length;
   const lost = findings.length - saved;
-  const isMended = lines.mended > 0;
   return (
     <article aria-labelledby="title">
       <Title>{head?.project || summary.name}</Title>
@@ -145,18 +143,8 @@ export function Overview(props: {
             <p class="quiet">None.</p>
           ) : (
             <>
-              <p>
-                {counted(diagnostics.length, "message")}.{" "}
-                {isMended && "Lines are those of the mended text. "}
-                Choose one to see its line.
-              </p>
-              {shown !== null && (
-                <Messages
-                  label="Messages"
-                  messages={shown.problems}
-                  where={isMended ? "mended" : "source"}
-                />
-              )}
+              <p>{counted(diagnostics.length, "message")}. Choose one to see its line.</p>
+              {shown !== null && <Messages label="Messages" messages={shown.problems} />}
             </>
           )}
         </section>
@@ -174,9 +162,7 @@ export function Overview(props: {
                 {lost > 0 && `${counted(lost, "value")} ${lost === 1 ? "is" : "are"} lost. `}
                 Choose one to see its line.
               </p>
-              {shown !== null && (
-                <Messages label="Findings" messages={shown.found} where="source" />
-              )}
+              {shown !== null && <Messages label="Findings" messages={shown.found} />}
             </>
           )}
         </section>

@@ -58,6 +58,11 @@ describe.skipIf(executable === undefined)("the page", () => {
     await page.locator(".marked", { hasText: /COLOUR|ECU_ADDRESS/ }).waitFor();
     await page.goBack();
     await page.getByRole("listbox", { name: "Findings" }).waitFor();
+    const message = page.getByRole("listbox", { name: "Messages" }).getByRole("option").first();
+    expect(await message.innerText()).toMatch(/line 3\b/);
+    await message.click();
+    await page.locator(".marked", { hasText: "COLOUR" }).waitFor();
+    expect(await page.getByRole("heading", { name: "Source" }).count()).toBe(1);
   });
 
   test("finds objects by name, description and address while one types", async () => {
