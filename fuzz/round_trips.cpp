@@ -171,7 +171,7 @@ void KeepWhatRoundTrips(VoA2LElement& root) {
     waiting.pop_back();
     parent.valid = 1;
     const std::vector<VoA2LElement*> children(parent.children.begin(), parent.children.end());
-    parent.children = {};
+    parent.children.Clear();
     if (&parent != &root && !WritesChildren(parent)) continue;
     for (VoA2LElement* child : children) {
       if (child->kind == KIND_UNKNOWN || !ElementSurvives(*child)) continue;

@@ -104,7 +104,7 @@ void DestroyTree(VoA2LElement* element) {
   if (element->parent != nullptr) element->parent->children.Remove(element);
   TreeStore* const store = element->children.Store();
   if (store != nullptr && store->root == element) {
-    element->children = {};
+    element->children.Detach();
     delete store;
   }
 }

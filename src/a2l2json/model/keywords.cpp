@@ -65,9 +65,9 @@ constexpr bytes::Words MiddleOf(std::string_view text) {
   return {bytes::Load<std::uint64_t>(text.data() + 8),
           bytes::Load<std::uint64_t>(text.data() + text.size() - 16)};
 }
-static_assert(std::ranges::all_of(kKeywords, [](const Keyword& keyword) {
-  return keyword.text.size() <= 32;
-}));
+static_assert(std::ranges::all_of(kKeywords,
+                                  [](const Keyword& keyword) { return keyword.text.size() <= 32; }),
+              "two ends and two words between them hold no keyword of more than 32 characters");
 
 constexpr bool IsText(const Keyword& keyword, std::string_view text, bytes::Words ends) {
   return keyword.ends == ends && keyword.text.size() == text.size() &&

@@ -177,6 +177,11 @@ class List {
                 "items fill an array, of which the first has 16 bytes");
 
  public:
+  List() = default;
+  // Two lists cannot share an array, and a root whose list is replaced would lose its store.
+  List(const List&) = delete;
+  List& operator=(const List&) = delete;
+
   /// Appends `item`; the memory comes from `store`, the same one for every call on one list.
   void PushBack(TreeStore& store, Item item) {
     if (array_ == nullptr || array_->size == array_->room) Grow(store);
@@ -193,6 +198,8 @@ class List {
     array_->size = static_cast<std::uint32_t>(std::remove(begin(), end(), item) - begin());
   }
 
+  /// Forgets the items and their store, as if there had never been any.
+  void Detach() { array_ = nullptr; }
   /// Makes `store` known to a list that has none yet, before there are items.
   void Attach(TreeStore& store) {
     if (array_ == nullptr) Grow(store);
@@ -216,7 +223,7 @@ class List {
     std::uint32_t size;
     std::uint32_t room;
   };
-  static_assert(sizeof(Array) <= TreeStore::kArrayHead);
+  static_assert(sizeof(Array) <= TreeStore::kArrayHead, "the items begin behind the head");
 
   static constexpr unsigned kFirstSizeClass = 4;
   static constexpr unsigned kMostSizeClass = std::numeric_limits<std::size_t>::digits - 2;
