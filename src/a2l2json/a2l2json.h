@@ -9,6 +9,8 @@
 //       std::cout << measurement.NAME << " at " << address->ECU_ADDRESS << '\n';
 //   if (file) a2l::WriteJson(*file.tree, std::cout);
 //
+// a2l::Mend(text, options) tells what the layout of a text costs in its document, and mends it.
+//
 // Do not use the names in a2l::detail: they may change. If a name of the library is a macro in your
 // file, as BYTE_ORDER is with some headers of Linux, write it with an underscore at its end; see
 // names_begin.h.
@@ -16,6 +18,7 @@
 
 #include "a2l2json/elements/elements.h"
 #include "a2l2json/export/json_writer.h"
+#include "a2l2json/mend/mend.h"
 #include "a2l2json/model/name_index.h"
 #include "a2l2json/model/tree.h"
 #include "a2l2json/model/version.h"
