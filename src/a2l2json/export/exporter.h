@@ -44,6 +44,9 @@ class Exporter {
   }
 
  private:
+  // An object stands in an object as deep as the tables say, whatever the file holds.
+  // NOLINTBEGIN(misc-no-recursion)
+
   // Only the rows that have a value are visited; what stands between them is written with the next
   // one, or at the end.
   void Object(const ObjectTable& table, const VoA2LElement& element) {
@@ -141,6 +144,7 @@ class Exporter {
   void Write(IntegerForm take, const VoA2LElement& element) { sink_.Integer(take(element)); }
   void Write(RealForm take, const VoA2LElement& element) { sink_.Real(take(element)); }
   void Write(ObjectForm table, const VoA2LElement& element) { Object(*table, element); }
+  // NOLINTEND(misc-no-recursion)
 
   void Write(AddressForm take, const VoA2LElement& element) {
     const HexText text(take(element).value);

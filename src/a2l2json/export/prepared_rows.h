@@ -87,7 +87,9 @@ class RowSet {
   }
 
   /// Calls `function` with each row, in ascending order.
+  // A row may hold an object with rows of its own: as deep as the tables say.
   template <class Function>
+  // NOLINTNEXTLINE(misc-no-recursion)
   void ForEach(Function function) const {
     for (std::size_t i = 0; i < words_.size(); ++i) {
       for (std::uint64_t rest = words_[i]; rest != 0; rest &= rest - 1) {
