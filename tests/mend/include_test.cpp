@@ -66,6 +66,22 @@ TEST(MendInclude, GoesOnBehindTheDirective) {
          "include@1:15 same-line@1:30");
 }
 
+TEST(MendInclude, KeepsWhatFollowsFilesInInterfaceData) {
+  const auto expect = [](std::string_view text, const Files& files, std::string_view mended) {
+    const MendRun run =
+        RunMend("/begin IF_DATA X " + std::string(text) + "\n/end IF_DATA\n", files);
+    EXPECT_EQ(run.mended.text, "/begin IF_DATA X\n" + std::string(mended) + "\n/end IF_DATA\n");
+    EXPECT_EQ(RunMend(run.mended.text).mended.text, run.mended.text);
+  };
+  // Not in the comment at the end of the file, nor in its last word.
+  expect("/include a 2", {{"a", "1 // end"}}, " 1 // end\n 2");
+  expect("/include \"a\"2", {{"a", "1"}}, " 1 2");
+  expect("/include \"a\" 2", {{"a", "1\n"}}, " 1\n 2");
+  // Blank lines before all content go, wherever they stand.
+  expect("/include a\n2", {{"a", "\n\n"}}, " 2");
+  expect("/include a 2", {{"a", "\n\n 1"}}, " 1 2");
+}
+
 TEST(MendInclude, FollowsFilesInFiles) {
   Expect("/include \"a\"\n", {{"a", "ASAP2_VERSION /include \"b\"\n 71"}, {"b", "1"}},
          "ASAP2_VERSION 1 71\n", "include@1:1");

@@ -15,6 +15,8 @@ constexpr std::string_view kInclude = "/include";
 // little: no file in use comes close.
 constexpr std::size_t kMostDepth = 64;
 constexpr std::size_t kMostIncludes = 4096;
+// No name of a file has more bytes: what follows on a long line is not looked through each time.
+constexpr std::size_t kMostNameBytes = 1024;
 
 bool BeginsComment(std::string_view rest) {
   return rest.starts_with("//") || rest.starts_with("/*");
@@ -156,7 +158,8 @@ bool Lexer::FollowInclude(Word& word) {
   SkipToName(source);
   const std::string_view rest = source.Rest();
   // To the end of the line at most, without the white space there.
-  std::string_view line = rest.substr(0, rest.find_first_of("\r\n"));
+  std::string_view line = rest.substr(0, kMostNameBytes);
+  line = line.substr(0, line.find_first_of("\r\n"));
   std::string_view name;
   if (rest.starts_with('"')) {
     const std::size_t close = std::min(line.find('"', 1), line.size());

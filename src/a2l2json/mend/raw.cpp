@@ -2,6 +2,7 @@
 #include "a2l2json/mend/raw.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace a2l::mending {
 namespace {
@@ -15,11 +16,16 @@ std::string_view KeywordBehind(std::string_view rest) {
   return rest.substr(begin, end - begin);
 }
 
-// Whether a comment begins on the rest of the line, or what looks like one.
-bool CommentFollows(const Source& source) {
-  const std::string_view rest = source.Rest();
-  const std::string_view line = rest.substr(0, rest.find('\n'));
-  return line.find("//") != std::string_view::npos || line.find("/*") != std::string_view::npos;
+// To the converter, a star at the end of a line and a slash at the beginning of the next one end a
+// comment as well; what follows would be text.
+bool EndsSooner(std::string_view comment) {
+  for (std::size_t i = comment.find("\n/"); i != std::string_view::npos;
+       i = comment.find("\n/", i + 1)) {
+    std::size_t last = i;
+    while (comment[last] == '\n') --last;
+    if (last > 1 && comment[last] == '*') return true;
+  }
+  return false;
 }
 
 bool IsBlank(std::string_view text) { return std::ranges::all_of(text, &IsWhite); }
@@ -52,7 +58,9 @@ void RawText::SkipToEnd() {
     Source& source = lexer_.Top();
     if (source.AtEnd()) {
       Copy(source.position);
+      const std::string_view included = source.text;
       if (!lexer_.LeaveFile()) return CloseInner();
+      PartFrom(included);
       SetBegin(lexer_.Top().position);
       continue;
     }
@@ -85,6 +93,24 @@ void RawText::SkipToEnd() {
   }
 }
 
+// Whether a comment begins on the rest of the line, or what looks like one. The next text of a long
+// line need not look again.
+bool RawText::CommentFollows() {
+  const Source& source = lexer_.Top();
+  const char* const begin = source.text.data() + source.position;
+  if (std::less<>()(begin, searchedFrom_) || std::less<>()(searchedTo_, begin)) {
+    Source ahead = source;
+    for (ahead.MoveTo<'/', '\n'>(); !ahead.AtEnd(); ahead.MoveTo<'/', '\n'>()) {
+      if (ahead.text[ahead.position] == '\n' || ahead.HasComment()) break;
+      ++ahead.position;
+    }
+    searchedFrom_ = begin;
+    searchedTo_ = ahead.text.data() + ahead.position;
+    commentFollows_ = !ahead.AtEnd() && ahead.HasComment();
+  }
+  return commentFollows_;
+}
+
 // At the end of the file: blocks inside that are open are closed, or they would take the /end that
 // is written next for theirs.
 void RawText::CloseInner() {
@@ -97,6 +123,18 @@ void RawText::CloseInner() {
   }
 }
 
+// What follows the /include must not get into the last word or the last comment of the file.
+void RawText::PartFrom(std::string_view included) {
+  const Source& source = lexer_.Top();
+  if (isFirst_ || source.AtEnd() || source.text[source.position] == '\n') return;
+  const std::string_view last = included.substr(included.find_last_of('\n') + 1);
+  if (last.find("//") != std::string_view::npos) {
+    out_.Raw("\n");
+  } else if (!IsWhite(source.text[source.position])) {
+    out_.Raw(" ");
+  }
+}
+
 void RawText::Text() {
   Source& source = lexer_.Top();
   Word word = lexer_.Here(WordType::Text);
@@ -105,12 +143,13 @@ void RawText::Text() {
   if (!word.traits.isClosed && source.AtEnd()) {
     // What is written behind the end of the file must not get into the text.
     Rewrite(word, MendRule::TextWithoutEnd);
-  } else if (word.traits.hasComment || (word.traits.hasLineEnd && CommentFollows(source))) {
+  } else if (word.traits.hasComment || (word.traits.hasLineEnd && CommentFollows())) {
     // On the lines in which a text goes on, the converter takes comments out of it, and none behind
     // it.
     Rewrite(word, MendRule::TextComment);
-  } else if (word.traits.hasBackslashQuote && CommentFollows(source)) {
-    // To the converter the text goes on, and the comment behind it is none: its markers count.
+  } else if (word.traits.hasBackslashQuote && (word.traits.hasCommentSign || CommentFollows())) {
+    // To the converter the text goes on, and the comment behind it is none: its markers count. Or
+    // it ends sooner, at a doubled quote, and what looks like a comment behind that is one.
     Rewrite(word, MendRule::TextBackslash);
   } else if (word.traits.hasMarker) {
     PartMarkers(word);
@@ -145,6 +184,14 @@ void RawText::Comment() {
   Word word = lexer_.Here(WordType::Plain);
   const std::string_view text = source.text;
   if (SkipComment(source)) {
+    word.text = text.substr(word.begin, source.position - word.begin);
+    if (EndsSooner(word.text)) {
+      Copy(word.begin);
+      SetBegin(source.position);
+      Append(" ");
+      reporter_.Report(FindingAt(MendRule::Otherwise, word));
+      return;
+    }
     // Nothing stands in the place of a comment: words that touch it would become one.
     const std::size_t behind = source.position;
     const bool isBehindWord = word.begin > begin_ || word.begin == rewrittenEnd_;
@@ -153,7 +200,6 @@ void RawText::Comment() {
     if (!touches) return;
     Copy(behind);
     out_.Raw(" ");
-    word.text = text.substr(word.begin, behind - word.begin);
     reporter_.Report(FindingAt(MendRule::Comment, word));
     return;
   }
@@ -170,11 +216,24 @@ void RawText::Include() {
 }
 
 void RawText::Copy(std::size_t end) {
+  if (isFirst_) SkipBlankLines(end);
   if (begin_ == end) return;
   out_.SetPlace(lexer_.Top().name, beginLine_);
   Append(lexer_.Top().text.substr(begin_, end - begin_));
   begin_ = end;
   beginLine_ = out_.Line();
+}
+
+// Before the first word, also where that stands in an included file, or behind one.
+void RawText::SkipBlankLines(std::size_t end) {
+  const std::string_view text = lexer_.Top().text;
+  std::size_t i = begin_;
+  for (; i < end && IsWhite(text[i]); ++i) {
+    if (text[i] != '\n') continue;
+    begin_ = i + 1;
+    ++beginLine_;
+  }
+  if (i == end) begin_ = end;
 }
 
 void RawText::SetBegin(std::size_t position) {

@@ -28,7 +28,9 @@ class RawText {
  private:
   void SkipToContent();
   void SkipToEnd();
+  [[nodiscard]] bool CommentFollows();
   void CloseInner();
+  void PartFrom(std::string_view included);
   void Text();
   void Rewrite(const Word& word, MendRule rule);
   void PartMarkers(const Word& word);
@@ -36,6 +38,7 @@ class RawText {
   void Include();
   /// What has been read and not copied.
   void Copy(std::size_t end);
+  void SkipBlankLines(std::size_t end);
   /// What comes next begins at `position`, in the line of the file that is reached.
   void SetBegin(std::size_t position);
   void Append(std::string_view bytes);
@@ -48,6 +51,10 @@ class RawText {
   std::size_t beginLine_ = 1;
   std::size_t rewrittenEnd_ = static_cast<std::size_t>(-1);  // of the last text written anew
   bool isFirst_ = true;
+  // Where the line has been searched for a comment last.
+  const char* searchedFrom_ = nullptr;
+  const char* searchedTo_ = nullptr;
+  bool commentFollows_ = false;
   /// The keywords of the blocks inside that are open.
   std::vector<std::string_view> inner_;
 };
