@@ -173,6 +173,20 @@ TEST(MendTexts, KeepTabs) {
           ""});
 }
 
+// The converter takes white space at the end of a keyword's line away.
+TEST(MendTexts, LoseNothingByWhiteSpaceBeforeTheirFirstLineEnd) {
+  ExpectInModule("    /begin GROUP g \"a\r\nb\"\n    /end GROUP\n",
+                 "    /begin GROUP g \"a b\"\n    /end GROUP\n", "");
+  ExpectInModule("    /begin GROUP g \" \t\nb\"\n    /end GROUP\n",
+                 "    /begin GROUP g \" b\"\n    /end GROUP\n", "");
+  ExpectInModule("    /begin GROUP g \"a\r\nb\r\nc\"\n    /end GROUP\n",
+                 "    /begin GROUP g \"a b c\"\n    /end GROUP\n", "text-lines@3:20");
+  ExpectInModule("    /begin GROUP g \"a\f\nb\"\n    /end GROUP\n",
+                 "    /begin GROUP g \"a b\"\n    /end GROUP\n", "text-lines@3:20");
+  ExpectInModule("    /begin GROUP g\n\"a\r\nb\"\n    /end GROUP\n",
+                 "    /begin GROUP g \"a b\"\n    /end GROUP\n", "text-lines@4:1");
+}
+
 TEST(MendTexts, AreClosedBeforeTheNextBlock) {
   Expect({"/begin PROJECT p \"\"\n/begin HEADER \"never closed\n/end HEADER\n/end PROJECT\n",
           "/begin PROJECT p \"\"\n  /begin HEADER \"never closed\"\n  /end HEADER\n/end PROJECT\n",
@@ -232,6 +246,19 @@ TEST(MendRaw, SeparatesWhatACommentBehindATextJoins) {
   ExpectInModule("    /begin IF_DATA XCP\n 1\n\"a\n// b\"/* c */\"d\"\n    /end IF_DATA\n",
                  "    /begin IF_DATA XCP\n 1\n\"a // b\"/* c */ \"d\"\n    /end IF_DATA\n",
                  "text-comment@5:1 comment@6:6");
+}
+
+TEST(MendRaw, PartsABackslashFromADoubledQuoteBeforeWhatLooksLikeAComment) {
+  ExpectInModule("    /begin IF_DATA X\n \"a\\\\\"\"//b\" 1\n    /end IF_DATA\n",
+                 "    /begin IF_DATA X\n \"a\\\\ \"\"//b\" 1\n    /end IF_DATA\n",
+                 "text-backslash@4:2");
+}
+
+TEST(MendRaw, TakesACommentAwayThatTheConverterEndsSooner) {
+  ExpectInModule("    /begin IF_DATA X\n 1 /* a *\n/ b */ 2 /**/ 3\n    /end IF_DATA\n",
+                 "    /begin IF_DATA X\n 1   2 /**/ 3\n    /end IF_DATA\n", "otherwise@4:4");
+  ExpectInModule("    /begin IF_DATA X\n 1 /*\n/ b */ 2\n    /end IF_DATA\n",
+                 "    /begin IF_DATA X\n 1 /*\n/ b */ 2\n    /end IF_DATA\n", "");
 }
 
 TEST(MendRaw, TellsOfUnknownBlocks) {
@@ -403,6 +430,13 @@ TEST(MendGrammar, TellsOfEndsThatCloseNothing) {
           "/begin PROJECT p \"\"\n  /end MODULE\n/end PROJECT\n", "end-unmatched@2:8"});
 }
 
+TEST(MendGrammar, TakesAMarkerAtTheEndOfTheFileAway) {
+  Expect({"/begin PROJECT p \"\"\n/end", "/begin PROJECT p \"\"\n/end PROJECT\n",
+          "end-unmatched@2:1 end-missing@1:8"});
+  Expect({"/begin PROJECT p \"\"\n/begin", "/begin PROJECT p \"\"\n/end PROJECT\n",
+          "begin-refused@2:1 end-missing@1:8"});
+}
+
 TEST(MendGrammar, TellsOfACommentThatIsNotClosed) {
   Expect({"ASAP2_VERSION 1 71\n/* for ever\n", "ASAP2_VERSION 1 71\n", "comment-without-end@2:1"});
 }
@@ -429,6 +463,16 @@ TEST(Mend, GoesOnBehindAnErrorOfTheConverter) {
 }
 
 // Behind the child at the end of such a list, everything is dropped, on whatever line it stands.
+// To the converter these are keywords in every block, but only at the beginning of a line.
+TEST(MendLists, MayHoldTheKeywordsOfTheFileAsNames) {
+  ExpectInModule(
+      "    /begin GROUP g \"\"\n      /begin SUB_GROUP\n        a ASAP2_VERSION A2ML_VERSION b\n"
+      "      /end SUB_GROUP\n    /end GROUP\n",
+      "    /begin GROUP g \"\"\n      /begin SUB_GROUP\n        a ASAP2_VERSION A2ML_VERSION\n"
+      "        b\n      /end SUB_GROUP\n    /end GROUP\n",
+      "");
+}
+
 TEST(Mend, LeavesSurplusWordsOfAListOnTheirLines) {
   for (const std::string_view separator : {"\t", " ", "\n"}) {
     std::string text;

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "a2l2json/model/keywords.h"
+#include "a2l2json/text/tokenizer.h"
 
 namespace a2l::mending {
 namespace {
@@ -128,9 +129,12 @@ TextTraits SkipText(Source& source, std::string_view keyword) {
           traits.isClosed = false;
           return traits;
         }
-        traits.hasLineEnd = true;
-        const bool isEven = !IsWhite(text[i - 1]) && i + 1 < text.size() && !IsWhite(text[i + 1]);
+        std::size_t last = i - 1;
+        while (!traits.hasLineEnd && IsTrimmed(text[last])) --last;
+        traits.hasWhiteFirstEnd = traits.hasWhiteFirstEnd || last != i - 1;
+        const bool isEven = !IsWhite(text[last]) && i + 1 < text.size() && !IsWhite(text[i + 1]);
         traits.hasUnevenLines = traits.hasUnevenLines || !isEven;
+        traits.hasLineEnd = true;
         source.EndLine();
         source.atLineStart = false;
       }

@@ -73,6 +73,9 @@ struct TextTraits {
   bool hasLineEnd = false;
   /// White space beside a line end in it, which the converter keeps.
   bool hasUnevenLines = false;
+  /// Only at the end of its first line, where the converter takes it away if the keyword that the
+  /// text belongs to stands there, too.
+  bool hasWhiteFirstEnd = false;
   /// "/begin" or "/end" in it.
   bool hasMarker = false;
   /// "//" or "/*" in it, and behind a line end in it.

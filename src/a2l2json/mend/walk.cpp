@@ -122,7 +122,9 @@ const Element& Walk::OpenElement() const {
 
 bool Walk::IsKeywordHere(const Word& word) const {
   const ElementKind kind = KindOf(word);
-  return IsProperty(kind) && OpenDeclaration().accepts.Contains(kind);
+  // The converter takes these everywhere, but where they have no place they are names like others.
+  const bool isOfFile = kBaseChildren.Contains(kind) && !frames_.empty();
+  return IsProperty(kind) && !isOfFile && OpenDeclaration().accepts.Contains(kind);
 }
 
 // The converter finds the keyword of a child in a longer word as well.
@@ -155,14 +157,16 @@ void Walk::BeginMarker(const Word& marker) {
   OpenBlock(word, kind);
 }
 
-// A marker without a keyword is written as it is: nothing better is known.
+// A marker without a keyword is written as it is: nothing better is known. At the end of the file
+// it would get hold of the /end that is added behind it.
 void Walk::BadMarker(const Word& marker, const Word& word, MendRule rule) {
   Report(rule, marker, OpenElement());
   comparison_.Interrupt();
+  returned_ = word;
+  if (word.type == WordType::EndOfInput) return;
   out_.BeginLine(frames_.size());
   out_.Plain(marker.text);
   mayFollow_ = false;
-  returned_ = word;
 }
 
 void Walk::OpenBlock(const Word& word, ElementKind kind) {
@@ -386,7 +390,9 @@ void Walk::ParameterDue(const Word& word) {
 
 void Walk::CheckText(const Word& word) {
   const TextTraits& traits = word.traits;
-  const bool isUneven = traits.hasUnevenLines && !traits.hasComment && word.isInMain;
+  const bool keepsFirstEnd = traits.hasWhiteFirstEnd && Item().line != word.line;
+  const bool isUneven =
+      (traits.hasUnevenLines || keepsFirstEnd) && !traits.hasComment && word.isInMain;
   if (!traits.isClosed) Report(MendRule::TextWithoutEnd, word, Item());
   if (traits.hasMarker) Report(MendRule::TextMarker, word, Item());
   if (traits.hasBackslashQuote) Report(MendRule::TextBackslash, word, Item());
