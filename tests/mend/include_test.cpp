@@ -82,6 +82,19 @@ TEST(MendInclude, KeepsWhatFollowsFilesInInterfaceData) {
   expect("/include a 2", {{"a", "\n\n 1"}}, " 1 2");
 }
 
+TEST(MendInclude, TakesANameWithBlanksWhoseFirstWordIsThatOfAFolder) {
+  MendOptions options;
+  options.open = [](std::string_view name, std::string_view /*from*/) {
+    IncludedFile file;
+    const bool isFile = name == "my files/a.a2l";
+    file.status = isFile ? IncludedFile::Status::Read : IncludedFile::Status::Refused;
+    file.path = "a.a2l";
+    file.bytes = "1 71";
+    return file;
+  };
+  EXPECT_EQ(Mend("ASAP2_VERSION\n/include my files/a.a2l\n", options).text, "ASAP2_VERSION 1 71\n");
+}
+
 TEST(MendInclude, FollowsFilesInFiles) {
   Expect("/include \"a\"\n", {{"a", "ASAP2_VERSION /include \"b\"\n 71"}, {"b", "1"}},
          "ASAP2_VERSION 1 71\n", "include@1:1");

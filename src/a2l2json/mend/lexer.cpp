@@ -180,13 +180,15 @@ bool Lexer::FollowInclude(Word& word) {
   finding.word = name;
   if (!name.empty()) {
     if (Open(word, name, problem, detail)) return true;
-    // A name without quotes may have blanks in it.
-    if (problem == MendRule::IncludeMissing && !rest.starts_with('"') &&
-        line.size() > name.size()) {
+    // A name without quotes may have blanks in it; its first word may be the name of a folder.
+    const bool isNoFile =
+        problem == MendRule::IncludeMissing || problem == MendRule::IncludeRefused;
+    if (isNoFile && !rest.starts_with('"') && line.size() > name.size()) {
       std::string ignored;
+      MendRule ignoredProblem = problem;
       const std::size_t position = source.position;
       source.position += line.size() - name.size();
-      if (Open(word, line, problem, ignored)) return true;
+      if (Open(word, line, ignoredProblem, ignored)) return true;
       source.position = position;
     }
   }
