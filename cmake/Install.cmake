@@ -87,7 +87,7 @@ install(
 
 # The pages for users. Links to files that are not installed become plain text, and the names of
 # test cases are removed.
-set(not_installed "(\\.\\./)?(tests/|CONTRIBUTING|docs/(adding|design|javascript|performance))")
+set(not_installed "(\\.\\./)?(tests/|CONTRIBUTING|docs/(adding|design|javascript|page|performance|python))")
 foreach(page README.md docs/json.md docs/mending.md docs/reading-a2l.md docs/recipes.md)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${page}")
   file(READ "${PROJECT_SOURCE_DIR}/${page}" text)
