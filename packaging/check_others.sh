@@ -54,7 +54,7 @@ assert module[\"FMEASUREMENT\"], module
 try:
     a2l2json.load(\"bin/python3\")
 except a2l2json.A2LError as error:
-    assert \"no A2L file\" in str(error), error
+    assert \"not an A2L file\" in str(error), error
 else:
     raise AssertionError(\"a program was converted\")
 " >loaded.json

@@ -192,7 +192,8 @@ TEST(CInterface, TellsWhatIsNoA2lFile) {
   for (const NoA2lRow& row : kNoA2l) {
     const Result text = Convert(row.bytes);
     EXPECT_EQ(a2l2json_result_code(text.get()), A2L2JSON_NOT_A2L) << row.sentence;
-    EXPECT_EQ(a2l2json_error(text.get()), "The text is not an A2L file." + std::string(row.sentence));
+    EXPECT_EQ(a2l2json_error(text.get()),
+              "The text is not an A2L file." + std::string(row.sentence));
     EXPECT_EQ(Document(text), kEmptyDocument);
 
     const std::string path = (folder / "in.a2l").string();
@@ -378,7 +379,8 @@ TEST(CInterface, StopsWhereTheCallerDoesNotTakeTheDocument) {
   const a2l2json_options options = Into(taken);
   const Result result = Convert(text, &options);
   EXPECT_EQ(a2l2json_result_code(result.get()), A2L2JSON_NOT_WRITTEN);
-  EXPECT_STREQ(a2l2json_error(result.get()), "The function that takes the document did not take all of it.");
+  EXPECT_STREQ(a2l2json_error(result.get()),
+               "The function that takes the document did not take all of it.");
   EXPECT_EQ(taken.refuseAfter, -1) << "it is not asked again";
   EXPECT_EQ(taken.bytes, Document(Convert(text)).substr(0, taken.bytes.size()));
 }

@@ -60,7 +60,8 @@ std::vector<std::string_view> Split(std::string_view text) {
   return words;
 }
 
-// "NAME:n": a name, and a type by its first letter or a set of words.
+// "NAME:n": a name, and a type by a letter or a set of words. The letters:
+// n name, t text, u unsigned, a address, i signed, m mask, r real, c checked, d discarded
 Parameter ReadParameter(std::string_view text) {
   const std::size_t colon = text.find(':');
   const std::string_view type = text.substr(colon + 1);

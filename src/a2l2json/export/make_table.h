@@ -24,12 +24,14 @@ namespace a2l {
 template <const auto& kRows>
 inline constexpr PreparedRows<kRows> kPrepared;
 
-template <const auto& kRows>
-inline constexpr auto kRowWriters = []<std::size_t... kIndex>(std::index_sequence<kIndex...>) {
+template <const auto& kRows, std::size_t... kIndex>
+consteval auto MakeRowWriters(std::index_sequence<kIndex...> /*rows*/) {
   return std::array<RowWriter, sizeof...(kIndex)>{
       &Exporter<JsonText>::WriteRowOf<kRows, kIndex>...};
 }
-(std::make_index_sequence<std::size(kRows)>());
+template <const auto& kRows>
+inline constexpr auto kRowWriters =
+    MakeRowWriters<kRows>(std::make_index_sequence<std::size(kRows)>());
 
 namespace table_checks {
 

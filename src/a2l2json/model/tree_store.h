@@ -243,7 +243,7 @@ class List {
     auto* const array = new (store.AllocateArray(sizeClass))
         Array{&store, static_cast<std::uint32_t>(size()), static_cast<std::uint32_t>(room)};
     if (array_ != nullptr) {
-      std::memcpy(array + 1, array_ + 1, array_->size * sizeof(Item));
+      std::memcpy(array + 1, begin(), array_->size * sizeof(Item));
       store.RecycleArray(array_, SizeClass());
     }
     array_ = array;
