@@ -21,7 +21,12 @@ const licences: Plugin = {
   },
 };
 
-const browser = { testTimeout: 60e3, hookTimeout: 60e3, fileParallelism: false };
+const browser = {
+  testTimeout: 60e3,
+  hookTimeout: 60e3,
+  fileParallelism: false,
+  expect: { poll: { timeout: 30e3 } }, // a page may be slow on a machine that does much else
+};
 
 // Everything goes into the page: styles, the worker, and the module inside the worker.
 export default defineConfig({

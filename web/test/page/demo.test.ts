@@ -25,12 +25,12 @@ describe.skipIf(executable === undefined)("the page", () => {
 
   test("shows at once what is in a file", async () => {
     const page = await opened(demo);
-    const text = await page.locator(".detail").innerText();
+    const detail = page.locator(".detail");
     for (const part of ["Demo", "Idle speed control of a demonstration engine", "R2.1", "1.71"]) {
-      expect(text).toContain(part);
+      await expect.poll(() => detail.innerText()).toContain(part);
     }
-    expect(await page.getByRole("button", { name: "COMPU_METHOD 2" }).count()).toBe(1);
-    expect(await page.title()).toBe("demo.a2l – a2l2json");
+    await expect.poll(() => page.getByRole("button", { name: "COMPU_METHOD 2" }).count()).toBe(1);
+    await expect.poll(() => page.title()).toBe("demo.a2l – a2l2json");
   });
 
   test("carries the licences of what is in it", () => {
@@ -53,16 +53,16 @@ describe.skipIf(executable === undefined)("the page", () => {
     const page = await opened(file("findings.a2l", text));
     const findings = page.getByRole("listbox", { name: "Findings" });
     const first = findings.getByRole("option").first();
-    expect(await first.innerText()).toMatch(/line [34]\b/);
+    await expect.poll(() => first.innerText()).toMatch(/line [34]\b/);
     await first.click();
     await page.locator(".marked", { hasText: /COLOUR|ECU_ADDRESS/ }).waitFor();
     await page.goBack();
     await page.getByRole("listbox", { name: "Findings" }).waitFor();
     const message = page.getByRole("listbox", { name: "Messages" }).getByRole("option").first();
-    expect(await message.innerText()).toMatch(/line 3\b/);
+    await expect.poll(() => message.innerText()).toMatch(/line 3\b/);
     await message.click();
     await page.locator(".marked", { hasText: "COLOUR" }).waitFor();
-    expect(await page.getByRole("heading", { name: "Source" }).count()).toBe(1);
+    await expect.poll(() => page.getByRole("heading", { name: "Source" }).count()).toBe(1);
   });
 
   test("finds objects by name, description and address while one types", async () => {
@@ -80,31 +80,34 @@ describe.skipIf(executable === undefined)("the page", () => {
     const page = await opened(demo);
     await page.getByRole("button", { name: "COMPU_METHOD 2" }).click();
     await expect.poll(() => page.locator(".objects .row").count()).toBe(2);
-    expect(await page.locator(".objects .row b").allInnerTexts()).toEqual([
-      "CM_Speed",
-      "CM_Temperature",
-    ]);
+    await expect
+      .poll(() => page.locator(".objects .row b").allInnerTexts())
+      .toEqual(["CM_Speed", "CM_Temperature"]);
   });
 
   test("opens an object: values with units, references as links, source and JSON", async () => {
     const page = await opened(demo);
     await openObject(page, "IdleSpeed", "CHARACTERISTIC");
     const detail = page.locator(".detail");
-    expect(await detail.innerText()).toContain("500 1/min");
-    expect(await page.getByRole("region", { name: "Lines of the source" }).innerText()).toContain(
-      "AXIS_PTS_REF TemperatureAxis",
-    );
+    await expect.poll(() => detail.innerText()).toContain("500 1/min");
+    await expect
+      .poll(() => page.getByRole("region", { name: "Lines of the source" }).innerText())
+      .toContain("AXIS_PTS_REF TemperatureAxis");
     await page.getByText("Show the JSON as it is").click();
-    const json = await page.locator("pre[aria-label=JSON]").innerText();
+    const json = page.locator("pre[aria-label=JSON]");
     const { FModules } = JSON.parse(readFileSync(path.join(top, "examples/demo.json"), "utf8"));
-    expect(JSON.parse(json)).toEqual(FModules[0].FCHARACTERISTIC[0]);
+    await expect
+      .poll(async () => JSON.parse(await json.innerText()))
+      .toEqual(FModules[0].FCHARACTERISTIC[0]);
 
     // Along the references, and back.
     await detail.getByRole("link", { name: "TemperatureAxis" }).first().click();
     await page.locator("#title", { hasText: "TemperatureAxis" }).waitFor();
-    expect(await page.locator("#title").evaluate((e) => e === document.activeElement)).toBe(true);
+    await expect
+      .poll(() => page.locator("#title").evaluate((e) => e === document.activeElement))
+      .toBe(true);
     const from = page.getByRole("region", { name: "Referred to by" });
-    expect(await from.innerText()).toContain("IdleSpeed");
+    await expect.poll(() => from.innerText()).toContain("IdleSpeed");
     await page.goBack();
     await page.locator("#title", { hasText: "IdleSpeed" }).waitFor();
     await detail.getByRole("link", { name: "IdleControl" }).click();
@@ -114,19 +117,17 @@ describe.skipIf(executable === undefined)("the page", () => {
   test("shows conversions as a curve or a table", async () => {
     const page = await opened(demo);
     await openObject(page, "CM_Speed");
-    expect(
-      await page.getByRole("img", { name: /^Curve from raw/ }).getAttribute("aria-label"),
-    ).toBe(
-      // of EngineSpeed, 0 to 8000: raw = 4 x
-      "Curve from raw 0 to 32000, physical 0 to 8000 1/min",
-    );
+    await expect
+      .poll(() => page.getByRole("img", { name: /^Curve from raw/ }).getAttribute("aria-label"))
+      .toBe(
+        // of EngineSpeed, 0 to 8000: raw = 4 x
+        "Curve from raw 0 to 32000, physical 0 to 8000 1/min",
+      );
     await openObject(page, "CV_Gear");
     const table = page.getByRole("region", { name: "Table of the conversion" });
-    expect(await table.locator("tbody tr").allInnerTexts()).toEqual([
-      "0\tneutral",
-      "1\tdrive",
-      "otherwise\tunknown",
-    ]);
+    await expect
+      .poll(() => table.locator("tbody tr").allInnerTexts())
+      .toEqual(["0\tneutral", "1\tdrive", "otherwise\tunknown"]);
   });
 
   test("shows groups and functions as trees", async () => {
@@ -147,16 +148,16 @@ describe.skipIf(executable === undefined)("the page", () => {
     const page = await opened(file("later.a2l", later));
     await page.locator("input[type=file]").nth(1).setInputFiles(demo);
     const list = page.getByRole("listbox", { name: "Differences" });
-    await list.getByRole("option").nth(2).waitFor();
-    const rows = (await list.getByRole("option").allInnerTexts()).map((row) => row.split("\n"));
-    expect(rows.map(([state, name]) => `${state} ${name}`)).toEqual([
-      "came CV_Gears",
-      "changed EngineSpeed",
-      "went CV_Gear",
-    ]);
+    const rows = async (): Promise<string[]> => {
+      const texts = await list.getByRole("option").allInnerTexts();
+      return texts.map((text) => text.split("\n").slice(0, 2).join(" "));
+    };
+    await expect.poll(rows).toEqual(["came CV_Gears", "changed EngineSpeed", "went CV_Gear"]);
     await list.getByText("EngineSpeed").click();
     const table = page.getByRole("region", { name: "What changed" });
-    expect(await table.locator("tbody tr").allInnerTexts()).toEqual(["UPPER_LIMIT\t8000\t9000"]);
+    await expect
+      .poll(() => table.locator("tbody tr").allInnerTexts())
+      .toEqual(["UPPER_LIMIT\t8000\t9000"]);
     expect(await barriers(page)).toEqual([]);
   });
 
@@ -213,12 +214,12 @@ describe.skipIf(executable === undefined)("the page", () => {
     await page.keyboard.press("ArrowDown"); // into the list
     await page.keyboard.press("ArrowDown");
     const active = page.locator("#Found-objects-1");
-    expect(await page.locator(".objects .list").getAttribute("aria-activedescendant")).toBe(
-      await active.getAttribute("id"),
-    );
+    await expect
+      .poll(() => page.locator(".objects .list").getAttribute("aria-activedescendant"))
+      .toBe(await active.getAttribute("id"));
     await page.keyboard.press("Enter");
     await page.locator("#title", { hasText: "CM_Temperature" }).waitFor();
-    expect(await active.getAttribute("aria-selected")).toBe("true");
+    await expect.poll(() => active.getAttribute("aria-selected")).toBe("true");
     await page.keyboard.press("Home");
     await page.keyboard.press("Enter");
     await page.locator("#title", { hasText: "CM_Speed" }).waitFor();
