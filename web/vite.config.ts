@@ -22,8 +22,8 @@ const licences: Plugin = {
 };
 
 const browser = {
-  testTimeout: 60e3,
-  hookTimeout: 60e3,
+  testTimeout: 180e3,
+  hookTimeout: 180e3,
   fileParallelism: false,
   expect: { poll: { timeout: 30e3 } }, // a page may be slow on a machine that does much else
 };
