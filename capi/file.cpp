@@ -9,6 +9,7 @@
 #include <system_error>
 
 #include "a2l2json/a2l2json.h"
+#include "a2l2json/mend/include_reader.h"
 #include "a2l2json/model/file_path.h"
 #include "a2l2json/reader/input_file.h"
 #include "capi/a2l2json.h"
@@ -34,16 +35,9 @@ std::optional<std::string> Beginning(const std::string& name) {
 
 // All bytes of the file; an error if they cannot be read.
 a2l::FileError Load(const std::string& name, std::string& bytes) {
-  constexpr std::streamsize kPiece = std::streamsize{1} << 20U;
   a2l::InputFile file(name);
-  if (file.Error() != a2l::FileError::None) return file.Error();
   std::istream in(&file);
-  do {
-    const std::size_t size = bytes.size();
-    bytes.resize(size + kPiece);
-    in.read(bytes.data() + size, kPiece);
-    bytes.resize(size + static_cast<std::size_t>(in.gcount()));
-  } while (in.good());
+  static_cast<void>(a2l::ReadToEnd(in, bytes));  // the file tells why
   return file.Error();
 }
 
