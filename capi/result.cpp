@@ -206,7 +206,7 @@ void Convert(const Input& input, const a2l2json_options& options, a2l2json_resul
   }
   if (read.tree->ChildCount() == 0) {
     const std::optional<std::string> beginning = input.beginning();
-    const std::string_view why = beginning.has_value() ? WhyNoA2l(*beginning) : "";
+    const std::string why = beginning.has_value() ? WhyNoA2l(*beginning, mends) : std::string();
     if (read.ok || !why.empty()) Fail(result, A2L2JSON_NOT_A2L, NoA2l(input, why));
   }
   if (!read.ok) {

@@ -2,7 +2,6 @@
 #include "app/mend/files.h"
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
@@ -11,6 +10,7 @@
 #include <system_error>
 #include <utility>
 
+#include "a2l2json/mend/packed.h"
 #include "a2l2json/model/file_path.h"
 #include "app/mend/encoding.h"
 
@@ -38,28 +38,11 @@ Problem WriteFile(const fs::path& path, std::string_view bytes) {
   return out.fail() ? LastProblem() : Problem();
 }
 
-// What a file begins with that holds others in a packed form.
-struct Packed {
-  std::string_view begin;
-  std::string_view name;
-};
-constexpr std::array kPacked = {
-    Packed{"\x1F\x8B", "gzip"},
-    Packed{"PK\x03\x04", "zip"},
-    Packed{"BZh", "bzip2"},
-    Packed{{"\xFD\x37zXZ"}, "xz"},
-    Packed{"7z\xBC\xAF\x27\x1C", "7-Zip"},
-    Packed{"\x28\xB5\x2F\xFD", "zstd"},
-};
-
 Problem ProblemOf(std::string_view bytes) {
   if (bytes.empty()) return "it is empty";
-  for (const Packed& packed : kPacked) {
-    if (bytes.starts_with(packed.begin)) {
-      return "it is packed with " + std::string(packed.name) + "; unpack it first";
-    }
-  }
-  return {};
+  const std::string_view packer = PackedWith(bytes);
+  if (packer.empty()) return {};
+  return "it is packed with " + std::string(packer) + "; unpack it first";
 }
 
 Problem Convert(const std::string& encoding, std::string& bytes) {

@@ -69,8 +69,19 @@ test("warnings are data", async () => {
       severity: "warning",
       kind: "unexpected-element",
       text: "unexpected element COLOUR",
+      file: "",
     },
   ]);
+});
+
+test("diagnostics and findings name the file that they are in", async () => {
+  const text = `COLOUR red\n${project("").toString().replace(/\n/g, " ")}`;
+  for (const mend of [false, true]) {
+    const { diagnostics, findings } = await convert(text, { mend, name: "engine ü.a2l" });
+    assert.ok(diagnostics.length > 0);
+    assert.equal(findings.length > 0, mend);
+    for (const { file } of [...diagnostics, ...findings]) assert.equal(file, "engine ü.a2l");
+  }
 });
 
 test("an error tells where it is, and what came before", async () => {
@@ -90,7 +101,7 @@ test("an error tells where it is, and what came before", async () => {
 test("what is not an A2L file gets a sentence", async () => {
   const sentences = [
     ["", "The text is not an A2L file. It is empty."],
-    [gzipSync(demo), "The text is not an A2L file. It is compressed (gzip): decompress it first."],
+    [gzipSync(demo), "The text is not an A2L file. It is packed with gzip: unpack it first."],
     ["Dear Sir or Madam", "The text is not an A2L file. Nothing in it could be read."],
   ];
   for (const [input, sentence] of sentences) {
@@ -137,6 +148,7 @@ test("texts are in the encoding that is named", async () => {
   assert.equal(result.json().FProject_LONG_IDENTIFIER, "он");
   assert.ok(Buffer.from(result.document).includes(Buffer.from([0xcf, 0xce])), "the bytes stay");
 });
+
 test("what is no input or no option is refused", async () => {
   await assert.rejects(convert(5), TypeError);
   await assert.rejects(convert(undefined), TypeError);

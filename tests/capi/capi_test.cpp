@@ -177,8 +177,13 @@ struct NoA2lRow {
 
 constexpr NoA2lRow kNoA2l[] = {
     {"", " It is empty."},
-    {"\x1F\x8B\x08\x00"sv, " It is compressed (gzip): decompress it first."},
-    {"PK\x03\x04rest", " It is a ZIP archive: take the A2L file out of it first."},
+    {"\x1F\x8B\x08\x00"sv, " It is packed with gzip: unpack it first."},
+    {"PK\x03\x04rest", " It is packed with zip: unpack it first."},
+    {"7z\xBC\xAF\x27\x1C\x00"sv, " It is packed with 7-Zip: unpack it first."},
+    {"\xFD\x37zXZ\x00"sv, " It is packed with xz: unpack it first."},
+    {"BZh91AY", " It is packed with bzip2: unpack it first."},
+    {"\x28\xB5\x2F\xFD", " It is packed with zstd: unpack it first."},
+    {"\x7F\x45LF\x02\x01"sv, " It is a program in the ELF format, not its description."},
     {"\xFF\xFE/\0b\0"sv, " It is UTF-16 text: convert it to UTF-8 first, or turn mending on."},
     {"\xFE\xFF\0/\0b"sv, " It is UTF-16 text: convert it to UTF-8 first, or turn mending on."},
     {"<?xml version=\"1.0\"?>\n", " It is XML."},
@@ -203,7 +208,14 @@ TEST(CInterface, TellsWhatIsNoA2lFile) {
   }
 }
 
-TEST(CInterface, TellsWhatIsCompressedEvenWhereItHoldsAnError) {
+TEST(CInterface, AsksNobodyToTurnOnMendingThatIsOn) {
+  a2l2json_options options = A2L2JSON_OPTIONS_INIT;
+  options.mend = 1;
+  EXPECT_STREQ(a2l2json_error(Convert("\xFF\xFEH\0i\0"sv, &options).get()),
+               "The text is not an A2L file. Nothing in it could be read.");
+}
+
+TEST(CInterface, TellsWhatIsPackedEvenWhereItHoldsAnError) {
   const Result result = Convert("\x1F\x8B\n/end X\n/*");
   EXPECT_EQ(a2l2json_result_code(result.get()), A2L2JSON_NOT_A2L);
   EXPECT_EQ(Document(result), "(none)");
@@ -241,7 +253,6 @@ TEST(CInterface, MendsTheTextBeforeTheConversion) {
   options.mend = 1;
   options.name = "engine.a2l";
   const Result result = Convert(kOneLine, &options);
-  EXPECT_EQ(a2l2json_can_mend(), 1);
   EXPECT_EQ(a2l2json_result_code(result.get()), A2L2JSON_OK);
   EXPECT_NE(Document(result).find(R"("FECU_ADDRESS": "0x51A50")"), std::string::npos)
       << Document(result);

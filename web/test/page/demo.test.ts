@@ -234,7 +234,7 @@ describe.skipIf(executable === undefined)("the page", () => {
     await says(file("empty.a2l", ""), "empty.a2l is not an A2L file. It is empty.");
     await says(
       file("packed.a2l", gzipSync(readFileSync(demo))),
-      "packed.a2l is not an A2L file. It is compressed (gzip): decompress it first.",
+      "packed.a2l is not an A2L file. It is packed with gzip: unpack it first.",
     );
     await says(file("letter.txt", "Dear reader,\n"), "letter.txt is not an A2L file.");
     const large = file("large.a2l", "");
