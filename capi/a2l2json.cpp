@@ -58,8 +58,6 @@ const char* a2l2json_version() {
   return a2l::Version().data();  // NOLINT(bugprone-suspicious-stringview-data-usage): a literal
 }
 
-int a2l2json_can_mend() { return 1; }
-
 a2l2json_code a2l2json_convert_text(const char* text, size_t size, const a2l2json_options* options,
                                     a2l2json_result** result) {
   return a2l::capi::Call(

@@ -62,9 +62,6 @@ A2L2JSON_API const char* a2l2json_code_text(a2l2json_code code);
 /** The version of the library, as in "1.0.0". */
 A2L2JSON_API const char* a2l2json_version(void);
 
-/** Whether this library can mend (see a2l2json_options): 1 or 0. */
-A2L2JSON_API int a2l2json_can_mend(void);
-
 /* ------------------------------------------------------------------------------------------ */
 /* Converting */
 

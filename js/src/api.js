@@ -177,12 +177,11 @@ export async function convert(input, options = {}) {
   const pieces = [];
   const run = await Run.create(await module(), (piece) => pieces.push(piece.slice()));
   try {
-    const mends = mend && run.canMend;
     // A string is in no encoding; and without mending the document has the bytes of the input.
-    const from = typeof input === "string" || !mends ? undefined : encoding;
+    const from = typeof input === "string" || !mend ? undefined : encoding;
     await fill(run, bytes, from);
-    const code = run.convert({ name, mend: mends });
-    const toText = typeof input === "string" || mends ? undefined : encoding;
+    const code = run.convert({ name, mend });
+    const toText = typeof input === "string" || mend ? undefined : encoding;
     const asText = (text) => decode(text, toText);
     const details = {
       code,

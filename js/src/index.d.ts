@@ -31,12 +31,15 @@ export interface Diagnostic {
   readonly kind: string;
   /** As in "unexpected element COLOUR". */
   readonly text: string;
+  /** The file that it is in, as the option `name` calls it. */
+  readonly file: string;
 }
 
 /** What the layout of the text would cost, or what is lost whatever the layout. */
 export interface Finding {
   /** As in "same-line". */
   readonly rule: string;
+  /** As in a diagnostic. */
   readonly file: string;
   readonly line: number;
   /** In bytes, the first being 1. */
@@ -65,7 +68,6 @@ export type ErrorCode =
   | "not-converted" /** the text holds an error, in `line` */
   | "too-large"
   | "no-memory"
-  | "not-available"
   | "internal-error";
 
 /** The input cannot be converted; `message` is a sentence that tells why. */

@@ -24,7 +24,7 @@ const CODES = [
 export class OutOfMemory extends Error {}
 
 // The members of the structures of the C interface, as they lie in the module's memory.
-const DIAGNOSTIC = { line: 0, severity: 4, kind: 12, text: 16, size: 20 };
+const DIAGNOSTIC = { line: 0, severity: 4, kind: 12, text: 16, size: 20, file: 24 };
 const FINDING = { rule: 0, file: 4, line: 8, column: 12, text: 16, size: 20, mended: 24 };
 
 export class Run {
@@ -65,10 +65,6 @@ export class Run {
 
   get version() {
     return this.#string(this.#exports.a2l2json_version());
-  }
-
-  get canMend() {
-    return this.#exports.a2l2json_can_mend() !== 0;
   }
 
   /**
@@ -123,6 +119,7 @@ export class Run {
       severity: number("severity") === 0 ? "warning" : "error",
       kind: string("kind"),
       text: decode(text()),
+      file: string("file"),
     }));
   }
   findings(decode) {

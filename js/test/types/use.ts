@@ -12,7 +12,8 @@ export async function names(bytes: Uint8Array): Promise<string[]> {
   document.FMeasurements;
   // @ts-expect-error: nobody may change it
   result.diagnostics[0].line = 1;
-  return measurements.map((measurement) => measurement.FNAME);
+  const files: string[] = [...result.diagnostics, ...result.findings].map(({ file }) => file);
+  return [...files, ...measurements.map((measurement) => measurement.FNAME)];
 }
 
 export async function failures(text: string, blob: Blob): Promise<readonly Diagnostic[]> {
