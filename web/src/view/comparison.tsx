@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-import { useCallback, useEffect, useState } from "preact/hooks";
+import { useCallback, useState } from "preact/hooks";
 
 import type { State } from "../model/compare.ts";
 import type { Json } from "../model/json_text.ts";
-import type { ChangeDetail, ChangeRow, Comparison } from "../worker/answers.ts";
+import type { ChangeRow, Comparison } from "../worker/answers.ts";
+import { useAnswer } from "./answer.ts";
 import { backend, renamed, save } from "./backend.ts";
 import { List } from "./list.tsx";
 import { go, href } from "./route.ts";
@@ -11,6 +12,7 @@ import { Title } from "./title.tsx";
 import { counted, grouped, keyword } from "./words.ts";
 
 const STATES: readonly State[] = ["came", "went", "changed"];
+const NONE = new Uint32Array();
 
 interface Props {
   readonly comparison: Comparison;
@@ -20,12 +22,8 @@ interface Props {
 export function ComparisonView({ comparison, name }: Props) {
   const [states, setStates] = useState<readonly State[]>(STATES);
   const [query, setQuery] = useState("");
-  const [found, setFound] = useState<Uint32Array>(new Uint32Array());
-  useEffect(() => {
-    let isWanted = true;
-    void backend.changes(states, query).then((got) => isWanted && setFound(got));
-    return () => void (isWanted = false);
-  }, [states, query, comparison]);
+  const about = [states, query, comparison];
+  const found = useAnswer(() => backend.changes(states, query), about) ?? NONE;
   const load = useCallback(
     (first: number, count: number) => backend.changeRows([...found.subarray(first, first + count)]),
     [found],
@@ -106,12 +104,7 @@ const shown = (value: Json | undefined): string =>
   value === undefined ? "" : typeof value === "string" ? value : JSON.stringify(value);
 
 export function ChangeView({ number }: { readonly number: number }) {
-  const [change, setChange] = useState<ChangeDetail | null>(null);
-  useEffect(() => {
-    let isWanted = true;
-    void backend.change(number).then((got) => isWanted && setChange(got));
-    return () => void (isWanted = false);
-  }, [number]);
+  const change = useAnswer(() => backend.change(number), [number]);
   if (change === null) return <p class="quiet">…</p>;
   const { state, kind, name, text, object } = change;
   const one = change.before ?? change.after;

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-import { useEffect, useState } from "preact/hooks";
+import { useState } from "preact/hooks";
 
 import type { Detail, Link, Links } from "../worker/answers.ts";
+import { useAnswer } from "./answer.ts";
 import { backend } from "./backend.ts";
 import { ConversionView } from "./curve.tsx";
 import { href } from "./route.ts";
@@ -43,13 +44,8 @@ function Referrers({ object, group }: { readonly object: number; readonly group:
 }
 
 function Source({ first, last }: { readonly first: number; readonly last: number }) {
-  const [lines, setLines] = useState<readonly string[]>([]);
   const count = Math.min(last - first + 1, MOST_LINES);
-  useEffect(() => {
-    let isWanted = true;
-    void backend.lines("source", first, count).then((got) => isWanted && setLines(got));
-    return () => void (isWanted = false);
-  }, [first, count]);
+  const lines = useAnswer(() => backend.lines("source", first, count), [first, count]) ?? [];
   return (
     <>
       <p>
@@ -93,12 +89,7 @@ function linkIn(detail: Detail): LinkOf {
 }
 
 export function ObjectView({ object }: { readonly object: number }) {
-  const [detail, setDetail] = useState<Detail | null>(null);
-  useEffect(() => {
-    let isWanted = true;
-    void backend.detail(object).then((got) => isWanted && setDetail(got));
-    return () => void (isWanted = false);
-  }, [object]);
+  const detail = useAnswer(() => backend.detail(object), [object]);
   if (detail === null) return <p class="quiet">…</p>;
 
   const { row, values, json, place, to, from, shown, unit, module } = detail;
@@ -176,8 +167,7 @@ export function ObjectView({ object }: { readonly object: number }) {
         <h3 id="source">Source</h3>
         {place === null ? (
           <p class="quiet">
-            Its lines could not be found: it may come from an included file, or its name is written
-            in another way.
+            Its lines could not be found: its name may be written in another way.
           </p>
         ) : (
           <Source {...place} />
