@@ -6,8 +6,14 @@ import { existsSync, mkdtempSync, readFileSync, rmSync, writeFileSync } from "no
 import { tmpdir } from "node:os";
 import path from "node:path";
 import { fileURLToPath, pathToFileURL } from "node:url";
-import { chromium, type Browser, type BrowserContextOptions, type Page } from "playwright-core";
-import { afterAll, beforeAll, expect } from "vitest";
+import {
+  chromium,
+  type Browser,
+  type BrowserContext,
+  type BrowserContextOptions,
+  type Page,
+} from "playwright-core";
+import { afterAll, afterEach, beforeAll, expect } from "vitest";
 
 export const top = fileURLToPath(new URL("../../../", import.meta.url));
 export const built = path.join(top, "web/dist/index.html");
@@ -27,6 +33,7 @@ if (executable === undefined) console.log("skipped: there is no chromium here to
 if (!existsSync(built)) throw new Error("there is no page: run npm run build first");
 
 let browser: Browser;
+let contexts: BrowserContext[] = [];
 let folder: string;
 
 /** A browser for the tests of a file, and a folder for their files. */
@@ -37,6 +44,10 @@ export function useBrowser(): void {
       executablePath: executable!,
       args: ["--no-sandbox", "--disable-dev-shm-usage"],
     });
+  });
+  afterEach(async () => {
+    await Promise.all(contexts.map((context) => context.close()));
+    contexts = [];
   });
   afterAll(async () => {
     await browser?.close();
@@ -54,6 +65,7 @@ export function file(name: string, content: string | Uint8Array): string {
 /** The page, empty. Whatever it complains about, or wants from elsewhere, fails the test. */
 export async function newPage(options: BrowserContextOptions = {}): Promise<Page> {
   const context = await browser.newContext({ viewport: { width: 1280, height: 800 }, ...options });
+  contexts.push(context);
   const page = await context.newPage();
   page.on("pageerror", (error) => expect.unreachable(`the page has a fault: ${error.message}`));
   page.on("console", (message) => {
@@ -66,8 +78,11 @@ export async function newPage(options: BrowserContextOptions = {}): Promise<Page
   return page;
 }
 
+/** Opens a file, and waits until the page shows it, and not the one before. */
 export async function open(page: Page, at: string, timeout = 30_000): Promise<void> {
   await page.locator("input[type=file]").first().setInputFiles(at);
+  const name = page.locator(`header .file:text-is(${JSON.stringify(path.basename(at))})`);
+  await name.waitFor({ state: "attached", timeout });
   await page.locator("main.loaded").waitFor({ timeout });
 }
 
@@ -90,7 +105,7 @@ export async function openObject(page: Page, name: string, kind = ""): Promise<v
     .locator(".objects .row", { has: page.locator(`b:text-is("${name}")`), hasText: kind })
     .first()
     .click();
-  await page.locator(`#title:has-text("${name}")`).waitFor();
+  await page.locator(`#title:text-is("${name}")`).waitFor();
 }
 
 /** The bytes of what the page saves when `act` is done. */
@@ -99,6 +114,11 @@ export async function saved(page: Page, act: () => Promise<void>): Promise<[stri
   await act();
   const got = await download;
   return [got.suggestedFilename(), readFileSync(await got.path())];
+}
+
+/** How many pixels of the page are beyond the right edge of the window. */
+export async function overflow(page: Page): Promise<number> {
+  return page.evaluate(() => document.documentElement.scrollWidth - window.innerWidth);
 }
 
 /** What axe finds wrong for people who use a keyboard or a screen reader. */

@@ -14,6 +14,7 @@ import {
   open,
   openObject,
   opened,
+  overflow,
   saved,
   search,
   top,
@@ -153,6 +154,7 @@ describe.skipIf(executable === undefined)("the page", () => {
       return texts.map((text) => text.split("\n").slice(0, 2).join(" "));
     };
     await expect.poll(rows).toEqual(["came CV_Gears", "changed EngineSpeed", "went CV_Gear"]);
+    expect(await barriers(page)).toEqual([]);
     await list.getByText("EngineSpeed").click();
     const table = page.getByRole("region", { name: "What changed" });
     await expect
@@ -260,6 +262,8 @@ describe.skipIf(executable === undefined)("the page", () => {
       await page.locator("summary", { hasText: "Save" }).click();
       for (const name of ["EngineSpeed", "CT_Sensor", "Idle", "RL_Axis"]) {
         await openObject(page, name);
+        const source = page.getByRole("region", { name: "Lines of the source" });
+        await expect.poll(() => source.innerText()).toContain(name);
         expect(await barriers(page), name).toEqual([]);
       }
       await page.getByRole("link", { name: "Source" }).click();
@@ -274,11 +278,11 @@ describe.skipIf(executable === undefined)("the page", () => {
       { width: 640, height: 400 }, // what a window of 1280 by 800 has at 200 %
     ]) {
       const page = await opened(demo, { viewport });
-      const overflow = () =>
-        page.evaluate(() => document.documentElement.scrollWidth - window.innerWidth);
-      expect(await overflow()).toBeLessThanOrEqual(0);
+      await page.getByRole("button", { name: "COMPU_METHOD 2" }).waitFor();
+      expect(await overflow(page)).toBeLessThanOrEqual(0);
       await openObject(page, "IdleSpeed", "CHARACTERISTIC");
-      expect(await overflow()).toBeLessThanOrEqual(0);
+      await page.getByRole("img", { name: /^Curve from raw/ }).waitFor();
+      expect(await overflow(page)).toBeLessThanOrEqual(0);
       await page.getByRole("link", { name: "Overview" }).click();
       await page.getByLabel("Search names").waitFor();
     }

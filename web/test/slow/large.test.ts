@@ -70,8 +70,10 @@ describe.skipIf(executable === undefined || !isThere)("large files", () => {
       const memory = peak();
 
       const rows = page.locator(".objects .row");
+      const count = page.locator(".count [role=status]");
       const first = await rows.first().locator("b").innerText();
       const name = await rows.nth(2).locator("b").innerText();
+      const all = await count.innerText();
       const longest = await type(page, name);
       await rows.first().locator("b", { hasText: name }).waitFor();
       await rows.first().click();
@@ -80,7 +82,9 @@ describe.skipIf(executable === undefined || !isThere)("large files", () => {
       // The last object of all is in reach, and so are its lines.
       await page.getByLabel("Search names").fill("");
       await rows.first().locator("b", { hasText: first }).waitFor();
-      const total = await rows.first().getAttribute("aria-setsize");
+      await expect.poll(() => count.innerText()).toBe(all);
+      const total = all.replace(/\D/g, "");
+      await page.locator(`.objects .row[aria-setsize="${total}"]`).first().waitFor();
       await page.locator(".objects .list").press("End");
       const last = page.locator(`.objects .row[aria-posinset="${total}"]`);
       const lastName = await last.locator("b").innerText();
