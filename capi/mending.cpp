@@ -10,17 +10,6 @@
 #endif
 
 namespace a2l::capi {
-namespace {
-
-// The text without what the other members of the finding say: "lost: ECU_ADDRESS ... [same-line]".
-std::string_view Sentence(std::string_view text, const MendRuleRow& row) {
-  text.remove_prefix(NameOf(row.outcome).size() + std::string_view(": ").size());
-  text.remove_suffix(row.name.size() + std::string_view(" []").size());
-  return text;
-}
-
-}  // namespace
-
 void MendInto(a2l2json_result& result, std::string_view text, const Input& input, LineMap& lines) {
   std::string_view file;  // of the last finding, as it is kept
   MendOptions options;
@@ -40,7 +29,7 @@ void MendInto(a2l2json_result& result, std::string_view text, const Input& input
   options.report = [&](const Finding& finding) {
     const MendRuleRow& row = RowOf(finding.rule);
     if (result.findings.empty() || finding.file != file) file = result.Keep(finding.file);
-    const std::string_view sentence = result.Keep(Sentence(Text(finding), row));
+    const std::string_view sentence = result.Keep(Message(finding));
     result.findings.push_back({result.Keep(row.name).data(), file.data(), finding.line,
                                finding.column, sentence.data(), sentence.size(),
                                row.outcome == MendOutcome::Unmendable ? 0 : 1});

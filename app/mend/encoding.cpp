@@ -15,6 +15,8 @@
 #include <windows.h>
 #endif
 
+#include "a2l2json/mend/encodings.h"
+
 namespace a2l {
 namespace {
 
@@ -79,16 +81,8 @@ Converted FromOwn(const OwnEncoding& own, std::string_view bytes) {
   text.reserve(bytes.size() + bytes.size() / 8);
   for (const char c : bytes) {
     const char16_t character = characters[static_cast<unsigned char>(c)];
-    const auto last = static_cast<char>(0x80U | (character & 0x3FU));
-    if (character < 0x80) {
-      if (character == 0 && c != '\0') return converted;
-      text += c;
-    } else if (character < 0x800) {
-      text += {static_cast<char>(0xC0U | (character >> 6U)), last};
-    } else {
-      text += {static_cast<char>(0xE0U | (character >> 12U)),
-               static_cast<char>(0x80U | ((character >> 6U) & 0x3FU)), last};
-    }
+    if (character == 0 && c != '\0') return converted;
+    mending::AppendUtf8(text, character);
     ++converted.good;
   }
   converted.isDone = true;

@@ -19,11 +19,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Why the system did not do what it was asked for last.
-Problem LastProblem() {
-  return errno == 0 ? "the system does not say why" : std::generic_category().message(errno);
-}
-
 bool WriteStream(std::ostream& out, std::string_view bytes) {
   out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   out.flush();

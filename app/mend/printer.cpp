@@ -72,14 +72,6 @@ std::string UriOf(std::string_view name) {
   return uri;
 }
 
-// The message alone: label and rule have members of their own.
-std::string MessageOf(const Finding& finding) {
-  const std::string text = Text(finding);
-  const std::size_t begin = NameOf(RowOf(finding.rule).outcome).size() + 2;
-  const std::size_t end = text.size() - RowOf(finding.rule).name.size() - 3;
-  return text.substr(begin, end - begin);
-}
-
 // An object whose values are JSON already.
 using Members = std::initializer_list<std::pair<std::string_view, std::string>>;
 std::string Object(const Members& members) {
@@ -100,7 +92,7 @@ std::string JsonOf(const Finding& finding) {
                  {"file", JsonQuoted(finding.file)},
                  {"line", std::to_string(finding.line)},
                  {"column", std::to_string(finding.column)},
-                 {"message", JsonQuoted(MessageOf(finding))}});
+                 {"message", JsonQuoted(Message(finding))}});
 }
 
 std::string_view LevelOf(MendOutcome outcome) {
@@ -118,7 +110,7 @@ std::string SarifOf(const Finding& finding) {
   return Object({{"ruleId", JsonQuoted(row.name)},
                  {"ruleIndex", std::to_string(static_cast<std::size_t>(finding.rule))},
                  {"level", JsonQuoted(LevelOf(row.outcome))},
-                 {"message", Object({{"text", JsonQuoted(MessageOf(finding))}})},
+                 {"message", Object({{"text", JsonQuoted(Message(finding))}})},
                  {"locations", ArrayOf(Object({{"physicalLocation", place}}))}});
 }
 

@@ -57,6 +57,28 @@ TEST(MendInclude, MayStandBeforeAMarkerWithoutAName) {
          "before-begin@1:1 unknown-keyword@1:20 include-missing@1:22");
 }
 
+// Written without its name, it would take the next word for one.
+TEST(MendInclude, IsLeftOutWithoutAName) {
+  Expect("/include a\nASAP2_VERSION 1 71\n", {{"a", "/include"}}, "ASAP2_VERSION 1 71\n",
+         "include@1:1 include-missing@1:1");
+  Expect("/begin IF_DATA X\n 1 /include/end IF_DATA\n", {}, "/begin IF_DATA X\n 1\n/end IF_DATA\n",
+         "refused@1:8 include-missing@2:4");
+}
+
+TEST(MendInclude, MayHaveAnEmptyName) {
+  Expect("/include \"\"\n", {}, "/include \"\"\n", "include-missing@1:1");
+}
+
+TEST(MendInclude, TakesANameWithoutQuotesAndWithTwoSlashes) {
+  for (const std::string_view file : {"dir//a.a2l", "dir//a.a2l // old", "dir//a.a2l /* old */"}) {
+    Expect("/include " + std::string(file) + "\n", {{"dir//a.a2l", "ASAP2_VERSION 1 71"}},
+           "ASAP2_VERSION 1 71\n", "include@1:1");
+  }
+  // Where no such file is there, they begin a comment.
+  Expect("/include a.a2l//old\n", {{"a.a2l", "ASAP2_VERSION 1 71"}}, "ASAP2_VERSION 1 71\n",
+         "include@1:1");
+}
+
 TEST(MendInclude, IsNoWordThatOnlyBeginsSo) {
   Expect("/included 1", {{"1", "x"}}, "/included 1\n", "unknown-keyword@1:1");
 }

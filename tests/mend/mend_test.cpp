@@ -135,6 +135,37 @@ TEST(Mend, LeavesEncodingOut) {
        "encoding@3:46"});
 }
 
+// What stands behind it is read as if it were not there.
+TEST(Mend, LeavesEncodingOutOfAList) {
+  const std::string_view begin =
+      "    /begin CHARACTERISTIC c \"\" ASCII 0 r 0 n 0 1\n      MATRIX_DIM 2";
+  const std::string_view end = "    /end CHARACTERISTIC\n";
+  ExpectInModule(
+      std::string(begin) + "\n      ENCODING UTF8\n      4 NUMBER 5\n" + std::string(end),
+      std::string(begin) + " 4\n      NUMBER 5\n" + std::string(end), "encoding@5:7");
+  // A keyword that begins a line is one again.
+  ExpectInModule(
+      std::string(begin) + "\n      ENCODING UTF8\n      NUMBER 5 DISCRETE\n" + std::string(end),
+      std::string(begin) + "\n      NUMBER 5\n      DISCRETE\n" + std::string(end),
+      "encoding@5:7 same-line@6:16");
+}
+
+TEST(Mend, KnowsThatWhiteSpaceBehindANumberIsNoPartOfIt) {
+  ExpectInModule(
+      "    /begin MOD_COMMON \"\"\n      ALIGNMENT_BYTE 1\f\n      ALIGNMENT_WORD 2\f 3\n"
+      "    /end MOD_COMMON\n",
+      "    /begin MOD_COMMON \"\"\n      ALIGNMENT_BYTE 1\n      ALIGNMENT_WORD 2 3\n"
+      "    /end MOD_COMMON\n",
+      "surplus@5:25");
+  // Of a name, it is one.
+  ExpectInModule(
+      "    /begin GROUP g \"\"\n      /begin SUB_GROUP\n        a\f\n      /end SUB_GROUP\n    "
+      "/end GROUP\n",
+      "    /begin GROUP g \"\"\n      /begin SUB_GROUP\n        a\n      /end SUB_GROUP\n    /end "
+      "GROUP\n",
+      "white-space@5:9");
+}
+
 // Texts -----------------------------------------------------------------------------------------
 
 TEST(MendTexts, PartMarkersFromTheirSlash) {
@@ -191,6 +222,28 @@ TEST(MendTexts, AreClosedBeforeTheNextBlock) {
   Expect({"/begin PROJECT p \"\"\n/begin HEADER \"never closed\n/end HEADER\n/end PROJECT\n",
           "/begin PROJECT p \"\"\n  /begin HEADER \"never closed\"\n  /end HEADER\n/end PROJECT\n",
           "text-without-end@2:15"});
+}
+
+// The next quote decides: here, it stands behind a word and before white space.
+TEST(MendTexts, MayHoldALineThatLooksLikeABlockIfTheyAreClosed) {
+  ExpectInModule(
+      "    /begin GROUP g \"as in\n/begin MODULE\nof \"\"p\"\" \\\"q\\\".\"\n    /end GROUP\n",
+      "    /begin GROUP g \"as in / begin MODULE of \"\"p\"\" \\\"q\\\".\"\n    /end GROUP\n",
+      "text-marker@3:20");
+}
+
+// The next quote opens another text: behind white space, or before a word.
+TEST(MendTexts, AreNotClosedByTheNextTextThatBegins) {
+  ExpectInModule(
+      "    /begin GROUP g \"as in\n    /end GROUP\n    /begin GROUP h \"\"\n    /end GROUP\n"
+      "    /begin GROUP i \"i\"\n    /end GROUP\n",
+      "    /begin GROUP g \"as in\"\n    /end GROUP\n    /begin GROUP h \"\"\n    /end GROUP\n"
+      "    /begin GROUP i \"i\"\n    /end GROUP\n",
+      "text-without-end@3:20");
+  ExpectInModule(
+      "    /begin GROUP g \"as in\n    /end GROUP\n    /begin GROUP h \" h\"\n    /end GROUP\n",
+      "    /begin GROUP g \"as in\"\n    /end GROUP\n    /begin GROUP h \" h\"\n    /end GROUP\n",
+      "text-without-end@3:20");
 }
 
 TEST(MendTexts, MayHoldWhatLooksLikeAMarkerInTheMiddleOfALine) {
@@ -428,6 +481,19 @@ TEST(MendGrammar, ClosesWhatIsOpen) {
 TEST(MendGrammar, TellsOfEndsThatCloseNothing) {
   Expect({"/begin PROJECT p \"\"\n  /end MODULE\n/end PROJECT\n",
           "/begin PROJECT p \"\"\n  /end MODULE\n/end PROJECT\n", "end-unmatched@2:8"});
+}
+
+TEST(MendGrammar, TakesAMarkerWithoutAKeywordAway) {
+  Expect({"/begin PROJECT p /end /end PROJECT\n", "/begin PROJECT p\n/end PROJECT\n",
+          "end-unmatched@1:18 parameter-missing@1:23"});
+  Expect({"/begin PROJECT p \"\"\n/begin /begin MODULE m \"\"\n/end MODULE\n/end PROJECT\n",
+          "/begin PROJECT p \"\"\n  /begin MODULE m \"\"\n  /end MODULE\n/end PROJECT\n",
+          "begin-refused@2:1"});
+  // It ends a block that is kept as text all the same.
+  ExpectInModule(
+      "    /begin IF_DATA X 1\n    /end\n    /begin GROUP g \"\"\n    /end GROUP\n",
+      "    /begin IF_DATA X\n 1\n    /end IF_DATA\n    /begin GROUP g \"\"\n    /end GROUP\n",
+      "end-unmatched@4:5 end-missing@3:12");
 }
 
 TEST(MendGrammar, TakesAMarkerAtTheEndOfTheFileAway) {

@@ -11,6 +11,12 @@ namespace {
 using Role = LineWord::Role;
 using Why = LineWord::Why;
 
+bool IsNumeric(detail::ParameterType type) {
+  using Type = detail::ParameterType;
+  return type == Type::Unsigned || type == Type::Signed || type == Type::Unsigned64 ||
+         type == Type::Real;
+}
+
 MendRule RuleOf(Why why) {
   switch (why) {
     case Why::BehindParameters:
@@ -49,15 +55,17 @@ void Comparison::Keyword(const Word& word, Role role, const Element& parent, Ele
   if (element.isLost && isFlag && IsProperty(element.kind)) ++lost_;
 }
 
-void Comparison::Parameter(const Word& word, Element& element, std::size_t index, bool isList) {
+void Comparison::Parameter(const Word& word, Element& element, std::size_t index,
+                           const detail::Parameter& declared) {
+  const bool isList = declared.isList;
   const LineWord& found = At(word, isList ? MendRule::ListKeyword : MendRule::ReadEnds, &element);
   if (element.isLost || !word.isInMain) {
     ++lost_;
     return;
   }
   if (!IsCompared(word)) return;
-  const bool isTaken =
-      found.role == Role::Parameter && found.owner == element.begin && found.end == word.end;
+  const bool isTaken = found.role == Role::Parameter && found.owner == element.begin &&
+                       IsAllOf(word, found, declared);
   if (isTaken && (isList || found.index == index)) return;
   ++lost_;
   const bool isKnown = isTaken && element.isShifted;
@@ -67,6 +75,14 @@ void Comparison::Parameter(const Word& word, Element& element, std::size_t index
   // What is peculiar about a text has been told already.
   if (word.type == WordType::Text && reporter_.HasReported(word)) return;
   Report(RuleFor(word, found, Role::Parameter), word, element);
+}
+
+// White space that the converter takes for a part of a number does not change the number.
+bool Comparison::IsAllOf(const Word& word, const LineWord& found,
+                         const detail::Parameter& declared) const {
+  if (found.end == word.end) return true;
+  if (!IsNumeric(declared.type) || found.end == kNowhere || found.end < word.end) return false;
+  return std::ranges::all_of(text_.substr(word.end, found.end - word.end), &IsWhite);
 }
 
 void Comparison::InterfaceName(const Word& word, Element& element) {

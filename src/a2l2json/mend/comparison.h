@@ -51,8 +51,9 @@ class Comparison {
 
   /// The keyword of `element`, which stands in `parent`; sets isLost.
   void Keyword(const Word& word, LineWord::Role role, const Element& parent, Element& element);
-  /// The value number `index` of `element`.
-  void Parameter(const Word& word, Element& element, std::size_t index, bool isList);
+  /// The value number `index` of `element`, which is what `declared` says.
+  void Parameter(const Word& word, Element& element, std::size_t index,
+                 const detail::Parameter& declared);
   /// The keyword behind /end, which closes `element`.
   void End(const Word& word, const Element& element);
   /// A word that no keyword takes. Gives true where the converter, too, drops it for standing
@@ -90,6 +91,8 @@ class Comparison {
   void ReportPlace(MendRule rule, const LineWord& found, const Element& owner);
   [[nodiscard]] MendRule RuleFor(const Word& word, const LineWord& found,
                                  LineWord::Role role) const;
+  [[nodiscard]] bool IsAllOf(const Word& word, const LineWord& found,
+                             const detail::Parameter& declared) const;
   [[nodiscard]] bool IsReadable() const { return lineEnds_ != LineEnds::Unreadable; }
   [[nodiscard]] bool IsCompared(const Word& word) const {
     return IsReadable() && !isInterrupted_ && word.isInMain;

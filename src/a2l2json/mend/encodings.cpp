@@ -9,6 +9,11 @@ namespace {
 
 constexpr std::uint32_t kReplacement = 0xFFFD;
 
+constexpr bool IsHighHalf(std::uint32_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
+constexpr bool IsLowHalf(std::uint32_t unit) { return unit >= 0xDC00 && unit < 0xE000; }
+
+}  // namespace
+
 void AppendUtf8(std::string& text, std::uint32_t code) {
   const auto append = [&text](std::uint32_t byte) { text += static_cast<char>(byte); };
   if (code < 0x80) {
@@ -28,11 +33,6 @@ void AppendUtf8(std::string& text, std::uint32_t code) {
   }
   append(0x80U | (code & 0x3FU));
 }
-
-constexpr bool IsHighHalf(std::uint32_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
-constexpr bool IsLowHalf(std::uint32_t unit) { return unit >= 0xDC00 && unit < 0xE000; }
-
-}  // namespace
 
 Encoding EncodingOf(std::string_view bytes) {
   if (bytes.starts_with("\xFF\xFE")) return Encoding::LittleEndian;

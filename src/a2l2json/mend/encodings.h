@@ -18,6 +18,9 @@ enum class Encoding : std::uint8_t {
   BigEndian,
 };
 
+/// Puts the character of this code behind `text`.
+void AppendUtf8(std::string& text, std::uint32_t code);
+
 /// By the byte order mark; without one, by where the zero bytes of the first two characters are,
 /// which are ASCII in every A2L file.
 [[nodiscard]] Encoding EncodingOf(std::string_view bytes);

@@ -22,10 +22,9 @@ void AppendShort(std::string& text, std::string_view word) {
 
 }  // namespace
 
-std::string Text(const Finding& finding) {
+std::string Message(const Finding& finding) {
   const MendRuleRow& row = RowOf(finding.rule);
-  std::string text(NameOf(row.outcome));
-  text += ": ";
+  std::string text;
   for (std::size_t i = 0; i < row.text.size(); ++i) {
     if (row.text[i] != '{') {
       text += row.text[i];
@@ -47,6 +46,14 @@ std::string Text(const Finding& finding) {
     }
     i += 2;
   }
+  return text;
+}
+
+std::string Text(const Finding& finding) {
+  const MendRuleRow& row = RowOf(finding.rule);
+  std::string text(NameOf(row.outcome));
+  text += ": ";
+  text += Message(finding);
   text += " [";
   text += row.name;
   text += ']';

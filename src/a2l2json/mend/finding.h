@@ -26,7 +26,11 @@ struct Finding {
   std::string_view detail;
 };
 
-/// The finding without its place, as in
+/// What the finding says, as in
+/// "ECU_ADDRESS stands behind the parameters of MEASUREMENT m on one line".
+[[nodiscard]] std::string Message(const Finding& finding);
+
+/// The message with what becomes of the words, and the rule, as in
 /// "lost: ECU_ADDRESS stands behind the parameters of MEASUREMENT m on one line [same-line]".
 [[nodiscard]] std::string Text(const Finding& finding);
 

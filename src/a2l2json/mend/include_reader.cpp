@@ -19,11 +19,6 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t kPiece = std::size_t{1} << 20;
 
-// Why the system did not do what it was asked for last.
-std::string LastProblem() {
-  return errno == 0 ? "the system does not say why" : std::generic_category().message(errno);
-}
-
 std::string Utf8(const fs::path& path) {
   const std::u8string text = path.generic_u8string();
   return {text.begin(), text.end()};
@@ -45,6 +40,10 @@ fs::path IncludedPath(std::string_view name) {
 }
 
 }  // namespace
+
+std::string LastProblem() {
+  return errno == 0 ? "the system does not say why" : std::generic_category().message(errno);
+}
 
 bool ReadToEnd(std::istream& in, std::string& bytes) {
   while (in.good()) {

@@ -50,6 +50,9 @@ class IncludeReader {
   std::string mainPath_;
 };
 
+/// Why the system did not do what it was asked for last, in a few words.
+[[nodiscard]] std::string LastProblem();
+
 /// Puts all bytes of a stream behind `bytes`. False where that is not possible.
 [[nodiscard]] bool ReadToEnd(std::istream& in, std::string& bytes);
 

@@ -2,6 +2,7 @@
 #include "a2l2json/mend/lexer.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "a2l2json/mend/encodings.h"
@@ -32,6 +33,21 @@ void SkipToName(Source& source) {
   for (SkipWhite(source); BeginsComment(source.Rest()); SkipWhite(source)) {
     if (!SkipComment(source)) return;
   }
+}
+
+std::string_view WithoutWhiteEnd(std::string_view text) {
+  while (!text.empty() && IsWhite(text.back())) text.remove_suffix(1);
+  return text;
+}
+
+// What a name without quotes may be: the first word, which may be the name of a folder only; all
+// words up to a comment; the first word with what looks like a comment in it.
+std::array<std::string_view, 3> UnquotedNames(std::string_view line) {
+  const std::string_view words = line.substr(0, std::min(line.find("/*"), line.find("//")));
+  const auto firstOf = [](std::string_view text) {
+    return text.substr(0, text.find_first_of(" \t\v\f"));
+  };
+  return {firstOf(words), WithoutWhiteEnd(words), firstOf(line)};
 }
 
 char LowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
@@ -160,41 +176,47 @@ bool Lexer::FollowInclude(Word& word) {
   // To the end of the line at most, without the white space there.
   std::string_view line = rest.substr(0, kMostNameBytes);
   line = line.substr(0, line.find_first_of("\r\n"));
-  std::string_view name;
+  Names names;
+  std::string_view& name = names.front();
   if (rest.starts_with('"')) {
     const std::size_t close = std::min(line.find('"', 1), line.size());
     name = line.substr(1, close - 1);
     source.position += std::min(close + 1, line.size());
   } else {
-    line = line.substr(0, std::min(line.find("/*"), line.find("//")));
-    name = line.substr(0, std::min(line.find_first_of(" \t\v\f"), line.size()));
+    names = UnquotedNames(line);
     source.position += name.size();
-    while (!line.empty() && IsWhite(line.back())) line.remove_suffix(1);
   }
-  if (name.starts_with(kBegin) || name.starts_with(kEnd)) name = {};
-  if (name.empty()) source = behind;
+  if (name.starts_with(kBegin) || name.starts_with(kEnd)) names = {};
+  if (name.empty() && !rest.starts_with(R"("")")) source = behind;
   Finish(word);
   MendRule problem = MendRule::IncludeMissing;
   std::string detail = "no name is given";
   Finding finding = FindingAt(problem, word);
-  finding.word = name;
-  if (!name.empty()) {
-    if (Open(word, name, problem, detail)) return true;
-    // A name without quotes may have blanks in it; its first word may be the name of a folder.
-    const bool isNoFile =
-        problem == MendRule::IncludeMissing || problem == MendRule::IncludeRefused;
-    if (isNoFile && !rest.starts_with('"') && line.size() > name.size()) {
-      std::string ignored;
-      MendRule ignoredProblem = problem;
-      const std::size_t position = source.position;
-      source.position += line.size() - name.size();
-      if (Open(word, line, ignoredProblem, ignored)) return true;
-      source.position = position;
-    }
-  }
+  finding.word = name.empty() ? R"("")" : name;
+  if (!name.empty() && OpenOneOf(word, names, problem, detail)) return true;
   finding.rule = problem;
   finding.detail = detail;
   reporter_.Report(finding);
+  return false;
+}
+
+// The words go on behind the name that is found, or else behind the first one. That is also the one
+// whose problem is told.
+bool Lexer::OpenOneOf(const Word& word, const Names& names, MendRule& problem,
+                      std::string& detail) {
+  const std::string_view first = names.front();
+  if (Open(word, first, problem, detail)) return true;
+  const bool isNoFile = problem == MendRule::IncludeMissing || problem == MendRule::IncludeRefused;
+  if (!isNoFile) return false;
+  const std::size_t position = Top().position;
+  for (const std::string_view longer : names) {
+    if (longer.size() <= first.size()) continue;
+    MendRule ignoredProblem = problem;
+    std::string ignored;
+    Top().position = position + longer.size() - first.size();
+    if (Open(word, longer, ignoredProblem, ignored)) return true;
+  }
+  Top().position = position;
   return false;
 }
 

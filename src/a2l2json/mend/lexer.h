@@ -4,6 +4,7 @@
 // comments, wherever the lines end, with the words of included files in the place of the /include.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
@@ -80,6 +81,9 @@ class Lexer {
  private:
   void Finish(Word& word);
   void TakePlain(Word& word);
+  /// What the name in an /include may be, the likeliest first; some may be empty.
+  using Names = std::array<std::string_view, 3>;
+  bool OpenOneOf(const Word& word, const Names& names, MendRule& problem, std::string& detail);
   bool Open(const Word& word, std::string_view name, MendRule& problem, std::string& detail);
   bool Push(const Word& word, std::string_view name, IncludedFile file);
 

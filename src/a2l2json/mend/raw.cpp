@@ -123,12 +123,13 @@ void RawText::CloseInner() {
   }
 }
 
-// What follows the /include must not get into the last word or the last comment of the file.
+// What follows the /include must not get into the last word or the last comment of the file, nor
+// into the name of a file that is not closed.
 void RawText::PartFrom(std::string_view included) {
   const Source& source = lexer_.Top();
   if (isFirst_ || source.AtEnd() || source.text[source.position] == '\n') return;
   const std::string_view last = included.substr(included.find_last_of('\n') + 1);
-  if (last.find("//") != std::string_view::npos) {
+  if (last.find("//") != std::string_view::npos || last.find('"') != std::string_view::npos) {
     out_.Raw("\n");
   } else if (!IsWhite(source.text[source.position])) {
     out_.Raw(" ");
@@ -212,7 +213,11 @@ void RawText::Comment() {
 void RawText::Include() {
   Copy(lexer_.Top().position);
   Word word;
-  if (lexer_.FollowInclude(word)) SetBegin(lexer_.Top().position);
+  const bool isFollowed = lexer_.FollowInclude(word);
+  if (!isFollowed && !NameInInclude(word).empty()) return;
+  SetBegin(lexer_.Top().position);
+  // The next word must not become the name.
+  if (!isFollowed) Append(" ");
 }
 
 void RawText::Copy(std::size_t end) {

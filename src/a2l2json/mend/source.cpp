@@ -27,6 +27,20 @@ bool BeginsWithBlock(std::string_view line, std::string_view keyword) {
   return isGiven || IsBlock(KeywordToKind(line.substr(begin, end - begin)));
 }
 
+// True where the first quote from `begin` on looks like one that closes a text, and not like one
+// that opens the next: a word ends at it, and none begins.
+bool IsClosedBehind(std::string_view text, std::size_t begin) {
+  const char* const end = text.data() + text.size();
+  for (std::size_t i = begin;; ++i) {
+    i = static_cast<std::size_t>(bytes::Find<'"', '\\'>(text.data() + i, end) - text.data());
+    if (i == text.size()) return false;
+    const char next = i + 1 < text.size() ? text[i + 1] : '\n';
+    const bool isPair = text[i] == '"' ? next == '"' : next == '\\' || next == '"';
+    if (isPair) ++i;
+    if (text[i] == '"' && !isPair) return !IsWhite(text[i - 1]) && IsWhite(next);
+  }
+}
+
 }  // namespace
 
 Source MakeSource(std::string_view text, std::string_view name, std::string_view path) {
@@ -90,6 +104,7 @@ bool SkipComment(Source& source) {
 
 TextTraits SkipText(Source& source, std::string_view keyword) {
   TextTraits traits;
+  bool mayBeOpen = true;
   source.atLineStart = false;
   const std::string_view text = source.text;
   std::size_t& i = source.position;
@@ -125,9 +140,10 @@ TextTraits SkipText(Source& source, std::string_view keyword) {
       ++i;
     } else {
       if (c == '\n') {
-        if (BeginsWithBlock(text.substr(i + 1), keyword)) {
-          traits.isClosed = false;
-          return traits;
+        if (mayBeOpen && BeginsWithBlock(text.substr(i + 1), keyword)) {
+          traits.isClosed = IsClosedBehind(text, i + 1);
+          if (!traits.isClosed) return traits;
+          mayBeOpen = false;
         }
         std::size_t last = i - 1;
         while (!traits.hasLineEnd && IsTrimmed(text[last])) --last;

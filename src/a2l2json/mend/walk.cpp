@@ -95,9 +95,8 @@ Word Walk::Next() {
   }
   Word word = lexer_.Next();
   if (!word.isInMain || word.type == WordType::EndOfInput) return word;
-  const bool isBoundary = word.type == WordType::Begin || word.type == WordType::End ||
-                          phase_ == Phase::Keyword || phase_ == Phase::Surplus;
-  if (comparison_.IsInterrupted() && word.isFirst && isBoundary && frames_.size() <= kMostLevels) {
+  if (comparison_.IsInterrupted() && word.isFirst && IsBoundary(word) &&
+      frames_.size() <= kMostLevels) {
     comparison_.Resume(word, OpenBlocks());
   }
   constexpr std::size_t kStep = std::size_t{1} << 20;
@@ -106,6 +105,11 @@ Word Walk::Next() {
     if (options_.progress) options_.progress(progress_);
   }
   return word;
+}
+
+bool Walk::IsBoundary(const Word& word) const {
+  return word.type == WordType::Begin || word.type == WordType::End || phase_ == Phase::Keyword ||
+         phase_ == Phase::Surplus || EndsList(word);
 }
 
 std::vector<mending::OpenBlock> Walk::OpenBlocks() const {
@@ -127,6 +131,11 @@ bool Walk::IsKeywordHere(const Word& word) const {
   return IsProperty(kind) && !isOfFile && OpenDeclaration().accepts.Contains(kind);
 }
 
+bool Walk::EndsList(const Word& word) const {
+  const bool mayEnd = phase_ == Phase::List || (phase_ == Phase::Rows && rowsFillLine_);
+  return mayEnd && IsKeywordHere(word);
+}
+
 // The converter finds the keyword of a child in a longer word as well.
 bool Walk::HoldsChild(const Word& word) {
   const ElementKind child = Item().declaration->parameters.back().childInList;
@@ -138,11 +147,11 @@ bool Walk::HoldsChild(const Word& word) {
 // Keywords
 
 void Walk::BeginMarker(const Word& marker) {
-  FinishItem(marker);
   const Word word = lexer_.Next();
   if (word.type != WordType::Plain && word.type != WordType::Text) {
     return BadMarker(marker, word, MendRule::BeginRefused);
   }
+  FinishItem(marker);
   const ElementKind kind = KindOf(word);
   if (IsProperty(kind)) {
     Report(MendRule::BeginRefused, word, OpenElement());
@@ -157,16 +166,12 @@ void Walk::BeginMarker(const Word& marker) {
   OpenBlock(word, kind);
 }
 
-// A marker without a keyword is written as it is: nothing better is known. At the end of the file
-// it would get hold of the /end that is added behind it.
+// A marker without a keyword is left out. The converter would take the next word that is written
+// for the keyword, whatever it is: even an /end that is added.
 void Walk::BadMarker(const Word& marker, const Word& word, MendRule rule) {
   Report(rule, marker, OpenElement());
   comparison_.Interrupt();
   returned_ = word;
-  if (word.type == WordType::EndOfInput) return;
-  out_.BeginLine(frames_.size());
-  out_.Plain(marker.text);
-  mayFollow_ = false;
 }
 
 void Walk::OpenBlock(const Word& word, ElementKind kind) {
@@ -265,21 +270,26 @@ void Walk::NotAKeyword(const Word& word, ElementKind kind) {
 }
 
 void Walk::MissingInclude(const Word& word) {
-  // Where values are due, the converter would take the words for values.
-  if (phase_ != Phase::Keyword) return;
+  // Where values are due, the converter would take the words for values. Without a name, the word
+  // that is written next would be taken for one.
+  const std::string_view name = NameInInclude(word);
+  if (phase_ != Phase::Keyword || name.empty()) return;
   out_.BeginLine(frames_.size());
   // In the letters in which it stands there.
   out_.Plain(word.text.substr(0, std::string_view("/include").size()));
-  if (const std::string_view name = NameInInclude(word); !name.empty()) out_.Plain(name);
+  out_.Plain(name);
 }
 
 void Walk::EndMarker(const Word& marker) {
   const bool isRaw = !frames_.empty() && frames_.back().element.declaration->KeepsRawText();
-  FinishItem(marker);
   const Word word = lexer_.Next();
   if (word.type != WordType::Plain && word.type != WordType::Text) {
-    return BadMarker(marker, word, MendRule::EndUnmatched);
+    BadMarker(marker, word, MendRule::EndUnmatched);
+    // The text that is kept ends there all the same.
+    if (isRaw) CloseBlock(nullptr);
+    return;
   }
+  FinishItem(marker);
   const ElementKind kind = KindOf(word);
   const std::size_t most = std::min(frames_.size(), kMostLevels);
   std::size_t inner = 0;
@@ -362,18 +372,14 @@ void Walk::ParameterDue(const Word& word) {
     comparison_.Surplus(word);
     return;
   }
-  const bool mayEnd = phase_ == Phase::List || (phase_ == Phase::Rows && rowsFillLine_);
-  if (mayEnd && IsKeywordHere(word)) {
-    phase_ = Phase::Keyword;
-    return KeywordDue(word);
-  }
+  if (EndsList(word)) return KeywordDue(word);
   if (phase_ == Phase::List && HoldsChild(word)) {
     const ElementKind child = Item().declaration->parameters.back().childInList;
     Report(MendRule::UnknownValue, word, Item(), KindToKeyword(child));
     return OpenProperty(word, child);
   }
   if (word.type == WordType::Text && !word.traits.IsPlain()) CheckText(word);
-  comparison_.Parameter(word, Item(), index_, phase_ == Phase::List);
+  comparison_.Parameter(word, Item(), index_, DueParameter());
   switch (phase_) {
     case Phase::Fixed:
       FixedParameter(word);
@@ -386,6 +392,12 @@ void Walk::ParameterDue(const Word& word) {
   }
   ++index_;
   if (phase_ == Phase::Rows && index_ == rowsEnd_ && !rowsFillLine_) phase_ = Phase::Keyword;
+}
+
+const detail::Parameter& Walk::DueParameter() {
+  const Declaration& declaration = *Item().declaration;
+  if (phase_ == Phase::Rows) return declaration.columns[parameter_];
+  return phase_ == Phase::List ? declaration.parameters.back() : declaration.parameters[parameter_];
 }
 
 void Walk::CheckText(const Word& word) {
@@ -404,7 +416,7 @@ void Walk::CheckText(const Word& word) {
 void Walk::FixedParameter(const Word& word) {
   Element& item = Item();
   const Declaration& declaration = *item.declaration;
-  const detail::Parameter& parameter = declaration.parameters[parameter_];
+  const detail::Parameter& parameter = DueParameter();
   Check(word, parameter);
   Write(word);
   if (itemIsBlock_ && index_ == 0 && parameter.type == ParameterType::Identifier) {
@@ -437,17 +449,16 @@ void Walk::EndOfFixed() {
 }
 
 void Walk::RowParameter(const Word& word) {
-  const Declaration& declaration = *Item().declaration;
   if (parameter_ == 0 && !rowsFillLine_) out_.BeginLine(frames_.size());
-  Check(word, declaration.columns[parameter_]);
+  Check(word, DueParameter());
   Write(word);
-  parameter_ = (parameter_ + 1) % declaration.columns.size();
+  parameter_ = (parameter_ + 1) % Item().declaration->columns.size();
 }
 
 // In a block, an entry has a line of its own, unless it is a keyword, which would end the list
 // there.
 void Walk::ListParameter(const Word& word) {
-  const detail::Parameter& parameter = Item().declaration->parameters.back();
+  const detail::Parameter& parameter = DueParameter();
   const bool isSecond = parameter.type == ParameterType::NamedValue && repeated_ == 1;
   if (itemIsBlock_ && !isSecond && KindOf(word) == KIND_UNKNOWN) out_.BeginLine(frames_.size());
   repeated_ = isSecond ? 0 : 1;
@@ -466,6 +477,7 @@ void Walk::Check(const Word& word, const detail::Parameter& parameter) {
 }
 
 void Walk::FinishItem(const Word& behind) {
+  if (phase_ == Phase::Encoding) phase_ = behindEncoding_;
   const bool isHalf = phase_ == Phase::List && repeated_ == 1 &&
                       Item().declaration->parameters.back().type == ParameterType::NamedValue;
   if (phase_ == Phase::Fixed || isHalf) {

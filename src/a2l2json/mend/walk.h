@@ -18,6 +18,9 @@
 
 namespace a2l::mending {
 
+/// Words that are left out (an ENCODING, a marker without a keyword, an /include without its file
+/// where a value is due) leave no trace in its state either: what is written next stands where it
+/// would stand without them. So a mended text is mended to itself.
 class Walk {
  public:
   Walk(Lexer& lexer, Comparison& comparison, Reporter& reporter, const MendOptions& options);
@@ -31,7 +34,7 @@ class Walk {
     Fixed,     // one of a certain number of parameters
     Rows,      // the rows of a table
     List,      // what may go on for ever
-    Encoding,  // the parameter of ENCODING, which is left out
+    Encoding,  // the parameter of ENCODING
     Surplus,   // nothing is due until the next keyword
   };
   struct Frame {
@@ -53,6 +56,8 @@ class Walk {
   void BadMarker(const Word& marker, const Word& word, MendRule rule);
 
   void ParameterDue(const Word& word);
+  /// In the phases in which one is.
+  [[nodiscard]] const detail::Parameter& DueParameter();
   void CheckText(const Word& word);
   void FixedParameter(const Word& word);
   void RowParameter(const Word& word);
@@ -68,6 +73,9 @@ class Walk {
   void ReportOpen(const Element& element);
 
   [[nodiscard]] bool IsKeywordHere(const Word& word) const;
+  [[nodiscard]] bool EndsList(const Word& word) const;
+  /// Whether the converter may go on at `word`, if that begins a line.
+  [[nodiscard]] bool IsBoundary(const Word& word) const;
   [[nodiscard]] bool HoldsChild(const Word& word);
   [[nodiscard]] const detail::Declaration& OpenDeclaration() const;
   [[nodiscard]] const Element& OpenElement() const;
