@@ -73,7 +73,7 @@ a2l2json_code a2l2json_convert_text(const char* text, size_t size, const a2l2jso
              .read = [view] { return a2l::Read(view); },
              .beginning = [view] { return std::string(view.substr(0, a2l::capi::kLookedAt)); },
              .load =
-                 [view](std::string_view& bytes) {
+                 [view](std::string& /*room*/, std::string_view& bytes) {
                    bytes = view;
                    return a2l::FileError::None;
                  },

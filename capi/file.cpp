@@ -53,14 +53,13 @@ a2l2json_code a2l2json_convert_file(const char* path, const a2l2json_options* op
           return;
         }
         const std::string file(path);
-        std::string bytes;
         a2l::capi::Convert({.name = checked.name == nullptr ? file : std::string_view(checked.name),
                             .read = [&file] { return a2l::ReadFile(file); },
                             .beginning = [&file] { return Beginning(file); },
                             .load =
-                                [&file, &bytes](std::string_view& view) {
-                                  const a2l::FileError error = Load(file, bytes);
-                                  view = bytes;
+                                [&file](std::string& room, std::string_view& bytes) {
+                                  const a2l::FileError error = Load(file, room);
+                                  bytes = room;
                                   return error;
                                 },
                             .path = file},

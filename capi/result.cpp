@@ -83,11 +83,12 @@ constexpr bool StandsAtItsIndex() {
 }
 static_assert(StandsAtItsIndex(), "the names are not in the order of their kinds");
 
-// `lines` is null where the lines are those of the input.
-void TakeDiagnostics(const std::vector<Diagnostic>& diagnostics, std::string_view name,
+// `lines` is null where the lines are those of the input. What is taken is gone: what a warning
+// names may be as long as the file.
+void TakeDiagnostics(std::vector<Diagnostic>& diagnostics, std::string_view name,
                      const LineMap* lines, a2l2json_result& result) {
   std::string_view file;  // as it is kept
-  for (Diagnostic diagnostic : diagnostics) {
+  for (Diagnostic& diagnostic : diagnostics) {
     SourceLine place{name, diagnostic.line};
     if (lines != nullptr) place = lines->Of(diagnostic.line);
     diagnostic.line = place.line;
@@ -96,6 +97,7 @@ void TakeDiagnostics(const std::vector<Diagnostic>& diagnostics, std::string_vie
     const KindRow& row = kKinds[static_cast<std::size_t>(diagnostic.kind)];
     const bool isError = diagnostic.GetSeverity() == Severity::Error;
     const std::string_view text = result.Keep(diagnostic.What());
+    diagnostic.subject = {};
     result.diagnostics.push_back({diagnostic.line, isError ? A2L2JSON_ERROR : A2L2JSON_WARNING,
                                   row.number, row.name, text.data(), text.size(), file.data()});
   }
@@ -156,15 +158,20 @@ std::string NoA2l(const Input& input, std::string_view why) {
   return sentence += why.empty() ? "Nothing in it could be read." : why;
 }
 
-ReadResult ReadMended(const Input& input, LineMap& lines, a2l2json_result& result) {
+// The bytes of the input go before the mended text is read.
+FileError LoadAndMend(const Input& input, LineMap& lines, a2l2json_result& result) {
+  std::string room;
   std::string_view bytes;
-  if (const FileError error = input.load(bytes); error != FileError::None) {
-    ReadResult notRead;
-    notRead.fileError = error;
-    return notRead;
-  }
-  MendInto(result, bytes, input, lines);
-  return Read(*result.mended);
+  const FileError error = input.load(room, bytes);
+  if (error == FileError::None) MendInto(result, bytes, input, lines);
+  return error;
+}
+
+ReadResult ReadMended(const Input& input, LineMap& lines, a2l2json_result& result) {
+  ReadResult read;
+  read.fileError = LoadAndMend(input, lines, result);
+  if (read.fileError == FileError::None) read = Read(*result.mended);
+  return read;
 }
 
 }  // namespace
@@ -199,7 +206,7 @@ a2l2json_code Call(const a2l2json_options* options, a2l2json_result** result,
 void Convert(const Input& input, const a2l2json_options& options, a2l2json_result& result) {
   const bool mends = options.mend != 0;
   LineMap lines;
-  const ReadResult read = mends ? ReadMended(input, lines, result) : input.read();
+  ReadResult read = mends ? ReadMended(input, lines, result) : input.read();
   TakeDiagnostics(read.diagnostics, input.name, mends ? &lines : nullptr, result);
   if (read.fileError != FileError::None) {
     return Fail(result, A2L2JSON_NOT_READ, NotRead(input, read.fileError));

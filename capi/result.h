@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "a2l2json/a2l2json.h"
@@ -23,7 +24,8 @@ struct a2l2json_result {
   std::vector<a2l2json_finding> findings;
 
   /// A copy of `text` that stays where it is, with a zero byte behind it.
-  std::string_view Keep(std::string_view text) { return texts_.emplace_back(text); }
+  std::string_view Keep(std::string text) { return texts_.emplace_back(std::move(text)); }
+  std::string_view Keep(std::string_view text) { return Keep(std::string(text)); }
 
  private:
   std::deque<std::string> texts_;
@@ -38,8 +40,9 @@ struct Input {
   std::function<ReadResult()> read;
   /// Its first bytes, kLookedAt of them where there are so many; nothing if they cannot be read.
   std::function<std::optional<std::string>()> beginning;
-  /// Gives all of its bytes, which stay as long as the input, or says why they cannot be read.
-  std::function<FileError(std::string_view& bytes)> load;
+  /// Gives all of its bytes, in `room` unless they are in memory already, or says why they cannot
+  /// be read.
+  std::function<FileError(std::string& room, std::string_view& bytes)> load;
   /// What its included files are relative to, as in IncludeOptions; empty where none is read.
   std::string path = {};
 };

@@ -118,26 +118,37 @@ function tooLarge(size) {
   );
 }
 
-async function* piecesOf(input) {
+// A Blob may be a file that is gone by now, or a folder that was dropped on a page.
+async function read(reading, name) {
+  try {
+    return await reading;
+  } catch (cause) {
+    const sentence = "cannot be read: it may be a folder, or no longer there.";
+    throw new A2LError(`${name || "The input"} ${sentence}`, { code: "not-read", cause });
+  }
+}
+
+async function* piecesOf(input, name) {
   if (!isBlob(input)) return yield input;
   const reader = input.stream().getReader();
-  for (let next = await reader.read(); !next.done; next = await reader.read()) yield next.value;
+  const next = () => read(reader.read(), name);
+  for (let piece = await next(); !piece.done; piece = await next()) yield piece.value;
 }
 
 // Copies the input into the module, transcoded where it has to be.
-async function fill(run, input, encoding) {
+async function fill(run, input, encoding, name) {
   const size = isBlob(input) ? input.size : input.length;
   if (size > MOST_BYTES) throw tooLarge(size);
   if (encoding === undefined) {
     run.allocate(size);
     let offset = 0;
-    for await (const piece of piecesOf(input)) {
+    for await (const piece of piecesOf(input, name)) {
       run.put(piece, offset);
       offset += piece.length;
     }
     return;
   }
-  const bytes = isBlob(input) ? new Uint8Array(await input.arrayBuffer()) : input;
+  const bytes = isBlob(input) ? new Uint8Array(await read(input.arrayBuffer(), name)) : input;
   const pieces = [...toUtf8(bytes, encoding)];
   const total = pieces.reduce((sum, piece) => sum + piece.length, 0);
   if (total > MOST_BYTES) throw tooLarge(total);
@@ -179,7 +190,7 @@ export async function convert(input, options = {}) {
   try {
     // A string is in no encoding; and without mending the document has the bytes of the input.
     const from = typeof input === "string" || !mend ? undefined : encoding;
-    await fill(run, bytes, from);
+    await fill(run, bytes, from, name);
     const code = run.convert({ name, mend });
     const toText = typeof input === "string" || mend ? undefined : encoding;
     const asText = (text) => decode(text, toText);

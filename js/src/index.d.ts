@@ -66,6 +66,7 @@ export interface Conversion {
 export type ErrorCode =
   | "not-a2l" /** nothing of A2L is in the input, as in a compressed or an empty file */
   | "not-converted" /** the text holds an error, in `line` */
+  | "not-read" /** the Blob is a folder, or a file that is no longer there */
   | "too-large"
   | "no-memory"
   | "internal-error";

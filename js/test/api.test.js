@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 import assert from "node:assert/strict";
-import { readFileSync } from "node:fs";
+import { openAsBlob, readFileSync, rmSync, writeFileSync } from "node:fs";
 import path from "node:path";
 import { test } from "node:test";
 import { Worker } from "node:worker_threads";
@@ -8,7 +8,7 @@ import { gzipSync } from "node:zlib";
 
 import { A2LError, convert, load, version } from "a2l2json";
 
-import { top } from "./files.js";
+import { temporaryFolder, top } from "./files.js";
 
 const demo = readFileSync(path.join(top, "examples/demo.a2l"));
 const demoDocument = readFileSync(path.join(top, "examples/demo.json"));
@@ -110,6 +110,19 @@ test("what is not an A2L file gets a sentence", async () => {
     assert.equal(error.message, sentence);
     assert.equal(error.line, null);
   }
+});
+
+test("a file that is gone by now gets a sentence", async (t) => {
+  const file = path.join(temporaryFolder(t), "in.a2l");
+  writeFileSync(file, demo);
+  const blob = await openAsBlob(file);
+  rmSync(file);
+  for (const options of [{ name: "in.a2l" }, { name: "in.a2l", encoding: "windows-1252" }]) {
+    const error = await failure(blob, options);
+    assert.equal(error.code, "not-read");
+    assert.equal(error.message, "in.a2l cannot be read: it may be a folder, or no longer there.");
+  }
+  assert.match((await failure(blob)).message, /^The input cannot be read: /);
 });
 
 test("an input that is too large gets a sentence before it is read", async () => {

@@ -44,6 +44,12 @@ def test_the_document_leaves_the_garbage_collector_as_it_is(demo: Path, enabled:
         (gc.enable if was_enabled else gc.disable)()
 
 
+def test_large_documents_come_in_another_way(demo: Path, monkeypatch: pytest.MonkeyPatch) -> None:
+    expected = a2l2json.load(demo).json
+    monkeypatch.setattr(a2l2json._convert, "_MOST_OF_STRING_AT", 0)
+    assert a2l2json.load(demo).json == expected
+
+
 def test_load_takes_text_and_path_alike(demo: Path) -> None:
     assert a2l2json.load(str(demo)).json == a2l2json.load(demo).json
 
@@ -114,6 +120,7 @@ def test_what_is_not_a2l_raises_with_a_sentence(text: bytes) -> None:
     with pytest.raises(a2l2json.A2LError) as raised:
         a2l2json.loads(text)
     assert len(str(raised.value)) > 20
+    assert raised.value.line is None
 
 
 ONE_LINE = (

@@ -20,6 +20,8 @@ if TYPE_CHECKING:
 
 PathLike = Union[str, "os.PathLike[str]"]
 
+_MOST_OF_STRING_AT = 2**31 - 1  # it takes the size as an int of C
+
 
 def version() -> str:
     """The version of the library, as in "1.0.0"."""
@@ -70,8 +72,9 @@ class A2LError(Exception):
 
     @property
     def line(self) -> Optional[int]:
-        """The line of the error; None where the file could not be read at all."""
-        return self.diagnostics[-1].line if self.diagnostics else None
+        """The line of the error; None where no line is to blame, as in what is not an A2L file."""
+        last = self.diagnostics[-1] if self.diagnostics else None
+        return last.line if last is not None and last.severity == "error" else None
 
 
 @dataclass(frozen=True)
@@ -215,7 +218,7 @@ class _Call:
         """The document, the messages or the mended text."""
         size = ctypes.c_size_t()
         address = getattr(library, "a2l2json_" + what)(self._pointer, size)
-        return None if address is None else ctypes.string_at(address, size.value)
+        return None if address is None else _bytes(address, size.value)
 
     def diagnostics(self) -> Tuple[Diagnostic, ...]:
         return tuple(
@@ -223,7 +226,7 @@ class _Call:
                 line=one.line,
                 severity="error" if one.severity else "warning",
                 kind=one.kind_name.decode(),
-                text=_text(ctypes.string_at(one.text, one.text_size)),
+                text=_text(_bytes(one.text, one.text_size)),
                 file=_text(one.file),
             )
             for one in self._all("diagnostic")
@@ -236,7 +239,7 @@ class _Call:
                 file=_text(one.file),
                 line=one.line,
                 column=one.column,
-                text=_text(ctypes.string_at(one.text, one.text_size)),
+                text=_text(_bytes(one.text, one.text_size)),
                 mended=bool(one.mended),
             )
             for one in self._all("finding")
@@ -265,6 +268,12 @@ def _convert(text: bytes, mend: bool, name: str = "", folder: str = "") -> Resul
 
 def _view(address: int, size: int) -> memoryview:
     return memoryview((ctypes.c_char * size).from_address(address)).cast("B")
+
+
+def _bytes(address: int, size: int) -> bytes:
+    if size <= _MOST_OF_STRING_AT:  # it is the faster one
+        return ctypes.string_at(address, size)
+    return bytes(_view(address, size))
 
 
 def _path(path: PathLike) -> bytes:

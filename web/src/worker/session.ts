@@ -44,12 +44,8 @@ interface Loaded {
 
 const wait = (): Promise<void> => new Promise((resolve) => setTimeout(resolve));
 
-function asTrouble(error: unknown, name: string): Trouble {
+function asTrouble(error: unknown): Trouble {
   if (error instanceof A2LError) return { sentence: error.message, code: error.code };
-  const isUnread = error instanceof DOMException && error.name === "NotReadableError";
-  if (isUnread || (error instanceof DOMException && error.name === "NotFoundError")) {
-    return { sentence: `${name} cannot be read: is it still there?`, code: "not-read" };
-  }
   if (error instanceof RangeError) {
     return { sentence: "Memory ran out: the program a2l2json needs less.", code: "no-memory" };
   }
@@ -94,7 +90,7 @@ export class Session {
       this.#search = new Search(document);
     } catch (error) {
       if (error instanceof A2LError) Object.assign(told, error);
-      trouble = asTrouble(error, file.name);
+      trouble = asTrouble(error);
       document = null;
       this.#loaded.main = undefined;
     }
@@ -355,7 +351,7 @@ export class Session {
       this.#loaded.other = { file, document };
       this.#changes = compare(document, this.#document());
     } catch (error) {
-      return { name: file.name, trouble: asTrouble(error, file.name), counts };
+      return { name: file.name, trouble: asTrouble(error), counts };
     }
     for (const { state } of this.#changes) ++counts[state];
     return { name: file.name, trouble: null, counts };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-import { readFileSync, truncateSync } from "node:fs";
+import { readFileSync, rmSync, truncateSync } from "node:fs";
 import path from "node:path";
 import { gzipSync } from "node:zlib";
 import { describe, expect, test } from "vitest";
@@ -249,6 +249,16 @@ describe.skipIf(executable === undefined)("the page", () => {
     expect(await barriers(page)).toEqual([]);
     await open(page, demo); // and goes on
     await page.locator("#title", { hasText: "Demo" }).waitFor();
+
+    const gone = file("gone.a2l", readFileSync(demo));
+    await open(page, gone);
+    rmSync(gone);
+    await page.locator("summary", { hasText: "Save" }).click();
+    await page.getByRole("button", { name: "JSON, as the program writes it" }).click();
+    const alert = page.getByRole("alert");
+    await expect
+      .poll(() => alert.innerText())
+      .toBe("gone.a2l cannot be read: it may be a folder, or no longer there.");
   });
 
   for (const colorScheme of ["light", "dark"] as const) {
