@@ -109,10 +109,10 @@ function bytesOf(input) {
   );
 }
 
-function tooLarge(size) {
+function tooLarge(size, name) {
   const gigabytes = (size / 1e9).toFixed(1);
   return new A2LError(
-    `The input has ${gigabytes} GB, and at most ${(MOST_BYTES / 1e9).toFixed(1)} GB can be ` +
+    `${name || "The input"} has ${gigabytes} GB, and at most ${(MOST_BYTES / 1e9).toFixed(1)} GB can be ` +
       "converted here: the program a2l2json has no such limit.",
     { code: "too-large" },
   );
@@ -138,7 +138,7 @@ async function* piecesOf(input, name) {
 // Copies the input into the module, transcoded where it has to be.
 async function fill(run, input, encoding, name) {
   const size = isBlob(input) ? input.size : input.length;
-  if (size > MOST_BYTES) throw tooLarge(size);
+  if (size > MOST_BYTES) throw tooLarge(size, name);
   if (encoding === undefined) {
     run.allocate(size);
     let offset = 0;
@@ -151,7 +151,7 @@ async function fill(run, input, encoding, name) {
   const bytes = isBlob(input) ? new Uint8Array(await read(input.arrayBuffer(), name)) : input;
   const pieces = [...toUtf8(bytes, encoding)];
   const total = pieces.reduce((sum, piece) => sum + piece.length, 0);
-  if (total > MOST_BYTES) throw tooLarge(total);
+  if (total > MOST_BYTES) throw tooLarge(total, name);
   run.allocate(total);
   let offset = 0;
   for (const piece of pieces) {

@@ -128,13 +128,15 @@ test("a file that is gone by now gets a sentence", async (t) => {
 test("an input that is too large gets a sentence before it is read", async () => {
   const large = new Blob([]);
   Object.defineProperty(large, "size", { value: 2.5e9 });
-  const error = await failure(large);
-  assert.equal(error.code, "too-large");
-  assert.equal(
-    error.message,
-    "The input has 2.5 GB, and at most 2.1 GB can be converted here: " +
-      "the program a2l2json has no such limit.",
-  );
+  for (const [name, called] of [["", "The input"], ["engine.a2l", "engine.a2l"]]) {
+    const error = await failure(large, { name });
+    assert.equal(error.code, "too-large");
+    assert.equal(
+      error.message,
+      `${called} has 2.5 GB, and at most 2.1 GB can be converted here: ` +
+        "the program a2l2json has no such limit.",
+    );
+  }
 });
 
 test("memory that runs out gets a sentence, and the next conversion works", async () => {

@@ -241,7 +241,7 @@ describe.skipIf(executable === undefined)("the page", () => {
     await says(file("letter.txt", "Dear reader,\n"), "letter.txt is not an A2L file.");
     const large = file("large.a2l", "");
     truncateSync(large, 2.2e9);
-    await says(large, "The input has 2.2 GB, and at most 2.1 GB can be converted here");
+    await says(large, "large.a2l has 2.2 GB, and at most 2.1 GB can be converted here");
     await says(
       file("wrong.a2l", '/begin PROJECT P ""\n/begin MODULE M ""\nUNIT_CONVERSION 1 2\n'),
       "wrong.a2l, line 3: unexpected property of element UNIT_CONVERSION",
