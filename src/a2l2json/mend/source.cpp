@@ -141,7 +141,7 @@ TextTraits SkipText(Source& source, std::string_view keyword) {
     } else {
       if (c == '\n') {
         if (mayBeOpen && BeginsWithBlock(text.substr(i + 1), keyword)) {
-          traits.isClosed = IsClosedBehind(text, i + 1);
+          traits.isClosed = keyword.empty() && IsClosedBehind(text, i + 1);
           if (!traits.isClosed) return traits;
           mayBeOpen = false;
         }

@@ -91,7 +91,9 @@ struct TextTraits {
 
 /// Moves behind the text whose opening quote is here. A text that would take in a line that begins
 /// with /begin or /end and the keyword of a block, or the one given, ends before that line, and is
-/// not closed; so is one that goes on to the end of the file.
+/// not closed, unless the next quote clearly closes it; so is one that goes on to the end of the
+/// file. With a keyword, for blocks that are kept as text, that quote does not count: texts stay
+/// open there, and what follows them may become something else.
 TextTraits SkipText(Source& source, std::string_view keyword = {});
 
 }  // namespace a2l::mending
