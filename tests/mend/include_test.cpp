@@ -97,11 +97,15 @@ TEST(MendInclude, KeepsWhatFollowsFilesInInterfaceData) {
   };
   // Not in the comment at the end of the file, nor in its last word.
   expect("/include a 2", {{"a", "1 // end"}}, " 1 // end\n 2");
-  expect("/include \"a\"2", {{"a", "1"}}, " 1 2");
+  expect("/include \"a\"2", {{"a", "1"}}, " 1\n2");
+  expect("1 /include \"a\" 3", {{"a", "2"}}, " 1 \n2\n 3");
   expect("/include \"a\" 2", {{"a", "1\n"}}, " 1\n 2");
   // Blank lines before all content go, wherever they stand.
   expect("/include a\n2", {{"a", "\n\n"}}, " 2");
-  expect("/include a 2", {{"a", "\n\n 1"}}, " 1 2");
+  expect("/include a 2", {{"a", "\n\n 1"}}, " 1\n 2");
+  expect("0\n  /include a\r\n2", {{"a", "1"}}, " 0\n  1\r\n2");
+  // A comment in the file is none behind the text.
+  expect("\"\\\\\" /include a", {{"a", "// 1"}}, " \"\\\\\" \n// 1");
 }
 
 TEST(MendInclude, TakesANameWithBlanksWhoseFirstWordIsThatOfAFolder) {

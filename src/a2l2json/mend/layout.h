@@ -79,6 +79,7 @@ class Layout {
     if (lines_ != nullptr) MapRaw(bytes);
     text_ += bytes;
   }
+  [[nodiscard]] bool LineHasBytes() const { return !text_.empty() && text_.back() != '\n'; }
   [[nodiscard]] bool LineHasWords() const {
     const std::size_t last = text_.find_last_not_of(" \t\v\f\r");
     return last != std::string::npos && text_[last] != '\n';

@@ -58,9 +58,8 @@ void RawText::SkipToEnd() {
     Source& source = lexer_.Top();
     if (source.AtEnd()) {
       Copy(source.position);
-      const std::string_view included = source.text;
       if (!lexer_.LeaveFile()) return CloseInner();
-      PartFrom(included);
+      PartFromFile();
       SetBegin(lexer_.Top().position);
       continue;
     }
@@ -123,17 +122,13 @@ void RawText::CloseInner() {
   }
 }
 
-// What follows the /include must not get into the last word or the last comment of the file, nor
-// into the name of a file that is not closed.
-void RawText::PartFrom(std::string_view included) {
+// What follows the /include begins a line, like what is in the file: what stands beside words on
+// their line may make something else of them.
+void RawText::PartFromFile() {
   const Source& source = lexer_.Top();
-  if (isFirst_ || source.AtEnd() || source.text[source.position] == '\n') return;
-  const std::string_view last = included.substr(included.find_last_of('\n') + 1);
-  if (last.find("//") != std::string_view::npos || last.find('"') != std::string_view::npos) {
-    out_.Raw("\n");
-  } else if (!IsWhite(source.text[source.position])) {
-    out_.Raw(" ");
-  }
+  const std::size_t next = source.text.find_first_not_of(" \t\v\f\r", source.position);
+  const bool isAtLineEnd = next == std::string_view::npos || source.text[next] == '\n';
+  if (!isFirst_ && !isAtLineEnd && out_.LineHasBytes()) out_.Raw("\n");
 }
 
 void RawText::Text() {
@@ -211,13 +206,17 @@ void RawText::Comment() {
 }
 
 void RawText::Include() {
+  const bool beginsLine = lexer_.Top().atLineStart;
   Copy(lexer_.Top().position);
   Word word;
-  const bool isFollowed = lexer_.FollowInclude(word);
-  if (!isFollowed && !NameInInclude(word).empty()) return;
-  SetBegin(lexer_.Top().position);
-  // The next word must not become the name.
-  if (!isFollowed) Append(" ");
+  if (lexer_.FollowInclude(word)) {
+    if (!isFirst_ && !beginsLine) out_.Raw("\n");
+    SetBegin(lexer_.Top().position);
+  } else if (NameInInclude(word).empty()) {
+    // The next word must not become the name.
+    SetBegin(lexer_.Top().position);
+    Append(" ");
+  }
 }
 
 void RawText::Copy(std::size_t end) {

@@ -30,7 +30,7 @@ class RawText {
   void SkipToEnd();
   [[nodiscard]] bool CommentFollows();
   void CloseInner();
-  void PartFrom(std::string_view included);
+  void PartFromFile();
   void Text();
   void Rewrite(const Word& word, MendRule rule);
   void PartMarkers(const Word& word);
