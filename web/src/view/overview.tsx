@@ -103,6 +103,8 @@ export function Overview(props: {
   const total = counts.reduce((sum, count) => sum + count, 0);
   const saved = findings.filter(({ mended }) => mended).length;
   const lost = findings.length - saved;
+  // In what is not an A2L file, no line is worth a look.
+  const hasLines = summary.lines.source > 0;
   return (
     <article aria-labelledby="title">
       <Title>{head?.project || summary.name}</Title>
@@ -136,7 +138,7 @@ export function Overview(props: {
           />
         </>
       )}
-      {(head !== null || diagnostics.length > 0) && (
+      {hasLines && (head !== null || diagnostics.length > 0) && (
         <section aria-labelledby="messages">
           <h3 id="messages">Messages</h3>
           {diagnostics.length === 0 ? (
@@ -149,7 +151,7 @@ export function Overview(props: {
           )}
         </section>
       )}
-      {(head !== null || findings.length > 0) && (
+      {hasLines && (head !== null || findings.length > 0) && (
         <section aria-labelledby="findings">
           <h3 id="findings">Findings</h3>
           {findings.length === 0 ? (

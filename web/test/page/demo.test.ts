@@ -239,6 +239,7 @@ describe.skipIf(executable === undefined)("the page", () => {
       "packed.a2l is not an A2L file. It is packed with gzip: unpack it first.",
     );
     await says(file("letter.txt", "Dear reader,\n"), "letter.txt is not an A2L file.");
+    expect(await page.getByRole("heading").allInnerTexts()).toEqual(["a2l2json", "letter.txt"]);
     const large = file("large.a2l", "");
     truncateSync(large, 2.2e9);
     await says(large, "large.a2l has 2.2 GB, and at most 2.1 GB can be converted here");
