@@ -62,6 +62,12 @@ test("the package has what it needs and nothing else", () => {
   );
 });
 
+test("no link of its page leads to what is not in it", () => {
+  const readme = readFileSync(path.join(folder, "node_modules/a2l2json/README.md"), "utf8");
+  assert.match(readme, /^# a2l2json in JavaScript$/m);
+  assert.deepEqual(readme.match(/\]\((?!https?:|#)[^)]*\)/g), null);
+});
+
 test("npx runs the program", () => {
   const out = run("npx", ["--offline", "a2l2json", "engine.a2l", "engine.json"]);
   assert.equal(out, "Success.\n\n");
