@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "a2l2json/model/file_path.h"
+#include "a2l2json/model/large_pages.h"
 
 namespace a2l {
 namespace {
@@ -64,7 +65,10 @@ std::string ReadWholeFile(const fs::path& path, std::string& bytes) {
   std::ifstream in(path, std::ios::binary);
   if (!in.is_open()) return LastProblem();
   const std::uintmax_t expected = fs::file_size(path, error);
-  if (!error) bytes.reserve(bytes.size() + static_cast<std::size_t>(expected) + kPiece);
+  if (!error) {
+    bytes.reserve(bytes.size() + static_cast<std::size_t>(expected) + kPiece);
+    detail::AskForLargePages(bytes.data(), bytes.capacity());
+  }
   return ReadToEnd(in, bytes) ? std::string() : LastProblem();
 }
 

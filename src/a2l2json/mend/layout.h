@@ -11,6 +11,7 @@
 
 #include "a2l2json/mend/line_map.h"
 #include "a2l2json/mend/source.h"
+#include "a2l2json/model/large_pages.h"
 
 namespace a2l::mending {
 
@@ -22,7 +23,10 @@ namespace a2l::mending {
 class Layout {
  public:
   /// Makes room for what a text of `size` bytes is likely to become. `lines` may be null.
-  Layout(std::size_t size, LineMap* lines) : lines_(lines) { text_.reserve(size + size / 8); }
+  Layout(std::size_t size, LineMap* lines) : lines_(lines) {
+    text_.reserve(size + size / 8);
+    detail::AskForLargePages(text_.data(), text_.capacity());
+  }
 
   /// Where the words that come next stand in the source.
   void SetPlace(std::string_view file, std::size_t line) {

@@ -80,49 +80,63 @@ Lexer::Lexer(std::string_view text, std::size_t start, const MendOptions& option
 }
 
 Word Lexer::Next() {
-  while (true) {
-    Source& source = Top();
-    SkipWhite(source);
-    if (source.AtEnd()) {
-      if (!LeaveFile()) return Here(WordType::EndOfInput);
-      continue;
-    }
-    Word word = Here(WordType::Plain);
-    const char c = source.text[source.position];
-    if (c == '"') {
-      word.type = WordType::Text;
-      word.traits = SkipText(source);
-    } else if (c == '/' && source.HasComment()) {
-      if (!SkipComment(source)) reporter_.Report(FindingAt(MendRule::CommentWithoutEnd, word));
-      continue;
-    } else if (c == '/' && source.Rest().starts_with(kBegin)) {
-      word.type = WordType::Begin;
-      source.position += kBegin.size();
-    } else if (c == '/' && source.Rest().starts_with(kEnd)) {
-      word.type = WordType::End;
-      source.position += kEnd.size();
-    } else if (c == '/' && HasInclude()) {
-      if (FollowInclude(word)) continue;
-      return word;
-    } else {
-      TakePlain(word);
-    }
-    Finish(word);
-    return word;
+  Word word;
+  while (!Take(word)) {
   }
+  return word;
+}
+
+// False where a comment, or the end of an included file, is in the place of a word.
+bool Lexer::Take(Word& word) {
+  Source& source = Top();
+  SkipWhite(source);
+  if (source.AtEnd() && LeaveFile()) return false;
+  SetPlace(word);
+  if (source.AtEnd()) {
+    word.type = WordType::EndOfInput;
+    return true;
+  }
+  const char c = source.text[source.position];
+  word.type = WordType::Plain;
+  if (c == '"') {
+    word.type = WordType::Text;
+    word.traits = SkipText(source);
+  } else if (c != '/') {
+    TakePlain(word);
+  } else if (source.HasComment()) {
+    if (!SkipComment(source)) reporter_.Report(FindingAt(MendRule::CommentWithoutEnd, word));
+    return false;
+  } else if (source.Rest().starts_with(kBegin)) {
+    word.type = WordType::Begin;
+    source.position += kBegin.size();
+  } else if (source.Rest().starts_with(kEnd)) {
+    word.type = WordType::End;
+    source.position += kEnd.size();
+  } else if (HasInclude()) {
+    return !FollowInclude(word);
+  } else {
+    TakePlain(word);
+  }
+  Finish(word);
+  return true;
 }
 
 Word Lexer::Here(WordType type) const {
-  const Source& source = sources_.back();
   Word word;
   word.type = type;
+  SetPlace(word);
+  return word;
+}
+
+void Lexer::SetPlace(Word& word) const {
+  const Source& source = sources_.back();
+  word.text = {};
   word.begin = word.end = source.position;
   word.file = source.name;
   word.line = source.line;
   word.column = source.position - source.lineStart + 1;
   word.isFirst = source.atLineStart;
   word.isInMain = source.isMain;
-  return word;
 }
 
 void Lexer::Finish(Word& word) {

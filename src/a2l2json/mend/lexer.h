@@ -79,6 +79,8 @@ class Lexer {
   [[nodiscard]] const Source& Main() const { return sources_.front(); }
 
  private:
+  bool Take(Word& word);
+  void SetPlace(Word& word) const;
   void Finish(Word& word);
   void TakePlain(Word& word);
   /// What the name in an /include may be, the likeliest first; some may be empty.

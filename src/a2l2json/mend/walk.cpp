@@ -88,12 +88,7 @@ std::string Walk::Run() {
 }
 
 Word Walk::Next() {
-  if (returned_) {
-    const Word word = *returned_;
-    returned_.reset();
-    return word;
-  }
-  Word word = lexer_.Next();
+  Word word = returned_ ? *std::exchange(returned_, std::nullopt) : lexer_.Next();
   if (!word.isInMain || word.type == WordType::EndOfInput) return word;
   if (comparison_.IsInterrupted() && word.isFirst && IsBoundary(word) &&
       frames_.size() <= kMostLevels) {

@@ -2,6 +2,8 @@
 #include "a2l2json/model/large_pages.h"
 
 #ifdef __linux__
+#include <memory>
+
 #include <sys/mman.h>
 #endif
 
@@ -9,8 +11,9 @@ namespace a2l::detail {
 
 #ifdef __linux__
 void AskForLargePages(void* memory, std::size_t size) {
+  if (std::align(kLargePage, kLargePage, memory, size) == nullptr) return;
   // Where the system refuses, its usual pages do.
-  static_cast<void>(madvise(memory, size, MADV_HUGEPAGE));
+  static_cast<void>(madvise(memory, size / kLargePage * kLargePage, MADV_HUGEPAGE));
 }
 #else
 void AskForLargePages(void* /*memory*/, std::size_t /*size*/) {}

@@ -17,7 +17,7 @@ inline constexpr std::size_t kLargePageAlignment = alignof(std::max_align_t);
 
 /// Asks the system to back memory with large pages where it has them: the first touch of each page
 /// ends in the system, and a tree of 100 MB has 50 of them in place of 27,000. Changes nothing
-/// else.
+/// else. Of memory that is not aligned, these are the large pages that lie in it as a whole.
 void AskForLargePages(void* memory, std::size_t size);
 
 }  // namespace a2l::detail
