@@ -310,6 +310,8 @@ TEST(MendRaw, PartsABackslashFromADoubledQuoteBeforeWhatLooksLikeAComment) {
 TEST(MendRaw, TakesACommentAwayThatTheConverterEndsSooner) {
   ExpectInModule("    /begin IF_DATA X\n 1 /* a *\n/ b */ 2 /**/ 3\n    /end IF_DATA\n",
                  "    /begin IF_DATA X\n 1   2 /**/ 3\n    /end IF_DATA\n", "otherwise@4:4");
+  ExpectInModule("    /begin IF_DATA X\n/* a *\n/ b */\n 2\n    /end IF_DATA\n",
+                 "    /begin IF_DATA X\n 2\n    /end IF_DATA\n", "otherwise@4:1");
   ExpectInModule("    /begin IF_DATA X\n 1 /*\n/ b */ 2\n    /end IF_DATA\n",
                  "    /begin IF_DATA X\n 1 /*\n/ b */ 2\n    /end IF_DATA\n", "");
 }

@@ -28,8 +28,7 @@ std::size_t TrimmedEnd(std::string_view line, std::size_t begin, std::size_t end
 void LineRules::Restart(std::size_t position, std::span<const OpenBlock> open) {
   lines_.Restart(position);
   open_.assign(open.begin(), open.end());
-  found_.clear();
-  handedOut_ = 0;
+  count_ = handedOut_ = 0;
   isOver_ = false;
   line_ = {};
   marker_ = pending_ = Marker::None;
@@ -39,12 +38,9 @@ void LineRules::Restart(std::size_t position, std::span<const OpenBlock> open) {
 }
 
 bool LineRules::FindMore() {
-  // One step finds one word or none; the words of a file would be too many.
-  constexpr std::size_t kEnough = 16;
-  found_.clear();
-  handedOut_ = 0;
-  while (found_.size() < kEnough && !isOver_) Step();
-  return !found_.empty();
+  count_ = handedOut_ = 0;
+  while (count_ < kEnough && !isOver_) Step();
+  return count_ > 0;
 }
 
 void LineRules::Step() {
@@ -371,7 +367,12 @@ void LineRules::ContinueCollecting() {
 }
 
 void LineRules::Close() {
-  if (textIsOpen_ || (nameIsOpen_ && openBegin_ != kNowhere)) {
+  if (textIsOpen_ || nameIsOpen_) CloseOpenWord();
+  state_ = State::Idle;
+}
+
+void LineRules::CloseOpenWord() {
+  if (textIsOpen_ || openBegin_ != kNowhere) {
     LineWord word;
     word.role = Role::Parameter;
     word.begin = openBegin_;
@@ -381,7 +382,6 @@ void LineRules::Close() {
     Emit(word);
   }
   textIsOpen_ = nameIsOpen_ = false;
-  state_ = State::Idle;
 }
 
 void LineRules::Drop() {

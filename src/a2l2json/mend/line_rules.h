@@ -5,6 +5,7 @@
 // with the words that it drops. docs/reading-a2l.md has the rules in words.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -72,7 +73,7 @@ class LineRules {
   /// The next word, in the order of their places. After an error, and at the end, Nothing. Valid
   /// until the next call.
   const LineWord& Next() {
-    if (handedOut_ == found_.size() && !FindMore()) return kNoWord;
+    if (handedOut_ == count_ && !FindMore()) return kNoWord;
     return found_[handedOut_++];
   }
 
@@ -114,17 +115,23 @@ class LineRules {
   void ContinueCollecting();
   void ContinueName(std::size_t offset, std::size_t pieceEnd);
   void Close();
+  void CloseOpenWord();
   void Drop();
   void DropRest(LineWord::Why why);
   void Fail(std::size_t position);
-  void Emit(const LineWord& word) { found_.push_back(word); }
+  void Emit(const LineWord& word) { found_[count_++] = word; }
   [[nodiscard]] const detail::Declaration& OpenDeclaration() const;
   [[nodiscard]] std::size_t OpenBegin() const {
     return open_.empty() ? kNowhere : open_.back().begin;
   }
 
   LogicalLines lines_;
-  std::vector<LineWord> found_;  // and not all handed out
+  /// Words that are found at once; those of a file would be too many.
+  static constexpr std::size_t kEnough = 16;
+  /// A step may close a text that is open, open a block and find the name in it.
+  static constexpr std::size_t kMostOfAStep = 3;
+  std::array<LineWord, kEnough - 1 + kMostOfAStep> found_;
+  std::size_t count_ = 0;
   std::size_t handedOut_ = 0;
   bool isOver_ = false;
 

@@ -184,7 +184,7 @@ void RawText::Comment() {
     if (EndsSooner(word.text)) {
       Copy(word.begin);
       SetBegin(source.position);
-      Append(" ");
+      if (!isFirst_) Append(" ");
       reporter_.Report(FindingAt(MendRule::Otherwise, word));
       return;
     }
@@ -214,8 +214,8 @@ void RawText::Include() {
     SetBegin(lexer_.Top().position);
   } else if (NameInInclude(word).empty()) {
     // The next word must not become the name.
-    SetBegin(lexer_.Top().position);
-    Append(" ");
+    Copy(begin_ + 1);
+    out_.Raw(" ");
   }
 }
 

@@ -8,6 +8,7 @@
 #include <limits>
 
 #include "a2l2json/elements/parameter_text.h"
+#include "a2l2json/text/bytes.h"
 #include "a2l2json/text/numbers.h"
 
 namespace a2l::mending {
@@ -158,7 +159,8 @@ std::optional<ValueTrouble> CheckReal(std::string_view word) {
 
 std::optional<ValueTrouble> CheckName(std::string_view word) {
   if (word.size() > detail::kMostIdentifierBytes) return Trouble(MendRule::NameCut);
-  if (word.find(',') != std::string_view::npos) return Trouble(MendRule::NameComma);
+  const char* const end = word.data() + word.size();
+  if (bytes::Find<','>(word.data(), end) != end) return Trouble(MendRule::NameComma);
   return {};
 }
 
