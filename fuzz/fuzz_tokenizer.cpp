@@ -14,6 +14,7 @@
 #include "a2l2json/elements/parameter_text.h"
 #include "a2l2json/reader/comments.h"
 #include "a2l2json/reader/line_source.h"
+#include "a2l2json/text/bytes.h"
 #include "a2l2json/text/tokenizer.h"
 #include "fuzz/check.h"
 #include "fuzz/naive_tokenizer.h"
@@ -29,19 +30,30 @@ void CheckUnquote(std::string_view token) {
   CheckSame(std::string_view(room.data(), size), expected, "UnquoteInto");
 }
 
+// A copy of `text` in memory of its own, with the bytes behind it that a padded one has.
+std::vector<char> PaddedCopy(std::string_view text) {
+  std::vector<char> copy(text.begin(), text.end());
+  copy.resize(text.size() + bytes::kBlock, '"');
+  return copy;
+}
+
 void CheckTokens(std::string_view text) {
   TreeStore store;
   std::string naiveRest(text);
   std::string_view rest = text;
+  const std::vector<char> copy = PaddedCopy(text);
+  std::string_view paddedRest(copy.data(), text.size());
   while (true) {
-    std::string_view forReadText = rest;
+    TokenReader forReadText(rest);
     const std::string_view token = NextToken(rest);
+    CheckSame(NextPaddedToken(paddedRest), token, "NextPaddedToken");
+    CheckSame(paddedRest, rest, "the rest behind a token in a padded text");
     const std::string expected = naive::NextToken(naiveRest).text;
     CheckSame(token, expected, "NextToken");
     CheckSame(rest, naiveRest, "the rest behind a token");
     CheckUnquote(token);
     CheckSame(detail::ReadText(store, forReadText), naive::Unquote(expected), "ReadText");
-    CheckSame(forReadText, naiveRest, "the rest behind a text");
+    CheckSame(forReadText.Rest(), naiveRest, "the rest behind a text");
     if (token.empty()) break;
   }
 }
@@ -52,16 +64,25 @@ void CheckCount(std::string_view text) {
 }
 
 // As the reader does it: each line is appended to those before it, after a blank.
-void CheckCounter(const std::deque<std::string>& lines) {
+void CheckFinder(const std::deque<std::string>& lines, std::size_t needed) {
   // The naive implementation counts from the beginning for every line.
   constexpr std::size_t kMostLines = 40;
-  TokenCounter counter;
+  TokenFinder finder;
   std::string text;
   for (std::size_t i = 0; i < std::min(lines.size(), kMostLines); ++i) {
     if (i > 0) text += ' ';
     text += lines[i];
-    counter.Continue(text);
-    CheckSame(counter.Count(), naive::CountTokens(text), "TokenCounter");
+    const std::vector<char> copy = PaddedCopy(text);
+    const std::string_view padded(copy.data(), text.size());
+    const bool found = naive::CountTokens(text) >= needed;
+    Check(finder.Find(padded, needed) == found, "TokenFinder finds as many tokens");
+    if (!found) continue;
+    TokenReader reader = finder.Tokens(padded);
+    std::string rest = text;
+    for (std::size_t token = 0; token < needed; ++token) {
+      CheckSame(reader.Next(), naive::NextToken(rest).text, "a token of TokenFinder");
+    }
+    return;
   }
 }
 
@@ -113,7 +134,7 @@ void CheckTokenizer(std::string_view bytes) {
   const std::deque<std::string> lines = naive::Lines(std::string(bytes));
   CheckLines(bytes, 1, lines);
   CheckLines(bytes, 2 + bytes.size() / 3, lines);
-  CheckCounter(lines);
+  for (const std::size_t needed : {1U, 3U, 8U, 40U}) CheckFinder(lines, needed);
   CheckComments(lines);
 }
 

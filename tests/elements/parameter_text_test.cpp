@@ -35,9 +35,9 @@ TEST(ReadIdentifier, CutsTheTokenTo1024Bytes) {
   };
   for (const Row& row : rows) {
     TreeStore store;
-    std::string_view text = row.text;
-    EXPECT_EQ(ReadIdentifier(store, text), row.identifier);
-    EXPECT_EQ(text, row.rest);
+    TokenReader tokens(row.text);
+    EXPECT_EQ(ReadIdentifier(store, tokens), row.identifier);
+    EXPECT_EQ(tokens.Rest(), row.rest);
   }
 }
 
@@ -61,9 +61,9 @@ TEST(ReadText, UnquotesTheTokenWithoutCuttingIt) {
   };
   for (const Row& row : rows) {
     TreeStore store;
-    std::string_view text = row.text;
-    EXPECT_EQ(ReadText(store, text), row.value);
-    EXPECT_EQ(text, row.rest);
+    TokenReader tokens(row.text);
+    EXPECT_EQ(ReadText(store, tokens), row.value);
+    EXPECT_EQ(tokens.Rest(), row.rest);
   }
 }
 
@@ -71,20 +71,20 @@ TEST(ReadText, UnquotesTheTokenWithoutCuttingIt) {
 TEST(ReadText, AgreesWithUnquoteOnEverySmallText) {
   TreeStore store;
   for (const std::string& line : AllTexts("\"\\n a", 6)) {
-    std::string_view text = line;
+    TokenReader tokens(line);
     std::string_view other = line;
-    ASSERT_EQ(ReadText(store, text), Unquote(NextToken(other))) << testing::PrintToString(line);
-    ASSERT_EQ(text, other);
+    ASSERT_EQ(ReadText(store, tokens), Unquote(NextToken(other))) << testing::PrintToString(line);
+    ASSERT_EQ(tokens.Rest(), other);
   }
 }
 
 TEST(ReadText, KeepsNothingOfTheLine) {
   TreeStore store;
   std::string line = R"("plain" "es\"caped" name)";
-  std::string_view text = line;
-  const std::string_view plain = ReadText(store, text);
-  const std::string_view escaped = ReadText(store, text);
-  const std::string_view name = ReadIdentifier(store, text);
+  TokenReader tokens(line);
+  const std::string_view plain = ReadText(store, tokens);
+  const std::string_view escaped = ReadText(store, tokens);
+  const std::string_view name = ReadIdentifier(store, tokens);
   line.assign(line.size(), '#');
   EXPECT_EQ(plain, "plain");
   EXPECT_EQ(escaped, "es\"caped");

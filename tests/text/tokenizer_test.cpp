@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/enumerate.h"
+#include "tests/support/padded.h"
 
 namespace a2l::test {
 namespace {
@@ -85,6 +86,10 @@ TEST(NextToken, CutsTheFirstTokenAndLeavesTheRestAsItStands) {
     std::string_view text = row.text;
     EXPECT_EQ(NextToken(text), row.token);
     EXPECT_EQ(text, row.rest);
+    const Padded padded(row.text);
+    text = padded.View();
+    EXPECT_EQ(NextPaddedToken(text), row.token);
+    EXPECT_EQ(text, row.rest);
   }
 }
 
@@ -154,50 +159,92 @@ TEST(CountTokens, AgreesWithNextTokenOnEverySmallText) {
   }
 }
 
-// If the rows of a large table are collected line by line, the count must be the same.
-TEST(TokenCounter, CountsPiecesLikeTheWhole) {
+// The tokens of `text`, taken one after the other.
+std::vector<std::string> TokensOf(std::string_view text, std::size_t count) {
+  std::vector<std::string> tokens;
+  for (std::size_t i = 0; i < count; ++i) tokens.emplace_back(NextToken(text));
+  return tokens;
+}
+
+// Checks what a finder hands out of `text` when `needed` tokens are looked for, against CountTokens
+// and NextToken.
+void ExpectFound(TokenFinder& finder, std::string_view text, std::size_t needed) {
+  const Padded padded(text);
+  ASSERT_EQ(finder.Find(padded.View(), needed), CountTokens(text) >= needed)
+      << testing::PrintToString(text) << " for " << needed;
+  if (CountTokens(text) < needed) return;
+  TokenReader reader = finder.Tokens(padded.View());
+  std::vector<std::string> tokens;
+  for (std::size_t i = 0; i < needed; ++i) tokens.emplace_back(reader.Next());
+  ASSERT_EQ(tokens, TokensOf(text, needed)) << testing::PrintToString(text);
+}
+
+// If the rows of a large table are collected line by line, what is found must be the same.
+TEST(TokenFinder, FindsInPiecesWhatIsInTheWhole) {
   const std::vector<std::string> pieces = AllTexts(kAlphabet, 3);
   for (const std::string& first : pieces) {
     for (const std::string& second : pieces) {
-      std::string text = first;
-      TokenCounter counter;
-      counter.Continue(text);
-      ASSERT_EQ(counter.Count(), CountTokens(text)) << testing::PrintToString(text);
-      text += ' ';
-      text += second;
-      counter.Continue(text);
-      ASSERT_EQ(counter.Count(), CountTokens(text))
-          << testing::PrintToString(first) << " and " << testing::PrintToString(second);
-    }
-  }
-}
-
-TEST(TokenCounter, CountsManyPieces) {
-  const std::vector<std::string> pieces = AllTexts(kAlphabet, 2);
-  for (const std::string& first : pieces) {
-    for (const std::string& second : pieces) {
-      for (const std::string& third : pieces) {
-        TokenCounter counter;
-        std::string text;
-        for (const std::string* piece : {&first, &second, &third}) {
-          text += ' ';
-          text += *piece;
-          counter.Continue(text);
-        }
-        ASSERT_EQ(counter.Count(), CountTokens(text)) << testing::PrintToString(text);
+      for (std::size_t needed = 1; needed <= 3; ++needed) {
+        TokenFinder finder;
+        finder.Reset();
+        ExpectFound(finder, first, needed);
+        ExpectFound(finder, first + ' ' + second, needed);
       }
     }
   }
 }
 
-TEST(TokenCounter, StartsAnewAfterReset) {
-  TokenCounter counter;
-  counter.Continue(R"(a b "c)");
-  ASSERT_EQ(counter.Count(), 2U);
-  counter.Reset();
-  EXPECT_EQ(counter.Count(), 0U);
-  counter.Continue("d");
-  EXPECT_EQ(counter.Count(), 1U);
+TEST(TokenFinder, FindsInManyPieces) {
+  const std::vector<std::string> pieces = AllTexts(kAlphabet, 2);
+  TokenFinder finder;
+  for (const std::string& first : pieces) {
+    for (const std::string& second : pieces) {
+      for (const std::string& third : pieces) {
+        finder.Reset();
+        std::string text;
+        for (const std::string* piece : {&first, &second, &third}) {
+          text += ' ';
+          text += *piece;
+          ExpectFound(finder, text, 4);
+        }
+      }
+    }
+  }
+}
+
+TEST(TokenFinder, StartsAnewAfterReset) {
+  TokenFinder finder;
+  const Padded first(R"(a b "c)");
+  ASSERT_FALSE(finder.Find(first.View(), 3));
+  finder.Reset();
+  const Padded second("d");
+  EXPECT_FALSE(finder.Find(second.View(), 2));
+  EXPECT_EQ(finder.Tokens(second.View()).Next(), "d");
+}
+
+TEST(TokenFinder, FindsMoreTokensThanItKeeps) {
+  std::string text;
+  for (std::size_t i = 0; i < 3 * TokenFinder::kMostKept; ++i) text += " t" + std::to_string(i);
+  for (std::size_t needed = 0; needed <= 3 * TokenFinder::kMostKept + 1; ++needed) {
+    TokenFinder finder;
+    ExpectFound(finder, text, needed);
+  }
+}
+
+TEST(TokenReader, LeavesWhatItHasNotHandedOut) {
+  const Padded text(R"(  a  "b c"  d e )");
+  TokenFinder finder;
+  ASSERT_TRUE(finder.Find(text.View(), 3));
+  TokenReader reader = finder.Tokens(text.View());
+  EXPECT_EQ(reader.Rest(), text.View());
+  EXPECT_EQ(reader.Next(), "a");
+  EXPECT_EQ(reader.Rest(), R"(  "b c"  d e )");
+  EXPECT_EQ(reader.Next(), R"("b c")");
+  EXPECT_EQ(reader.Next(), "d");
+  EXPECT_EQ(reader.Rest(), " e ");
+  EXPECT_EQ(reader.Next(), "e");
+  EXPECT_EQ(reader.Next(), "");
+  EXPECT_EQ(reader.Rest(), "");
 }
 
 TEST(FindClosingQuote, GivesThePositionOrNone) {

@@ -43,59 +43,60 @@ bool Check(const Parameter& parameter, std::string_view token) {
 }
 
 // Several numbers; wrong at the first that is wrong.
-bool ReadNumbers(std::span<std::int32_t> numbers, std::string_view& text) {
+bool ReadNumbers(std::span<std::int32_t> numbers, TokenReader& tokens) {
   return std::ranges::all_of(
-      numbers, [&text](std::int32_t& number) { return Take(ReadSigned(NextToken(text)), number); });
+      numbers, [&tokens](std::int32_t& number) { return Take(ReadSigned(tokens.Next()), number); });
 }
 
 // Takes a parameter off the front of the text and stores it; false if it is wrong. There is one
 // function per type, because a small one costs less than a large one for everything: it is called
 // for every parameter of a file.
-using Reader = bool (*)(const Parameter&, VoA2LElement&, TreeStore&, std::string_view&);
+using Reader = bool (*)(const Parameter&, VoA2LElement&, TreeStore&, TokenReader&);
 
 bool ReadIdentifierInto(const Parameter& parameter, VoA2LElement& element, TreeStore& store,
-                        std::string_view& text) {
-  element.*parameter.place.text = ReadIdentifier(store, text);
+                        TokenReader& tokens) {
+  element.*parameter.place.text = ReadIdentifier(store, tokens);
   return true;
 }
 
 bool ReadTextInto(const Parameter& parameter, VoA2LElement& element, TreeStore& store,
-                  std::string_view& text) {
-  element.*parameter.place.text = ReadText(store, text);
+                  TokenReader& tokens) {
+  element.*parameter.place.text = ReadText(store, tokens);
   return true;
 }
 
 bool ReadUnsignedInto(const Parameter& parameter, VoA2LElement& element, TreeStore& /*store*/,
-                      std::string_view& text) {
-  return Take(ReadUnsigned(NextToken(text)), element.*parameter.place.number);
+                      TokenReader& tokens) {
+  return Take(ReadUnsigned(tokens.Next()), element.*parameter.place.number);
 }
 
 bool ReadSignedInto(const Parameter& parameter, VoA2LElement& element, TreeStore& /*store*/,
-                    std::string_view& text) {
-  if (parameter.count > 1) return ReadNumbers(parameter.place.signedNumbers->change(element), text);
-  return Take(ReadSigned(NextToken(text)), element.*parameter.place.signedNumber);
+                    TokenReader& tokens) {
+  if (parameter.count > 1)
+    return ReadNumbers(parameter.place.signedNumbers->change(element), tokens);
+  return Take(ReadSigned(tokens.Next()), element.*parameter.place.signedNumber);
 }
 
 bool ReadUnsigned64Into(const Parameter& parameter, VoA2LElement& element, TreeStore& /*store*/,
-                        std::string_view& text) {
-  return Take(ReadUnsigned64(NextToken(text)), element.*parameter.place.number64);
+                        TokenReader& tokens) {
+  return Take(ReadUnsigned64(tokens.Next()), element.*parameter.place.number64);
 }
 
 bool ReadRealInto(const Parameter& parameter, VoA2LElement& element, TreeStore& /*store*/,
-                  std::string_view& text) {
-  return Take(ReadReal(NextToken(text)), element.*parameter.place.real);
+                  TokenReader& tokens) {
+  return Take(ReadReal(tokens.Next()), element.*parameter.place.real);
 }
 
 bool ReadWordInto(const Parameter& parameter, VoA2LElement& element, TreeStore& /*store*/,
-                  std::string_view& text) {
-  const Word* const word = parameter.words->Find(NextToken(text));
+                  TokenReader& tokens) {
+  const Word* const word = parameter.words->Find(tokens.Next());
   parameter.place.word->set(element, word != nullptr ? word->code : parameter.words->fallback);
   return word != nullptr || !parameter.isRequired;
 }
 
 bool ReadRawTextInto(const Parameter& parameter, VoA2LElement& element, TreeStore& store,
-                     std::string_view& text) {
-  element.*parameter.place.text = store.Copy(text);
+                     TokenReader& tokens) {
+  element.*parameter.place.text = store.Copy(tokens.Rest());
   return true;
 }
 
@@ -107,14 +108,28 @@ constexpr Reader kReaders[] = {
 }  // namespace
 
 bool DeclaredElement::ParseParameters(std::string_view& text) {
+  TokenReader tokens(text);
+  const bool ok = TakeParameters(Store(), tokens);
+  text = tokens.Rest();
+  return ok;
+}
+
+bool DeclaredElement::ParseMoreParameters(std::string_view& text) {
+  if (!Declared().HasRows()) return VoA2LElement::ParseMoreParameters(text);
+  TokenReader tokens(text);
+  const bool ok = TakeMoreParameters(Store(), tokens);
+  text = tokens.Rest();
+  return ok;
+}
+
+bool DeclaredElement::TakeParameters(TreeStore& store, TokenReader& tokens) {
   const Declaration& declaration = Declared();
-  TreeStore& treeStore = Store();
   bool ok = true;
   for (const Parameter& parameter : declaration.parameters) {
-    const bool right = parameter.isList      ? ReadList(parameter, text)
-                       : parameter.isDropped ? Check(parameter, NextToken(text))
+    const bool right = parameter.isList      ? ReadList(parameter, store, tokens)
+                       : parameter.isDropped ? Check(parameter, tokens.Next())
                                              : kReaders[static_cast<std::size_t>(parameter.type)](
-                                                   parameter, *this, treeStore, text);
+                                                   parameter, *this, store, tokens);
     if (right) continue;
     ok = false;
     if (declaration.onBadNumber == OnBadNumber::Stop) return false;
@@ -124,45 +139,46 @@ bool DeclaredElement::ParseParameters(std::string_view& text) {
 }
 
 template <class Item, class ReadItem>
-bool DeclaredElement::ReadList(const Parameter& parameter, List<Item>& list, std::string_view& text,
-                               ReadItem readItem) {
+bool DeclaredElement::ReadList(const Parameter& parameter, List<Item>& list, TreeStore& store,
+                               TokenReader& tokens, ReadItem readItem) {
   if (!parameter.addsItems) list.Clear();
-  for (std::string_view token = NextToken(text); !token.empty(); token = NextToken(text)) {
+  for (std::string_view token = tokens.Next(); !token.empty(); token = tokens.Next()) {
     if (parameter.childInList != KIND_ROOT &&
         token.find(KindToKeyword(parameter.childInList)) != std::string_view::npos) {
       VoA2LElement* const child = MakeChildInList();
-      child->ParseParameters(text);
+      child->TakeParameters(store, tokens);
       return AddChild(child);
     }
     const Converted<Item> item = readItem(token);
-    if (item.ok || parameter.keepsWrongItem) list.PushBack(Store(), item.value);
+    if (item.ok || parameter.keepsWrongItem) list.PushBack(store, item.value);
     if (!item.ok) return false;
   }
   return true;
 }
 
-bool DeclaredElement::ReadList(const Parameter& parameter, std::string_view& text) {
+bool DeclaredElement::ReadList(const Parameter& parameter, TreeStore& store, TokenReader& tokens) {
   using TextItem = Converted<std::string_view>;
   switch (parameter.type) {
     case ParameterType::Identifier:
-      return ReadList(parameter, this->*parameter.place.texts, text,
-                      [this](std::string_view token) {
-                        return TextItem{KeepIdentifier(Store(), token), true};
+      return ReadList(parameter, this->*parameter.place.texts, store, tokens,
+                      [&store](std::string_view token) {
+                        return TextItem{KeepIdentifier(store, token), true};
                       });
     case ParameterType::Text:
     case ParameterType::UnquotedText:
-      return ReadList(parameter, this->*parameter.place.texts, text,
-                      [this](std::string_view token) {
-                        return TextItem{KeepText(Store(), token), true};
+      return ReadList(parameter, this->*parameter.place.texts, store, tokens,
+                      [&store](std::string_view token) {
+                        return TextItem{KeepText(store, token), true};
                       });
     case ParameterType::Unsigned:
-      return ReadList(parameter, this->*parameter.place.numbers, text, ReadUnsigned);
+      return ReadList(parameter, this->*parameter.place.numbers, store, tokens, ReadUnsigned);
     case ParameterType::Signed:
-      return ReadList(parameter, this->*parameter.place.signedNumberList, text, ReadSigned);
+      return ReadList(parameter, this->*parameter.place.signedNumberList, store, tokens,
+                      ReadSigned);
     case ParameterType::Real:
-      return ReadList(parameter, this->*parameter.place.reals, text, ReadReal);
+      return ReadList(parameter, this->*parameter.place.reals, store, tokens, ReadReal);
     case ParameterType::NamedValue:
-      return ReadNamedValues(parameter, text);
+      return ReadNamedValues(parameter, store, tokens);
     case ParameterType::Unsigned64:
     case ParameterType::Word:
     case ParameterType::RawText:
@@ -171,42 +187,43 @@ bool DeclaredElement::ReadList(const Parameter& parameter, std::string_view& tex
   return true;
 }
 
-bool DeclaredElement::ReadNamedValues(const Parameter& parameter, std::string_view& text) {
+bool DeclaredElement::ReadNamedValues(const Parameter& parameter, TreeStore& store,
+                                      TokenReader& tokens) {
   List<std::string_view>& names = this->*parameter.place.namedValues->names;
   List<std::string_view>& values = this->*parameter.place.namedValues->values;
   if (!parameter.addsItems) {
     names.Clear();
     values.Clear();
   }
-  for (std::string_view name = NextToken(text); !name.empty(); name = NextToken(text)) {
-    names.PushBack(Store(), KeepIdentifier(Store(), name));
-    const std::string_view value = ReadIdentifier(Store(), text);
+  for (std::string_view name = tokens.Next(); !name.empty(); name = tokens.Next()) {
+    names.PushBack(store, KeepIdentifier(store, name));
+    const std::string_view value = ReadIdentifier(store, tokens);
     if (value.empty()) return false;
-    values.PushBack(Store(), value);
+    values.PushBack(store, value);
   }
   return true;
 }
 
-bool DeclaredElement::ParseMoreParameters(std::string_view& text) {
+bool DeclaredElement::TakeMoreParameters(TreeStore& store, TokenReader& tokens) {
   const Declaration& declaration = Declared();
-  if (!declaration.HasRows()) return VoA2LElement::ParseMoreParameters(text);
+  if (!declaration.HasRows()) return VoA2LElement::TakeMoreParameters(store, tokens);
   const std::uint32_t rows = this->*declaration.parameters[declaration.rowCount].place.number;
   // The declared count may be any number; the rows that are there end the loop.
   for (std::uint32_t row = 0; row < rows; ++row) {
     for (const Parameter& column : declaration.columns) {
-      if (!ReadCell(column, text)) return false;
+      if (!ReadCell(column, store, tokens)) return false;
     }
   }
   return true;
 }
 
-bool DeclaredElement::ReadCell(const Parameter& column, std::string_view& text) {
+bool DeclaredElement::ReadCell(const Parameter& column, TreeStore& store, TokenReader& tokens) {
   if (column.type == ParameterType::Text) {
-    (this->*column.place.texts).PushBack(Store(), ReadText(Store(), text));
+    (this->*column.place.texts).PushBack(store, ReadText(store, tokens));
     return true;
   }
-  const Converted<double> number = ReadReal(NextToken(text));
-  (this->*column.place.reals).PushBack(Store(), number.value);
+  const Converted<double> number = ReadReal(tokens.Next());
+  (this->*column.place.reals).PushBack(store, number.value);
   return number.ok;
 }
 

@@ -36,6 +36,8 @@ class DeclaredElement : public VoA2LElement {
  public:
   bool ParseParameters(std::string_view& text) override;
   bool ParseMoreParameters(std::string_view& text) override;
+  bool TakeParameters(TreeStore& store, TokenReader& tokens) override;
+  bool TakeMoreParameters(TreeStore& store, TokenReader& tokens) override;
   bool AddChild(VoA2LElement* child) override;
   [[nodiscard]] std::int32_t MoreParameterCount() const override;
   [[nodiscard]] std::uint32_t Version() const override { return Declared().revision; }
@@ -59,11 +61,11 @@ class DeclaredElement : public VoA2LElement {
 
  private:
   template <class Item, class ReadItem>
-  bool ReadList(const Parameter& parameter, List<Item>& list, std::string_view& text,
+  bool ReadList(const Parameter& parameter, List<Item>& list, TreeStore& store, TokenReader& tokens,
                 ReadItem readItem);
-  bool ReadList(const Parameter& parameter, std::string_view& text);
-  bool ReadNamedValues(const Parameter& parameter, std::string_view& text);
-  bool ReadCell(const Parameter& column, std::string_view& text);
+  bool ReadList(const Parameter& parameter, TreeStore& store, TokenReader& tokens);
+  bool ReadNamedValues(const Parameter& parameter, TreeStore& store, TokenReader& tokens);
+  bool ReadCell(const Parameter& column, TreeStore& store, TokenReader& tokens);
   void WriteItems(int level, std::ostream& out) const;
   void WriteItemsBehind(std::string line, int level, std::ostream& out) const;
   void WriteRows(int level, std::ostream& out) const;

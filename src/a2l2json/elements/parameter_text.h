@@ -31,14 +31,14 @@ inline std::string_view KeepText(TreeStore& store, std::string_view token) {
   return {bytes, UnquoteInto(token, bytes)};
 }
 
-/// The next token of `text` as an identifier.
-inline std::string_view ReadIdentifier(TreeStore& store, std::string_view& text) {
-  return KeepIdentifier(store, NextToken(text));
+/// The next token as an identifier.
+inline std::string_view ReadIdentifier(TreeStore& store, TokenReader& tokens) {
+  return KeepIdentifier(store, tokens.Next());
 }
 
-/// The next token of `text` without its quotes.
-inline std::string_view ReadText(TreeStore& store, std::string_view& text) {
-  return KeepText(store, NextToken(text));
+/// The next token without its quotes.
+inline std::string_view ReadText(TreeStore& store, TokenReader& tokens) {
+  return KeepText(store, tokens.Next());
 }
 
 }  // namespace a2l::detail

@@ -27,6 +27,12 @@ bool VoA2LElement::ParseParameters(std::string_view& /*text*/) { return true; }
 
 bool VoA2LElement::ParseMoreParameters(std::string_view& /*text*/) { return HasMoreParameters(); }
 
+bool VoA2LElement::TakeParameters(TreeStore& /*store*/, TokenReader& /*tokens*/) { return true; }
+
+bool VoA2LElement::TakeMoreParameters(TreeStore& /*store*/, TokenReader& /*tokens*/) {
+  return HasMoreParameters();
+}
+
 bool VoA2LElement::AddChild(VoA2LElement* child) { return Attach(child, kBaseChildren); }
 
 std::int32_t VoA2LElement::MoreParameterCount() const { return HasMoreParameters() ? 0 : -1; }

@@ -12,6 +12,8 @@
 
 namespace a2l {
 
+class TokenReader;
+
 /// Revisions of the ASAP2 standard that keywords belong to: patch, minor and major from the
 /// lowest byte up.
 inline constexpr std::uint32_t kRevision160 = 0x00010600;
@@ -89,6 +91,11 @@ class VoA2LElement {
 
   /// Revision of the standard that the keyword belongs to; nothing depends on it.
   [[nodiscard]] virtual std::uint32_t Version() const { return kRevision160; }
+
+  /// ParseParameters and ParseMoreParameters for the reader, which has the store at hand and has
+  /// found tokens already. They take what they need off `tokens`.
+  virtual bool TakeParameters(TreeStore& store, TokenReader& tokens);
+  virtual bool TakeMoreParameters(TreeStore& store, TokenReader& tokens);
 
   [[nodiscard]] VoA2LElement* Parent() const { return parent; }
   [[nodiscard]] std::size_t ChildCount() const { return children.size(); }

@@ -74,8 +74,7 @@ constexpr bool IsText(const Keyword& keyword, std::string_view text, bytes::Word
          (text.size() <= 16 || MiddleOf(keyword.text) == MiddleOf(text));
 }
 
-constexpr const Keyword* Find(std::string_view text) {
-  const bytes::Words ends = EndsOf(text);
+constexpr const Keyword* Find(std::string_view text, bytes::Words ends) {
   for (std::size_t slot = FirstSlot(ends); kSlots[slot] != kFree; slot = (slot + 1) % kSlotCount) {
     const Keyword& keyword = kKeywords[kSlots[slot]];
     if (IsText(keyword, text, ends)) return &keyword;
@@ -85,7 +84,7 @@ constexpr const Keyword* Find(std::string_view text) {
 
 constexpr bool EveryKeywordIsFoundAsItself() {
   for (const Keyword& keyword : kKeywords) {
-    if (Find(keyword.text) != &keyword) return false;
+    if (Find(keyword.text, keyword.ends) != &keyword) return false;
   }
   return true;
 }
@@ -94,7 +93,14 @@ static_assert(EveryKeywordIsFoundAsItself(), "a keyword stands twice in the list
 }  // namespace
 
 ElementKind KeywordToKind(std::string_view keyword) {
-  const Keyword* found = Find(keyword);
+  const Keyword* found = Find(keyword, EndsOf(keyword));
+  return found != nullptr ? found->kind : KIND_UNKNOWN;
+}
+
+ElementKind PaddedKeywordToKind(std::string_view keyword) {
+  const Keyword* found =
+      Find(keyword, keyword.size() < 16 ? bytes::Words::LoadPadded(keyword.data(), keyword.size())
+                                        : EndsOf(keyword));
   return found != nullptr ? found->kind : KIND_UNKNOWN;
 }
 

@@ -83,6 +83,8 @@ inline constexpr auto kIndexOfNumber = [] {
 /// The kind of a keyword. The comparison is exact: upper case, no surrounding blanks. Any other
 /// text, the empty one included, gives KIND_UNKNOWN.
 [[nodiscard]] ElementKind KeywordToKind(std::string_view keyword);
+/// The same for a padded text (see text/bytes.h).
+[[nodiscard]] ElementKind PaddedKeywordToKind(std::string_view keyword);
 
 /// The keyword of a kind; empty for the root, for KIND_UNKNOWN and for any number that is not
 /// the number of a keyword.

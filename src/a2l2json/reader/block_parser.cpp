@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "a2l2json/reader/block_parser.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -95,8 +96,8 @@ bool BlockParser::HandleBegin(std::string_view line, std::string_view text) {
     return true;
   }
   if (!CloseCollection(DiagnosticKind::NoParent)) return false;
-  const std::string_view keyword = NextToken(text);
-  const ElementKind kind = KeywordToKind(keyword);
+  const std::string_view keyword = NextPaddedToken(text);
+  const ElementKind kind = PaddedKeywordToKind(keyword);
   if (keyword.empty() && remainder_.empty()) {
     state_ = State::PendingBegin;
     return true;
@@ -129,7 +130,7 @@ bool BlockParser::HandleEnd(std::string_view line, std::string_view text) {
     return true;
   }
   if (!CloseCollection(DiagnosticKind::NoParentAtEnd)) return false;
-  const std::string_view keyword = NextToken(text);
+  const std::string_view keyword = NextPaddedToken(text);
   if (keyword.empty() && remainder_.empty()) {
     state_ = State::PendingEnd;
     return true;
@@ -137,7 +138,7 @@ bool BlockParser::HandleEnd(std::string_view line, std::string_view text) {
   while (IsProperty(current_->kind)) {
     if (!ReturnToParent(DiagnosticKind::NoParentAtEnd)) return false;
   }
-  if (keyword.empty() || KeywordToKind(keyword) != current_->kind) {
+  if (keyword.empty() || PaddedKeywordToKind(keyword) != current_->kind) {
     return Fail(DiagnosticKind::EndDoesNotMatch, KindToKeyword(current_->kind));
   }
   return ReturnToParent(DiagnosticKind::NoParentAtEnd);
@@ -152,8 +153,7 @@ bool BlockParser::HandlePlain(std::string_view line) {
     case State::CollectPropertyParams:
     case State::CollectMoreParams:
       collected_.Append(' ', line);
-      counter_.Continue(collected_.View());
-      return static_cast<std::int64_t>(counter_.Count()) < needed_ || CompleteCollection();
+      return !finder_.Find(collected_.View(), needed_) || CompleteCollection();
     case State::CollectOpen:
     case State::Idle:
     case State::PendingBegin:
@@ -161,8 +161,8 @@ bool BlockParser::HandlePlain(std::string_view line) {
       break;
   }
   std::string_view text = line;
-  const std::string_view keyword = NextToken(text);
-  const ElementKind kind = KeywordToKind(keyword);
+  const std::string_view keyword = NextPaddedToken(text);
+  const ElementKind kind = PaddedKeywordToKind(keyword);
   if (state_ == State::CollectOpen) {
     if (kind == KIND_UNKNOWN) {
       collected_.Append(' ', line);
@@ -188,7 +188,7 @@ bool BlockParser::HandleProperty(ElementKind kind, std::string_view keyword,
     StartCollecting(property->paramCount == kOpenParameterList ? State::CollectOpen
                                                                : State::CollectPropertyParams,
                     text, property->paramCount);
-  } else if (!property->ParseParameters(text)) {
+  } else if (TokenReader tokens = finder_.Tokens(text); !property->TakeParameters(store_, tokens)) {
     // The property never became the current element: the warning names its block, and it is
     // the block's parent whose validity is at stake.
     WrongParameters();
@@ -200,41 +200,46 @@ bool BlockParser::Attach(VoA2LElement* element, std::string_view keyword) {
   return current_->AddChild(element) || Fail(DiagnosticKind::RefusedElement, keyword);
 }
 
-bool BlockParser::HasTokens(std::string_view text, std::int64_t needed) {
-  counter_.Reset();
-  counter_.Continue(text);
-  return static_cast<std::int64_t>(counter_.Count()) >= needed;
+bool BlockParser::HasTokens(std::string_view text, std::size_t needed) {
+  finder_.Reset();
+  // An open list waits for more tokens than there are bytes in most lines.
+  return needed <= text.size() && finder_.Find(text, needed);
 }
 
 void BlockParser::CompleteParameters(std::string_view text) {
   VoA2LElement& element = *current_;
   state_ = State::Idle;
-  if (!element.ParseParameters(text)) WrongParameters();
+  TokenReader tokens = finder_.Tokens(text);
+  if (!element.TakeParameters(store_, tokens)) WrongParameters();
   if (!element.HasMoreParameters()) return;
-  if (!HasTokens(text, element.MoreParameterCount())) {
-    StartCollecting(State::CollectMoreParams, text, element.MoreParameterCount());
-  } else if (!element.ParseMoreParameters(text)) {
-    WrongParameters();
+  text = tokens.Rest();
+  const auto needed = static_cast<std::size_t>(std::max(element.MoreParameterCount(), 0));
+  if (!HasTokens(text, needed)) {
+    StartCollecting(State::CollectMoreParams, text, needed);
+    return;
   }
+  TokenReader more = finder_.Tokens(text);
+  if (!element.TakeMoreParameters(store_, more)) WrongParameters();
 }
 
-void BlockParser::StartCollecting(State state, std::string_view text, std::int64_t needed) {
+void BlockParser::StartCollecting(State state, std::string_view text, std::size_t needed) {
   state_ = state;
   collected_.Set(text);
   needed_ = needed;
 }
 
 bool BlockParser::CompleteCollection() {
-  std::string_view text = collected_.View();
+  const std::string_view text = collected_.View();
+  TokenReader tokens = finder_.Tokens(text);
   switch (std::exchange(state_, State::Idle)) {
     case State::CollectParams:
       CompleteParameters(text);
       return true;
     case State::CollectMoreParams:
-      if (!current_->ParseMoreParameters(text)) WrongParameters();
+      if (!current_->TakeMoreParameters(store_, tokens)) WrongParameters();
       return true;
     case State::CollectPropertyParams:
-      if (!current_->ParseParameters(text)) WrongParameters();
+      if (!current_->TakeParameters(store_, tokens)) WrongParameters();
       return ReturnToParent(DiagnosticKind::NoParent);
     case State::Idle:
     case State::CollectOpen:
@@ -247,7 +252,7 @@ bool BlockParser::CompleteCollection() {
 }
 
 bool BlockParser::CloseCollection(DiagnosticKind ifNoParent) {
-  std::string_view text = collected_.View();
+  TokenReader tokens(collected_.View());
   switch (std::exchange(state_, State::Idle)) {
     case State::Idle:
     case State::PendingBegin:
@@ -255,20 +260,20 @@ bool BlockParser::CloseCollection(DiagnosticKind ifNoParent) {
       return true;
     case State::CollectParams:
       Warn(DiagnosticKind::NeedMoreParameters, std::to_string(current_->paramCount));
-      if (!current_->ParseParameters(text)) ClearValidOfParent();
+      if (!current_->TakeParameters(store_, tokens)) ClearValidOfParent();
       return true;
     case State::CollectMoreParams:
       Warn(DiagnosticKind::NeedMoreParameters, std::to_string(current_->MoreParameterCount()));
       return true;
     case State::CollectPropertyParams:
       Warn(DiagnosticKind::NeedMoreParameters, std::to_string(current_->paramCount));
-      current_->ParseParameters(text);
+      current_->TakeParameters(store_, tokens);
       return ReturnToParent(ifNoParent);
     case State::CollectOpen:
-      if (!current_->ParseParameters(text)) WrongParameters();
+      if (!current_->TakeParameters(store_, tokens)) WrongParameters();
       return !IsProperty(current_->kind) || ReturnToParent(ifNoParent);
     case State::RawContent:
-      if (!current_->ParseParameters(text)) {
+      if (!current_->TakeParameters(store_, tokens)) {
         Warn(DiagnosticKind::WrongRawContent, KindToKeyword(current_->kind));
       }
       return true;

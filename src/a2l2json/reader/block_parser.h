@@ -26,7 +26,7 @@ class BlockParser {
 
   /// `root` receives the elements; `report` is called for every warning and error.
   BlockParser(LineSource& lines, VoA2LElement& root, Report report)
-      : lines_(lines), current_(&root), report_(std::move(report)) {}
+      : lines_(lines), store_(root.Store()), current_(&root), report_(std::move(report)) {}
 
   BlockParser(const BlockParser&) = delete;
   BlockParser& operator=(const BlockParser&) = delete;
@@ -66,10 +66,10 @@ class BlockParser {
   bool HandleProperty(ElementKind kind, std::string_view keyword, std::string_view text);
 
   bool Attach(VoA2LElement* element, std::string_view keyword);
-  bool HasTokens(std::string_view text, std::int64_t needed);
+  bool HasTokens(std::string_view text, std::size_t needed);
   void CompleteParameters(std::string_view text);
 
-  void StartCollecting(State state, std::string_view text, std::int64_t needed);
+  void StartCollecting(State state, std::string_view text, std::size_t needed);
   bool CompleteCollection();
   bool CloseCollection(DiagnosticKind ifNoParent);
   bool ReturnToParent(DiagnosticKind ifNone);
@@ -80,6 +80,7 @@ class BlockParser {
   bool Fail(DiagnosticKind kind, std::string_view subject = {});
 
   LineSource& lines_;
+  TreeStore& store_;  // of the tree
   CommentRemover comments_;
   CommentRemover::NextLine nextPhysicalLine_ = [this](std::string_view& line) {
     return ReadPhysicalLine(line);
@@ -92,11 +93,11 @@ class BlockParser {
 
   VoA2LElement* current_;
   State state_ = State::Idle;
-  /// In the collecting states: the parameters so far, the number of their tokens, and how many
-  /// are needed. The element that they belong to is the current one.
+  /// In the collecting states: the parameters so far, their tokens, and how many of them are
+  /// needed. The element that they belong to is the current one.
   GrowingText collected_;
-  TokenCounter counter_;
-  std::int64_t needed_ = 0;
+  TokenFinder finder_;
+  std::size_t needed_ = 0;
   std::size_t rawDepth_ = 0;
 
   Report report_;

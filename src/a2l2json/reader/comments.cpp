@@ -3,6 +3,7 @@
 
 #include <cstddef>
 
+#include "a2l2json/text/bytes.h"
 #include "a2l2json/text/tokenizer.h"
 
 namespace a2l {
@@ -61,7 +62,9 @@ bool CommentRemover::Remove(std::string_view& line, const NextLine& nextLine) {
     comment = FindComment(line);
   }
   text_ += line.substr(0, comment);  // the whole line where there is no comment left
-  line = text_;
+  const std::size_t size = text_.size();
+  text_.append(bytes::kBlock, ' ');
+  line = std::string_view(text_).substr(0, size);
   return true;
 }
 

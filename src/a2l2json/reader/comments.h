@@ -25,8 +25,8 @@ class CommentRemover {
 
   /// Removes the comments of `line`. While a block comment is open, `nextLine` supplies the
   /// lines that it goes on in; what stands behind its end joins the line, with nothing between.
-  /// The line then refers to this object's memory, until the next call. False when the input
-  /// ends inside a comment.
+  /// The line then refers to this object's memory, until the next call, and is padded (see
+  /// text/bytes.h). False when the input ends inside a comment.
   bool Remove(std::string_view& line, const NextLine& nextLine);
 
  private:

@@ -36,6 +36,7 @@ bool LineSource::Refill() {
   if (begin_ > 0) MoveUnread(buffer_.get());
   in_.read(buffer_.get() + end_, static_cast<std::streamsize>(pieceSize_));
   end_ += static_cast<std::size_t>(in_.gcount());
+  std::memset(buffer_.get() + end_, 0, bytes::kBlock);  // what a padded line may be followed by
   return in_.gcount() > 0;
 }
 

@@ -30,8 +30,8 @@ class LineSource {
   explicit LineSource(std::istream& in, std::size_t pieceSize = kPieceSize)
       : in_(in), pieceSize_(pieceSize) {}
 
-  /// The next line, without its line feed; valid until the next call. False at the end of the
-  /// input and when it cannot be read on (see Failed).
+  /// The next line, without its line feed, padded (see text/bytes.h); valid until the next call.
+  /// False at the end of the input and when it cannot be read on (see Failed).
   bool Next(std::string_view& line) {
     slashes_ = {};
     if (lineFeedPlaces_ == 0 && !FindLineFeed()) return TakeRest(line);

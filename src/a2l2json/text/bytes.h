@@ -6,7 +6,9 @@
 // any other. Tests and a fuzz target compare each of them with a plain loop.
 //
 // Processors with vectors that every program may use (x86-64, ARM64) compare sixteen bytes in one
-// step, all others eight. Nothing outside of a text is read.
+// step, all others eight. Nothing outside of a text is read, except by what asks for a padded one:
+// a text behind whose end at least kBlock more bytes may be read, whatever they are. The reader has
+// its lines in memory that is larger than they are, and so their ends cost no tests.
 #pragma once
 
 #include <array>
@@ -62,6 +64,18 @@ struct Words {
       return std::uint64_t{static_cast<unsigned char>(from[i])} << (8 * i);
     };
     return {byte(0) | byte(size / 2) | byte(size - 1)};
+  }
+
+  /// `size` bytes, at most 16, of a padded text.
+  [[nodiscard, gnu::always_inline]] static Words LoadPadded(const char* from, std::size_t size) {
+    static constexpr auto kMask = [] {
+      std::array<char, 32> mask{};
+      for (std::size_t i = 0; i < 16; ++i) mask[i] = '\xFF';
+      return mask;
+    }();
+    const char* const mask = kMask.data() + 16 - size;
+    return {Load<std::uint64_t>(from) & Load<std::uint64_t>(mask),
+            Load<std::uint64_t>(from + 8) & Load<std::uint64_t>(mask + 8)};
   }
 
   friend constexpr bool operator==(const Words&, const Words&) = default;
@@ -176,6 +190,19 @@ template <char... kBytes>
   }
   const std::uint32_t bits = found(Block::LoadPart(begin, static_cast<std::size_t>(end - begin)));
   return bits != 0 ? begin + FirstBit(bits) : end;
+}
+
+/// The same in a padded text.
+template <char... kBytes>
+[[nodiscard]] inline const char* FindPadded(const char* begin, const char* end) {
+  for (; begin < end; begin += kBlock) {
+    const Block block = Block::Load(begin);
+    if (const std::uint32_t bits = Bits((block.Equal(kBytes) | ...))) {
+      const char* const found = begin + FirstBit(bits);
+      return found < end ? found : end;
+    }
+  }
+  return end;
 }
 
 /// Where the first byte other than this one stands, as long as whole blocks are left: `end` is not

@@ -10,11 +10,26 @@ constexpr std::size_t kNone = std::string_view::npos;
 
 // Positions are pointers throughout: they stay in registers from search to search.
 
+// The searches in any text, and those in a padded one.
+struct Exactly {
+  template <char... kBytes>
+  static const char* Find(const char* begin, const char* end) {
+    return bytes::Find<kBytes...>(begin, end);
+  }
+};
+struct InPadded {
+  template <char... kBytes>
+  static const char* Find(const char* begin, const char* end) {
+    return bytes::FindPadded<kBytes...>(begin, end);
+  }
+};
+
 // The quote that closes a quoted text, from `begin` on, which is behind the opening quote; null
 // where it is not closed.
+template <class Search>
 const char* ClosingQuote(const char* begin, const char* end) {
   for (const char* quote = begin;;) {
-    quote = bytes::Find<'"'>(quote, end);
+    quote = Search::template Find<'"'>(quote, end);
     if (quote == end) return nullptr;
     if (quote[-1] == '\\') {
       ++quote;
@@ -39,57 +54,83 @@ const char* SkipManyTrimmed(const char* begin, const char* end) {
   return SkipManyTrimmed(begin, end);
 }
 
-}  // namespace
-
-std::size_t FindClosingQuote(std::string_view text, std::size_t from) {
-  const char* const quote = ClosingQuote(text.data() + from, text.data() + text.size());
-  return quote == nullptr ? kNone : static_cast<std::size_t>(quote - text.data());
+// The end of a token without what Trim takes off it; its first byte is none of that.
+[[gnu::always_inline]] inline const char* TrimEnd(const char* end) {
+  while (IsTrimmed(end[-1])) --end;
+  return end;
 }
 
-std::string_view NextToken(std::string_view& text) {
+template <class Search>
+[[gnu::always_inline]] inline std::string_view Next(std::string_view& text) {
   const char* end = text.data() + text.size();
   const char* const begin = SkipTrimmed(text.data(), end);
   while (end != begin && IsTrimmed(end[-1])) --end;
   text = {begin, static_cast<std::size_t>(end - begin)};
-  if (begin == end) return {};
+  if (begin == end) return text;
   const char* tokenEnd = end;
   if (*begin != '"') {
-    tokenEnd = bytes::Find<' '>(begin + 1, end);
-  } else if (const char* const quote = ClosingQuote(begin + 1, end)) {
+    tokenEnd = Search::template Find<' '>(begin + 1, end);
+  } else if (const char* const quote = ClosingQuote<Search>(begin + 1, end)) {
     tokenEnd = quote + 1;
   }
   text = {tokenEnd, static_cast<std::size_t>(end - tokenEnd)};
-  while (IsTrimmed(tokenEnd[-1])) --tokenEnd;  // the first byte is not
-  return {begin, static_cast<std::size_t>(tokenEnd - begin)};
+  return {begin, static_cast<std::size_t>(TrimEnd(tokenEnd) - begin)};
 }
+
+}  // namespace
+
+std::size_t FindClosingQuote(std::string_view text, std::size_t from) {
+  const char* const quote = ClosingQuote<Exactly>(text.data() + from, text.data() + text.size());
+  return quote == nullptr ? kNone : static_cast<std::size_t>(quote - text.data());
+}
+
+std::string_view NextToken(std::string_view& text) { return Next<Exactly>(text); }
+std::string_view NextPaddedToken(std::string_view& text) { return Next<InPadded>(text); }
 
 std::size_t CountTokens(std::string_view text) {
-  TokenCounter counter;
-  counter.Continue(text);
-  return counter.Count();
+  std::size_t count = 0;
+  const char* const end = text.data() + text.size();
+  for (const char* position = SkipTrimmed(text.data(), end); position != end;
+       position = SkipTrimmed(position, end)) {
+    const char* const behind = *position == '"' ? ClosingQuote<Exactly>(position + 1, end)
+                                                : bytes::Find<' '>(position + 1, end) - 1;
+    if (behind == nullptr) return count;
+    position = behind + 1;
+    ++count;
+  }
+  return count;
 }
 
-void TokenCounter::Continue(std::string_view text) {
-  const char* position = text.data() + position_;
-  const char* const end = text.data() + text.size();
+bool TokenFinder::Find(std::string_view text, std::size_t needed) {
+  const char* const start = text.data();
+  const char* const end = start + text.size();
+  const char* position = start + position_;
   position_ = text.size();
-  while (true) {
+  while (count_ < needed) {
     if (!inQuotes_) {
       position = SkipTrimmed(position, end);
-      if (position == end) return;
+      if (position == end) return false;
+      begin_ = static_cast<std::size_t>(position - start);
       inQuotes_ = *position == '"';
       ++position;
     }
+    const char* tokenEnd = nullptr;
     if (inQuotes_) {
-      const char* const close = ClosingQuote(position, end);
-      if (close == nullptr) return;
+      const char* const close = ClosingQuote<InPadded>(position, end);
+      if (close == nullptr) return false;
       position = close + 1;
+      tokenEnd = position;
       inQuotes_ = false;
     } else {
-      position = bytes::Find<' '>(position, end);
+      position = bytes::FindPadded<' '>(position, end);
+      tokenEnd = TrimEnd(position);
+    }
+    if (count_ < kMostKept) {
+      places_[count_] = {begin_, static_cast<std::size_t>(tokenEnd - start)};
     }
     ++count_;
   }
+  return true;
 }
 
 std::size_t UnquoteInto(std::string_view token, char* out) {

@@ -8,7 +8,10 @@
 // All results are views into the text that was passed in; nothing is copied.
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -33,6 +36,8 @@ namespace a2l {
 /// stays as it stands, with the blank that ended the token; empty text gives an empty token. A
 /// quoted text without its closing quote is taken to the end.
 std::string_view NextToken(std::string_view& text);
+/// The same in a padded text (see bytes.h).
+std::string_view NextPaddedToken(std::string_view& text);
 
 /// The number of tokens that NextToken would give, but that a quoted text without its closing
 /// quote ends the count and is not counted.
@@ -50,19 +55,76 @@ std::size_t UnquoteInto(std::string_view token, char* out);
 /// opening quote (and so at least 1); npos when it is not closed.
 [[nodiscard]] std::size_t FindClosingQuote(std::string_view text, std::size_t from);
 
-/// Counts the tokens of a text that grows at its end, each byte looked at once. Between two
-/// calls the text may only be appended to, beginning with a blank.
-class TokenCounter {
+class TokenReader;
+
+/// Finds the tokens of a text that grows at its end, each byte looked at once, until there are as
+/// many as an element takes. It keeps where the first ones stand, so that the element need not
+/// look for them again. Between two calls the text may only be appended to, beginning with a blank.
+class TokenFinder {
  public:
-  /// Takes up what was appended; `text` is the whole text.
-  void Continue(std::string_view text);
-  void Reset() { *this = {}; }
-  [[nodiscard]] std::size_t Count() const { return count_; }
+  /// Where a token stands.
+  struct Place {
+    std::size_t begin;
+    std::size_t end;
+  };
+  /// More tokens than any element takes, but for lists and tables.
+  static constexpr std::size_t kMostKept = 16;
+
+  /// Begins anew, with another text.
+  void Reset() {
+    position_ = 0;
+    count_ = 0;
+    inQuotes_ = false;
+  }
+  /// Takes up what was appended. True when there are `needed` tokens, the same number in every call
+  /// for a text. `text` is the whole text, padded (see bytes.h).
+  bool Find(std::string_view text, std::size_t needed);
+  /// Hands out the tokens of the text that was found in last.
+  [[nodiscard]] TokenReader Tokens(std::string_view text) const;
 
  private:
   std::size_t position_ = 0;
   std::size_t count_ = 0;
   bool inQuotes_ = false;
+  std::size_t begin_ = 0;  // of the quoted text, where the text ends in one
+  std::array<Place, kMostKept> places_;
 };
+
+/// Hands out the tokens of a text as NextToken does, those that a TokenFinder has found without a
+/// search.
+class TokenReader {
+ public:
+  explicit TokenReader(std::string_view text) : text_(text), rest_(text) {}
+  /// `found` are the places of the first tokens, and stay the caller's.
+  TokenReader(std::string_view text, std::span<const TokenFinder::Place> found)
+      : text_(text),
+        rest_(found.empty() ? text : text.substr(found.back().end)),
+        first_(found.data()),
+        next_(first_),
+        end_(first_ + found.size()) {}
+
+  /// The next token; empty when there is none.
+  [[gnu::always_inline]] std::string_view Next() {
+    if (next_ == end_) return NextToken(rest_);
+    const TokenFinder::Place place = *next_++;
+    return {text_.data() + place.begin, place.end - place.begin};
+  }
+  /// What has not been handed out.
+  [[nodiscard]] std::string_view Rest() const {
+    if (next_ == end_) return rest_;
+    return next_ == first_ ? text_ : text_.substr(next_[-1].end);
+  }
+
+ private:
+  std::string_view text_;
+  std::string_view rest_;
+  const TokenFinder::Place* first_ = nullptr;
+  const TokenFinder::Place* next_ = nullptr;
+  const TokenFinder::Place* end_ = nullptr;
+};
+
+inline TokenReader TokenFinder::Tokens(std::string_view text) const {
+  return {text, std::span(places_).first(std::min(count_, kMostKept))};
+}
 
 }  // namespace a2l

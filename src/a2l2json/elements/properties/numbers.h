@@ -75,8 +75,8 @@ struct VoA2LElementArraySize final
   std::uint32_t ARRAY_SIZE = 0;
   static constexpr Parameter parameters[] = {Unsigned<&Self::ARRAY_SIZE>};
 
-  bool ParseParameters(std::string_view& text) override {
-    const bool ok = Property::ParseParameters(text);
+  bool TakeParameters(TreeStore& store, TokenReader& tokens) override {
+    const bool ok = Property::TakeParameters(store, tokens);
     ARRAY_SIZE = std::min(ARRAY_SIZE, std::uint32_t{32767});
     return ok;
   }

@@ -76,8 +76,8 @@ struct VoA2LElementFormat final : detail::Property<VoA2LElementFormat, ElementKi
   std::string_view FORMAT;
   static constexpr Parameter parameters[] = {Text<&Self::FORMAT>};
 
-  bool ParseParameters(std::string_view& text) override {
-    return Property::ParseParameters(text) && !FORMAT.empty();
+  bool TakeParameters(TreeStore& store, TokenReader& tokens) override {
+    return Property::TakeParameters(store, tokens) && !FORMAT.empty();
   }
 };
 
