@@ -28,7 +28,8 @@ int main(int argc, char** argv) {
     return 2;
   }
   code = a2l2json_convert_file(argv[1], NULL, &result);
-  print_diagnostics(argv[1], result);
+  /* In what is not an A2L file, no line is worth a look. */
+  if (code != A2L2JSON_NOT_A2L) print_diagnostics(argv[1], result);
   if (code == A2L2JSON_OK) {
     document = a2l2json_document(result, &size);
     fwrite(document, 1, size, stdout);

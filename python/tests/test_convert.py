@@ -44,10 +44,21 @@ def test_the_document_leaves_the_garbage_collector_as_it_is(demo: Path, enabled:
         (gc.enable if was_enabled else gc.disable)()
 
 
-def test_large_documents_come_in_another_way(demo: Path, monkeypatch: pytest.MonkeyPatch) -> None:
-    expected = a2l2json.load(demo).json
+def test_large_texts_come_in_another_way(demo: Path, monkeypatch: pytest.MonkeyPatch) -> None:
+    expected = a2l2json.load(demo).mended
     monkeypatch.setattr(a2l2json._convert, "_MOST_OF_STRING_AT", 0)
-    assert a2l2json.load(demo).json == expected
+    assert a2l2json.load(demo).mended == expected
+
+
+def test_what_is_raised_while_a_document_is_written_is_not_lost(
+    demo: Path, tmp_path: Path, monkeypatch: pytest.MonkeyPatch
+) -> None:
+    def interrupt(*_: object) -> bool:
+        raise KeyboardInterrupt
+
+    monkeypatch.setattr(a2l2json._convert.Output, "write", interrupt)
+    with pytest.raises(KeyboardInterrupt):
+        a2l2json.convert(demo, tmp_path / "out.json")
 
 
 def test_load_takes_text_and_path_alike(demo: Path) -> None:

@@ -6,6 +6,7 @@ from __future__ import annotations
 import codecs
 import ctypes
 import gc
+import io
 import json
 import os
 from dataclasses import dataclass
@@ -189,17 +190,30 @@ class _Call:
         folder: str = "",
         write: Optional[Callable[[memoryview], bool]] = None,
     ) -> None:
+        # It takes the document piece by piece: a large one is not in memory twice.
+        document = self._document = io.BytesIO()
+        raised: List[BaseException] = []
+        self._raised = raised
+
+        def keep(text: memoryview) -> bool:
+            document.write(text)
+            return True
+
+        take = keep if write is None else write
+
         def receive(_: object, address: int, size: int) -> int:
-            assert write is not None
-            return 0 if write(_view(address, size)) else 1
+            try:
+                return 0 if take(_view(address, size)) else 1
+            except BaseException as error:  # as that of Ctrl-C, which C would let go by
+                raised.append(error)
+                return 1
 
         self._options = _library.Options(
             mend=int(mend),
             name=_path(name) if name else None,
             folder=_path(folder) if folder else None,
+            write=_library.Write(receive),
         )
-        if write is not None:
-            self._options.write = _library.Write(receive)
         self._pointer = ctypes.c_void_p()
         self.code = -1
 
@@ -207,15 +221,23 @@ class _Call:
         library.a2l2json_free(self._pointer)
 
     def text(self, text: bytes) -> "_Call":
-        self.code = library.a2l2json_convert_text(text, len(text), self._options, self._pointer)
-        return self
+        return self._done(
+            library.a2l2json_convert_text(text, len(text), self._options, self._pointer)
+        )
 
     def file(self, path: PathLike) -> "_Call":
-        self.code = library.a2l2json_convert_file(_path(path), self._options, self._pointer)
+        return self._done(
+            library.a2l2json_convert_file(_path(path), self._options, self._pointer)
+        )
+
+    def _done(self, code: int) -> "_Call":
+        self.code = code
+        if self._raised:
+            raise self._raised[0]
         return self
 
     def bytes(self, what: str) -> Optional[bytes]:
-        """The document, the messages or the mended text."""
+        """The messages or the mended text."""
         size = ctypes.c_size_t()
         address = getattr(library, "a2l2json_" + what)(self._pointer, size)
         return None if address is None else _bytes(address, size.value)
@@ -250,7 +272,7 @@ class _Call:
             message = _text(library.a2l2json_error(self._pointer) or b"memory ran out")
             raise A2LError(message, self.diagnostics(), self.findings())
         return Result(
-            json=self.bytes("document") or b"",
+            json=self._document.getvalue(),
             diagnostics=self.diagnostics(),
             findings=self.findings(),
             mended=self.bytes("mended"),

@@ -73,7 +73,6 @@ _FUNCTIONS = {
     "convert_file": (ctypes.c_int, [ctypes.c_char_p, _OPTIONS, ctypes.POINTER(_RESULT)]),
     "free": (None, [_RESULT]),
     "error": (ctypes.c_char_p, [_RESULT]),
-    "document": (ctypes.c_void_p, [_RESULT, _SIZE]),
     "messages": (ctypes.c_void_p, [_RESULT, _SIZE]),
     "mended": (ctypes.c_void_p, [_RESULT, _SIZE]),
     "diagnostic_count": (ctypes.c_size_t, [_RESULT]),
