@@ -44,12 +44,9 @@ Word RawText::CopyToEnd() {
 // indentation.
 void RawText::SkipToContent() {
   Source& source = lexer_.Top();
-  bool isNewLine = false;
-  for (; !source.AtEnd() && IsWhite(source.text[source.position]); ++source.position) {
-    if (source.text[source.position] != '\n') continue;
-    source.EndLine();
-    isNewLine = true;
-  }
+  const std::size_t line = source.line;
+  SkipWhite(source);
+  const bool isNewLine = source.line != line;
   SetBegin(isNewLine ? source.lineStart : source.position);
 }
 
