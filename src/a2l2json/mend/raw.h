@@ -17,9 +17,12 @@ namespace a2l::mending {
 
 class RawText {
  public:
-  /// For the block of `keyword`.
+  /// For the block of `keyword`. A quote in it opens a text wherever else it stands.
   RawText(std::string_view keyword, Lexer& lexer, Layout& out, Reporter& reporter)
-      : keyword_(keyword), lexer_(lexer), out_(out), reporter_(reporter) {}
+      : keyword_(keyword.substr(0, keyword.find('"'))),
+        lexer_(lexer),
+        out_(out),
+        reporter_(reporter) {}
 
   /// Copies what follows, up to the /end that closes the block, and gives that; or the end of the
   /// input.
