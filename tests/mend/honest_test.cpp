@@ -131,11 +131,13 @@ void CompareModules(const MendRun& run, const Json& before, const Json& after,
 }
 
 TEST(MendHonest, WhereTheDocumentChangesThereIsAFinding) {
+  std::size_t files = 0;
   for (const Sample& sample : MendSamples()) {
     const MendRun run = RunMend(sample.text);
     const auto before = DocumentOf(sample.text);
     const auto after = DocumentOf(run.mended.text);
     if (SameDocument(before, after)) continue;
+    ++files;
     EXPECT_FALSE(run.findings.empty()) << sample.name;
     if (!before || !after) continue;
     std::string error;
@@ -148,6 +150,7 @@ TEST(MendHonest, WhereTheDocumentChangesThereIsAFinding) {
       CompareModules(run, old["FModules"][i], modules[i], sample.text, sample.name);
     }
   }
+  RecordProperty("files", std::to_string(files));
 }
 
 }  // namespace

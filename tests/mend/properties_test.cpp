@@ -2,8 +2,9 @@
 //
 // What holds for every file that is mended: nothing is lost by it, nothing is lost in silence, and
 // once is enough. Held on the golden cases, on generated files, on both in layouts picked by
-// chance, and on files of users where there are any.
+// chance, and on files of users where there are any. The XML report has the numbers of files.
 #include <algorithm>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -25,14 +26,18 @@ TEST(MendProperties, Done) {
       EXPECT_FALSE(finding.IsMendable()) << sample.name << "\n" << finding.text;
     }
   }
+  RecordProperty("files", std::to_string(MendSamples().size()));
 }
 
 TEST(MendProperties, Harmless) {
+  std::size_t files = 0;
   for (const Sample& sample : MendSamples()) {
     const MendRun run = RunMend(sample.text);
     if (!run.findings.empty()) continue;
+    ++files;
     EXPECT_TRUE(SameDocument(DocumentOf(sample.text), DocumentOf(run.mended.text))) << sample.name;
   }
+  RecordProperty("files", std::to_string(files));
 }
 
 // Where a keyword has no place, it depends on the layout whether the converter sees it.
@@ -48,6 +53,7 @@ bool IsTextOverLines(std::string_view word) {
 }
 
 TEST(MendProperties, Complete) {
+  std::size_t files = 0;
   for (const Sample& sample : MendSamples()) {
     const MendRun first = RunMend(sample.text);
     if (std::ranges::any_of(first.findings, &EndsTheRead)) continue;
@@ -55,6 +61,7 @@ TEST(MendProperties, Complete) {
     if (std::ranges::any_of(WordsOf(own), &IsTextOverLines)) continue;
     const auto document = DocumentOf(own);
     if (!document) continue;
+    ++files;
     Random random("once more: " + sample.name);
     const std::string other = LaidOutAnew(own, random);
     const std::string mended = RunMend(other).mended.text;
@@ -63,6 +70,7 @@ TEST(MendProperties, Complete) {
                                                             << other << "\n-----\n"
                                                             << mended;
   }
+  RecordProperty("files", std::to_string(files));
 }
 
 }  // namespace
