@@ -17,9 +17,10 @@ namespace a2l::mending {
 
 class RawText {
  public:
-  /// For the block of `keyword`. A quote in it opens a text wherever else it stands.
+  /// For the block of `keyword`. A quote behind its first byte opens a text
+  /// wherever else it stands.
   RawText(std::string_view keyword, Lexer& lexer, Layout& out, Reporter& reporter)
-      : keyword_(keyword.substr(0, keyword.find('"'))),
+      : keyword_(keyword.substr(0, keyword.find('"', 1))),
         lexer_(lexer),
         out_(out),
         reporter_(reporter) {}
