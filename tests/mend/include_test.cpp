@@ -66,6 +66,19 @@ TEST(MendInclude, IsLeftOutWithoutAName) {
          "/begin IF_DATA X\n 1 / include\n/end IF_DATA\n", "refused@1:8 include-missing@2:4");
 }
 
+// To the converter, a marker in the name is one.
+TEST(MendInclude, IsLeftOutWithAMarkerInTheName) {
+  for (const std::string_view name : {"parts/endurance.a2l", "\"parts/endurance.a2l\""}) {
+    Expect("ASAP2_VERSION 1 71\n/include " + std::string(name), {}, "ASAP2_VERSION 1 71\n",
+           "include-missing@2:1");
+  }
+  Expect("/begin IF_DATA X\n /include parts/endurance.a2l\n/end IF_DATA\n", {},
+         "/begin IF_DATA X\n / include parts/ endurance.a2l\n/end IF_DATA\n",
+         "refused@1:8 include-missing@2:2");
+  Expect("/include parts/endurance.a2l", {{"parts/endurance.a2l", "ASAP2_VERSION 1 71"}},
+         "ASAP2_VERSION 1 71\n", "include@1:1");
+}
+
 TEST(MendInclude, MayHaveAnEmptyName) {
   Expect("/include \"\"\n", {}, "/include \"\"\n", "include-missing@1:1");
 }

@@ -71,6 +71,11 @@ std::string_view NameInInclude(const Word& word) {
   return source.Rest();
 }
 
+bool MayStay(std::string_view nameInInclude) {
+  return !nameInInclude.empty() && nameInInclude.find(kBegin) == std::string_view::npos &&
+         nameInInclude.find(kEnd) == std::string_view::npos;
+}
+
 Lexer::Lexer(std::string_view text, std::size_t start, const MendOptions& options,
              Reporter& reporter)
     : options_(options), reporter_(reporter) {
@@ -101,18 +106,16 @@ bool Lexer::Take(Word& word) {
   if (c == '"') {
     word.type = WordType::Text;
     word.traits = SkipText(source);
-  } else if (c != '/') {
-    TakePlain(word);
-  } else if (source.HasComment()) {
+  } else if (c == '/' && source.HasComment()) {
     if (!SkipComment(source)) reporter_.Report(FindingAt(MendRule::CommentWithoutEnd, word));
     return false;
-  } else if (source.Rest().starts_with(kBegin)) {
+  } else if (c == '/' && source.Rest().starts_with(kBegin)) {
     word.type = WordType::Begin;
     source.position += kBegin.size();
-  } else if (source.Rest().starts_with(kEnd)) {
+  } else if (c == '/' && source.Rest().starts_with(kEnd)) {
     word.type = WordType::End;
     source.position += kEnd.size();
-  } else if (HasInclude()) {
+  } else if (c == '/' && HasInclude()) {
     return !FollowInclude(word);
   } else {
     TakePlain(word);

@@ -53,6 +53,10 @@ struct Word {
 /// The name in an /include that could not be followed, with its quotes.
 [[nodiscard]] std::string_view NameInInclude(const Word& word);
 
+/// Whether an /include that could not be followed may be written with that name: without one, the
+/// next word would be taken for it, and to the converter a marker in it is one.
+[[nodiscard]] bool MayStay(std::string_view nameInInclude);
+
 class Lexer {
  public:
   /// The words of `text` from `start` on. Everything must outlive this object.

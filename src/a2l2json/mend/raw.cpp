@@ -145,7 +145,8 @@ void RawText::Text() {
     // it ends sooner, at a doubled quote, and what looks like a comment behind that is one.
     Rewrite(word, MendRule::TextBackslash);
   } else if (word.traits.hasMarker) {
-    PartMarkers(word);
+    reporter_.Report(FindingAt(MendRule::TextMarker, word));
+    PartSlashes(word);
   }
 }
 
@@ -162,11 +163,12 @@ void RawText::Rewrite(const Word& word, MendRule rule) {
   rewrittenEnd_ = begin_;
 }
 
-void RawText::PartMarkers(const Word& word) {
-  reporter_.Report(FindingAt(MendRule::TextMarker, word));
+// A blank goes behind the slashes of markers, and behind that of an /include.
+void RawText::PartSlashes(const Word& word) {
   for (std::size_t i = 0; i < word.text.size(); ++i) {
     const std::string_view rest = word.text.substr(i, kBegin.size());
-    if (!rest.starts_with(kBegin) && !rest.starts_with(kEnd)) continue;
+    const bool isInclude = i == 0 && word.type == WordType::Include;
+    if (!isInclude && !rest.starts_with(kBegin) && !rest.starts_with(kEnd)) continue;
     Copy(word.begin + i + 1);
     out_.Raw(" ");
   }
@@ -209,10 +211,8 @@ void RawText::Include() {
   if (lexer_.FollowInclude(word)) {
     if (!isFirst_ && !beginsLine) out_.Raw("\n");
     SetBegin(lexer_.Top().position);
-  } else if (NameInInclude(word).empty()) {
-    // The next word must not become the name.
-    Copy(begin_ + 1);
-    out_.Raw(" ");
+  } else if (!MayStay(NameInInclude(word))) {
+    PartSlashes(word);
   }
 }
 

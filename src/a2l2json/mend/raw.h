@@ -17,8 +17,7 @@ namespace a2l::mending {
 
 class RawText {
  public:
-  /// For the block of `keyword`. A quote behind its first byte opens a text
-  /// wherever else it stands.
+  /// For the block of `keyword`, of which a quote behind its first byte opens a text elsewhere.
   RawText(std::string_view keyword, Lexer& lexer, Layout& out, Reporter& reporter)
       : keyword_(keyword.substr(0, keyword.find('"', 1))),
         lexer_(lexer),
@@ -37,7 +36,7 @@ class RawText {
   void PartFromFile();
   void Text();
   void Rewrite(const Word& word, MendRule rule);
-  void PartMarkers(const Word& word);
+  void PartSlashes(const Word& word);
   void Comment();
   void Include();
   /// What has been read and not copied.

@@ -265,10 +265,9 @@ void Walk::NotAKeyword(const Word& word, ElementKind kind) {
 }
 
 void Walk::MissingInclude(const Word& word) {
-  // Where values are due, the converter would take the words for values. Without a name, the word
-  // that is written next would be taken for one.
+  // Where values are due, the converter would take the words for values.
   const std::string_view name = NameInInclude(word);
-  if (phase_ != Phase::Keyword || name.empty()) return;
+  if (phase_ != Phase::Keyword || !MayStay(name)) return;
   out_.BeginLine(frames_.size());
   // In the letters in which it stands there.
   out_.Plain(word.text.substr(0, std::string_view("/include").size()));
