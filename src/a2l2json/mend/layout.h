@@ -62,7 +62,7 @@ class Layout {
   /// A text with its quotes, in the form in which the converter can read it.
   void Text(std::string_view text, const TextTraits& traits) {
     // Behind a word with a quote in it, the converter takes a comment sign for one.
-    if (hasLooseQuote_ && traits.hasCommentSign) BeginLine(level_ + 1);
+    if (hasLooseQuote_ && traits.hasCommentSign) BeginLine(level_);
     Separate();
     if (traits.IsPlain()) {
       text_ += text;
