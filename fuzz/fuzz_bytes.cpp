@@ -38,12 +38,18 @@ void CheckSkipAll(const Bytes& text) {
             skipped, "SkipAll");
 }
 
-void CheckFindAll(const Bytes& text) {
-  if (text.size() < bytes::kMany) return;
-  const auto places = bytes::FindAll<'\n', '/'>(text.data());
-  for (std::size_t i = 0; i < bytes::kMany; ++i) {
-    Check((places[0] >> i & 1U) == (text[i] == '\n' ? 1U : 0U), "a line feed of FindAll");
-    Check((places[1] >> i & 1U) == (text[i] == '/' ? 1U : 0U), "a slash of FindAll");
+// A padded text is the same with any bytes behind it.
+template <char... kBytes>
+void CheckFindPadded(const Bytes& text) {
+  for (const char behind : {kBytes..., 'x'}) {
+    Bytes padded = text;
+    padded.resize(text.size() + bytes::kBlock, behind);
+    const char* const begin = padded.data();
+    const char* const end = begin + text.size();
+    const auto* const first =
+        std::find_if(begin, end, [](char c) { return ((c == kBytes) || ...); });
+    CheckSame(static_cast<std::size_t>(bytes::FindPadded<kBytes...>(begin, end) - begin),
+              static_cast<std::size_t>(first - begin), "FindPadded");
   }
 }
 
@@ -60,6 +66,9 @@ void CheckKeyword(std::string_view text) {
     if (KindToKeyword(ElementKind{number}) == text) kind = ElementKind{number};
   }
   Check(KeywordToKind(text) == kind, "the kind of a keyword");
+  Bytes padded(text.begin(), text.end());
+  padded.resize(text.size() + bytes::kBlock, 'A');
+  Check(PaddedKeywordToKind({padded.data(), text.size()}) == kind, "that of a padded keyword");
 }
 
 void CheckGrowingText(const Bytes& text) {
@@ -117,7 +126,8 @@ void CheckBytes(std::string_view input) {
   CheckFind<' ', '"'>(text);
   CheckFind<'"', '\\', '\xFF'>(text);
   CheckSkipAll(text);
-  CheckFindAll(text);
+  CheckFindPadded<' '>(text);
+  CheckFindPadded<'"', '\n'>(text);
   CheckCopy(text);
   CheckEscapes(text);
   CheckGrowingText(text);

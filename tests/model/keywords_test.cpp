@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/kinds.h"
+#include "tests/support/padded.h"
 
 #include "a2l2json/names_begin.h"
 
@@ -24,6 +25,8 @@ TEST(Keywords, HaveTheNumbersThatOthersRelyOn) {
     for (const std::string& keyword : Words(group.keywords)) {
       const auto kind = static_cast<ElementKind>(number);
       EXPECT_EQ(static_cast<std::int32_t>(KeywordToKind(keyword)), number) << keyword;
+      EXPECT_EQ(PaddedKeywordToKind(Padded(keyword).View()), kind) << keyword;
+      EXPECT_EQ(PaddedKeywordToKind(Padded(keyword + 'X').View()), KIND_UNKNOWN) << keyword;
       EXPECT_EQ(KindToKeyword(kind), keyword) << number;
       ++number;
       ++count;

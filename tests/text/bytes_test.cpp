@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/padded.h"
+
 namespace a2l::bytes {
 namespace {
 
@@ -96,14 +98,26 @@ TEST(Bytes, SkipAllStopsAtAnotherByteOrBeforeAPartOfABlock) {
   }
 }
 
-TEST(Bytes, FindAllGivesABitForEachPlace) {
-  std::string text(kMany, 'x');
-  for (const std::size_t place : {0U, 15U, 16U, 40U, 63U}) text[place] = '\n';
-  for (const std::size_t place : {1U, 62U}) text[place] = '/';
-  const Alone alone(text);
-  const auto [lineFeeds, slashes] = FindAll<'\n', '/'>(alone.begin());
-  EXPECT_EQ(lineFeeds, 0x8000010000018001U);
-  EXPECT_EQ(slashes, 0x4000000000000002U);
+// What stands behind a padded text is never found, whatever it is.
+TEST(Bytes, FindPaddedGivesTheFirstOfTheBytesInTheText) {
+  for (std::size_t size = 0; size < 70; ++size) {
+    for (std::size_t place = 0; place <= size; ++place) {
+      std::string text(size, 'x');
+      if (place < size) text[place] = '"';
+      const test::Padded padded(text);
+      const char* const begin = padded.View().data();
+      ASSERT_EQ((FindPadded<' ', '"'>(begin, begin + size)), begin + place);
+      ASSERT_EQ(FindPadded<'/'>(begin, begin + size), begin + size);
+    }
+  }
+}
+
+TEST(Bytes, LoadPaddedGivesTheSameWordsAsLoadPart) {
+  const std::string text = "0123456789abcdef";
+  for (std::size_t size = 0; size < kBlock; ++size) {
+    const test::Padded padded(text.substr(0, size));
+    EXPECT_EQ(Words::LoadPadded(padded.View().data(), size), Words::LoadPart(text.data(), size));
+  }
 }
 
 TEST(Bytes, CopyCopiesTextsOfAnyLength) {

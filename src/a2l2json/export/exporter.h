@@ -25,6 +25,7 @@
 #include "a2l2json/export/forms.h"
 #include "a2l2json/export/object_table.h"
 #include "a2l2json/export/places.h"
+#include "a2l2json/text/bytes.h"
 
 namespace a2l {
 
@@ -98,9 +99,12 @@ class Exporter {
         }
         sink_.Key(table, next, index);
         sink_.BeginArray();
-        for (std::uint32_t position = first; position != 0; position = places.Next(position)) {
+        for (std::uint32_t position = first; position != 0;) {
+          const std::uint32_t following = places.Next(position);
+          if (following != 0) bytes::Prefetch(&places.Child(following), kBytesOfObject);
           sink_.Item();
           WriteValue(row.form, places.Child(position));
+          position = following;
         }
         sink_.EndArray();
         break;
@@ -125,6 +129,11 @@ class Exporter {
     }
     return index + 1;
   }
+
+  // A usual object with its children, which mostly stand behind it. When an object is written, most
+  // of it has left the processor's cache since it was read, so that the next one is asked for while
+  // this one is written.
+  static constexpr std::size_t kBytesOfObject = 768;
 
   // Of the kinds of forms, calls that which it is.
   [[gnu::always_inline]] void WriteValue(const Form& form, const VoA2LElement& element) {

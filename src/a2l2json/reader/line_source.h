@@ -28,18 +28,20 @@ class LineSource {
 
   /// `in` stays the caller's and must outlive this object.
   explicit LineSource(std::istream& in, std::size_t pieceSize = kPieceSize)
-      : in_(in), pieceSize_(pieceSize) {}
+      : in_(in), pieceSize_(pieceSize) {
+    Enlarge();
+  }
 
   /// The next line, without its line feed, padded (see text/bytes.h); valid until the next call.
   /// False at the end of the input and when it cannot be read on (see Failed).
   bool Next(std::string_view& line) {
     slashes_ = {};
-    if (lineFeedPlaces_ == 0 && !FindLineFeed()) return TakeRest(line);
-    const std::uint64_t upToLineFeed = lineFeedPlaces_ ^ (lineFeedPlaces_ - 1);
-    const std::size_t lineFeed = block_ + bytes::FirstBit(lineFeedPlaces_);
-    KeepSlashes(slashPlaces_ & upToLineFeed);
-    slashPlaces_ &= ~upToLineFeed;
-    lineFeedPlaces_ &= ~upToLineFeed;
+    std::size_t lineFeed = FindLineFeed(begin_);
+    while (lineFeed == end_) {  // the one behind what has been read
+      const std::size_t unread = end_ - begin_;
+      if (!Refill()) return TakeRest(line);
+      lineFeed = FindLineFeed(begin_ + unread);
+    }
     line = std::string_view(buffer_.get() + begin_, lineFeed - begin_);
     begin_ = lineFeed + 1;
     return true;
@@ -57,14 +59,29 @@ class LineSource {
   [[nodiscard]] bool Failed() const { return in_.bad(); }
 
  private:
-  bool FindLineFeed();
+  // The first line feed from `from` on; keeps the slashes in front of it.
+  [[nodiscard]] std::size_t FindLineFeed(std::size_t from) {
+    for (;; from += bytes::kBlock) {
+      const bytes::Block block = bytes::Block::Load(buffer_.get() + from);
+      const auto lineFeed = block.Equal('\n');
+      const auto slash = block.Equal('/');
+      if (bytes::Bits(lineFeed | slash) == 0) continue;
+      const std::uint32_t lineFeeds = bytes::Bits(lineFeed);
+      KeepSlashes(from, bytes::Bits(slash) & (lineFeeds - 1) & ~lineFeeds);
+      if (lineFeeds != 0) return from + bytes::FirstBit(lineFeeds);
+    }
+  }
   bool TakeRest(std::string_view& line);
   bool Refill();
+  // What the buffer must hold for the next piece: a search may begin at the line feed behind it.
+  [[nodiscard]] std::size_t Room() const { return end_ - begin_ + pieceSize_ + 2 * bytes::kBlock; }
   void Enlarge();
   void MoveUnread(char* to);
-  void KeepSlashes(std::uint64_t places) {
+  void EndWithLineFeed();
+  // `places` are those of slashes in the block at `block`.
+  void KeepSlashes(std::size_t block, std::uint32_t places) {
     if (places == 0) return;
-    const std::size_t blockInLine = block_ - begin_;  // may wrap around; the sums do not
+    const std::size_t blockInLine = block - begin_;
     if (slashes_.first == std::string_view::npos) {
       slashes_.first = blockInLine + bytes::FirstBit(places);
     }
@@ -73,17 +90,12 @@ class LineSource {
 
   std::istream& in_;
   std::size_t pieceSize_;
-  // With room for a block behind what has been read.
+  // A line feed stands behind what has been read, so that every search ends, and bytes behind that
+  // fill a block.
   std::unique_ptr<char[]> buffer_;
   std::size_t bufferSize_ = 0;
   std::size_t begin_ = 0;  // of what has not been handed out
   std::size_t end_ = 0;    // of what has been read
-
-  // The block that is looked at, and what has not been handed out of it: a bit for each place.
-  std::size_t block_ = 0;
-  std::size_t blockEnd_ = 0;
-  std::uint64_t lineFeedPlaces_ = 0;
-  std::uint64_t slashPlaces_ = 0;
   Slashes slashes_;
 };
 

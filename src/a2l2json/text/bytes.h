@@ -216,22 +216,6 @@ template <char kByte>
   return begin;
 }
 
-/// The number of bytes that FindAll looks at.
-inline constexpr std::size_t kMany = 64;
-
-/// For each of these bytes where it stands among the 64 from `begin` on: a bit for each place, that
-/// of the first lowest.
-template <char... kBytes>
-[[nodiscard]] inline std::array<std::uint64_t, sizeof...(kBytes)> FindAll(const char* begin) {
-  std::array<std::uint64_t, sizeof...(kBytes)> places{};
-  for (std::size_t i = 0; i < kMany; i += kBlock) {
-    const Block block = Block::Load(begin + i);
-    std::size_t byte = 0;
-    ((places[byte++] |= std::uint64_t{Bits(block.Equal(kBytes))} << i), ...);
-  }
-  return places;
-}
-
 /// Copies `size` bytes in whole blocks: up to kBlock more can be read and written over.
 inline void CopyInBlocks(char* to, const char* from, std::size_t size) {
   std::size_t i = 0;
@@ -260,6 +244,14 @@ inline void Copy(char* to, const char* from, std::size_t size) {
   const Block last = Block::Load(from + size - kBlock);
   for (std::size_t i = 0; i + kBlock < size; i += kBlock) Block::Load(from + i).Store(to + i);
   last.Store(to + size - kBlock);
+}
+
+/// Asks the processor for `size` bytes that are read soon. Changes nothing but the time of that.
+inline void Prefetch(const void* from, std::size_t size) {
+  constexpr std::size_t kCacheLine = 64;
+  for (std::size_t i = 0; i < size; i += kCacheLine) {
+    __builtin_prefetch(static_cast<const char*>(from) + i);
+  }
 }
 
 }  // namespace a2l::bytes
