@@ -112,8 +112,9 @@ def measure_mending(mend, folder, inputs, samples):
 
 
 def measure_processes(bench, program, folder, inputs, samples):
-    """The program, and directly after it the physical limit for the same bytes."""
+    """The program, and directly after it cat and the physical limit for the same bytes."""
     output = os.path.join(folder, "out.json")
+    copy_of_output = os.path.join(folder, "copy.json")
     for size, data in inputs.items():
         for _ in range(SMALL_RUNS if size == "1k" else 1):
             samples.add("Whole", size, run([program, data["path"], output]))
@@ -123,6 +124,11 @@ def measure_processes(bench, program, folder, inputs, samples):
                 data["output"] = written
             elif written != data["output"]:
                 sys.exit(f"two runs for {data['path']} wrote documents of different length")
+            if size != "1k":
+                cat = 'cat "$0" >/dev/null; cat "$1" >"$2"'
+                files = [data["path"], output, copy_of_output]
+                samples.add("Cat", size, run(["/bin/sh", "-c", cat, *files]))
+                os.remove(copy_of_output)
             os.remove(output)  # each run makes a new file; emptying an old one takes time
         if size != "1k":
             copy = [bench, "--plain-copy", data["path"], output, str(written)]
@@ -183,6 +189,7 @@ def report(sizes, inputs, samples):
     rows += [
         ("whole conversion, processor ms", each("Whole", "cpu", milliseconds, 1)),
         ("physical limit, processor ms", each("Limit", "cpu", milliseconds, 1)),
+        ("cat of input and document, processor ms", each("Cat", "cpu", milliseconds, 1)),
         ("whole conversion, wall clock ms", each("Whole", "wall", milliseconds, 1)),
         ("physical limit, wall clock ms", each("Limit", "wall", milliseconds, 1)),
         ("peak memory of the process / input",
@@ -208,6 +215,8 @@ def report(sizes, inputs, samples):
         ("whole conversion / physical limit at 64 MB, wall clock",
          ratio(per_byte("Whole", 64, "wall"), per_byte("Limit", 64, "wall"))
          if 64 in inputs else "-"),
+        ("whole conversion / cat of input and document at 64 MB, processor time",
+         ratio(per_byte("Whole", 64), per_byte("Cat", 64)) if 64 in inputs else "-"),
         ("export by way of json11 / export at 8 MB",
          ratio(per_byte("ExportJson11", 8), per_byte("Export", 8), 1) if 8 in inputs else "-"),
         ("time per MB at 256 MB / time per MB at 8 MB",
