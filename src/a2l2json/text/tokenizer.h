@@ -87,7 +87,7 @@ class TokenFinder {
   std::size_t count_ = 0;
   bool inQuotes_ = false;
   std::size_t begin_ = 0;  // of the quoted text, where the text ends in one
-  std::array<Place, kMostKept> places_;
+  std::array<Place, kMostKept> places_{};
 };
 
 /// Hands out the tokens of a text as NextToken does, those that a TokenFinder has found without a
