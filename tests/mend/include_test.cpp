@@ -119,7 +119,7 @@ TEST(MendInclude, KeepsWhatFollowsFilesInInterfaceData) {
   expect("/include a 2", {{"a", "\n\n 1"}}, " 1\n 2");
   expect("0\n  /include a\r\n2", {{"a", "1"}}, " 0\n  1\r\n2");
   // A comment in the file is none behind the text.
-  expect("\"\\\\\" /include a", {{"a", "// 1"}}, " \"\\\\\" \n// 1");
+  expect(R"("\\" /include a)", {{"a", "// 1"}}, " \"\\\\\" \n// 1");
 }
 
 TEST(MendInclude, TakesANameWithBlanksWhoseFirstWordIsThatOfAFolder) {
