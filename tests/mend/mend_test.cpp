@@ -196,7 +196,7 @@ TEST(MendTexts, KeepWhatLooksLikeAComment) {
           "/begin PROJECT p \"a // b /* c\"\n/end PROJECT\n", ""});
   // A quote inside of a word opens a text as far as comments go.
   Expect({"/begin PROJECT 5\" \"a // b\"\n/end PROJECT\n",
-          "/begin PROJECT 5\"\n\"a // b\"\n/end PROJECT\n", "inside-text@1:19"});
+          "/begin PROJECT 5\"\n  \"a // b\"\n/end PROJECT\n", "inside-text@1:19"});
 }
 
 TEST(MendTexts, KeepTabs) {

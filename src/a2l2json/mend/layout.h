@@ -39,7 +39,6 @@ class Layout {
   /// Begins a line, with the indentation of blocks that lie in `level` others.
   void BeginLine(std::size_t level) {
     EndLine();
-    level_ = level;
     // However deep blocks lie in each other, what stands before a line stays short.
     constexpr std::size_t kMostLevels = 12;
     text_.append(2 * std::min(level, kMostLevels), ' ');
@@ -59,10 +58,11 @@ class Layout {
   }
   void Plain(std::string_view word) { Plain(word, word.find('"') != std::string_view::npos); }
 
-  /// A text with its quotes, in the form in which the converter can read it.
-  void Text(std::string_view text, const TextTraits& traits) {
+  /// A text with its quotes, in the form in which the converter can read it. If it needs a line of
+  /// its own, that is indented as words are in `level` blocks.
+  void Text(std::string_view text, const TextTraits& traits, std::size_t level) {
     // Behind a word with a quote in it, the converter takes a comment sign for one.
-    if (hasLooseQuote_ && traits.hasCommentSign) BeginLine(level_);
+    if (hasLooseQuote_ && traits.hasCommentSign) BeginLine(level);
     Separate();
     if (traits.IsPlain()) {
       text_ += text;
@@ -123,7 +123,6 @@ class Layout {
   LineMap* lines_;
   std::string_view file_;
   std::size_t line_ = 1;
-  std::size_t level_ = 0;
   bool lineIsEmpty_ = true;
   /// The next raw byte is the first of its line.
   bool rawBeginsLine_ = false;

@@ -211,8 +211,13 @@ void RawText::Include() {
   if (lexer_.FollowInclude(word)) {
     if (!isFirst_ && !beginsLine) out_.Raw("\n");
     SetBegin(lexer_.Top().position);
-  } else if (!MayStay(NameInInclude(word))) {
+  } else if (const std::string_view name = NameInInclude(word); !MayStay(name)) {
     PartSlashes(word);
+    const bool isOpen = name.starts_with('"') && (name.size() == 1 || !name.ends_with('"'));
+    if (!isOpen) return;
+    // Without the /include, the quote begins a text.
+    Copy(word.end);
+    out_.Raw("\"");
   }
 }
 

@@ -484,7 +484,7 @@ void Walk::FinishItem(const Word& behind) {
 
 void Walk::Write(const Word& word) {
   if (word.type == WordType::Text) {
-    out_.Text(word.text, word.traits);
+    out_.Text(word.text, word.traits, frames_.size());
   } else {
     out_.Plain(word.text, word.hasQuote);
   }
