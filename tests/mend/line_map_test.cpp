@@ -95,6 +95,19 @@ TEST(LineMap, KnowsWhatIsBehindTheEnd) {
   EXPECT_EQ(RunMend("").lines.Of(1).file, "");
 }
 
+TEST(LineMap, LeadsThroughTwoTextsToTheFirst) {
+  LineMap first;
+  for (const std::size_t line : {1, 5, 6}) first.BeginLine("a", line);
+  LineMap second;
+  for (const std::size_t line : {1, 2, 2, 3}) second.BeginLine("", line);
+  second.SetLinesBefore(1);
+  const LineMap both = first.Through(second);
+  std::vector<std::size_t> lines;
+  for (std::size_t line = 1; line <= 5; ++line) lines.push_back(both.Of(line).line);
+  EXPECT_EQ(lines, (std::vector<std::size_t>{1, 1, 5, 5, 6}));
+  EXPECT_EQ(both.Of(5).file, "a");
+}
+
 // The first word of a mended line stands in the line that the map tells, unless mending has made
 // it.
 TEST(LineMap, LeadsToTheWordsOfTheLine) {

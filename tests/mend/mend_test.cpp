@@ -438,6 +438,15 @@ TEST(MendGrammar, TellsOfParametersThatAreMissing) {
       "parameter-missing@5:7 surplus@5:22");
 }
 
+TEST(MendGrammar, TellsOfInterfaceDataWithoutAName) {
+  ExpectInModule("    /begin IF_DATA\n    /end IF_DATA\n", "    /begin IF_DATA\n    /end IF_DATA\n",
+                 "parameter-missing@4:5");
+  // The converter takes the first marker for the name.
+  ExpectInModule("    /begin IF_DATA\n /begin A /end A\n    /end IF_DATA\n",
+                 "    /begin IF_DATA\n /begin A /end A\n    /end IF_DATA\n",
+                 "parameter-missing@4:2");
+}
+
 TEST(MendGrammar, TellsOfSurplusParameters) {
   ExpectInModule(
       "    /begin MOD_COMMON \"\" 5\n      ALIGNMENT_BYTE 1 2\n      3\n    /end MOD_COMMON\n",

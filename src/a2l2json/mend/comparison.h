@@ -61,6 +61,8 @@ class Comparison {
   bool Surplus(const Word& word);
   /// The name of an IF_DATA, and the keyword behind the /end of a block that is kept as text.
   void InterfaceName(const Word& word, Element& element);
+  /// The marker behind an IF_DATA without a name, which the converter may take for it.
+  void NoInterfaceName(const Word& marker) { At(marker); }
   void RawEnd(const Word& word, Element& element);
 
   /// The end of the file; `end` has no bytes.

@@ -13,6 +13,15 @@ SourceLine LineMap::Of(std::size_t mended) const {
   return {files_[run.file], run.line + (line - run.first)};
 }
 
+LineMap LineMap::Through(const LineMap& next) const {
+  LineMap map;
+  for (std::size_t line = 1; line <= next.before_ + next.lines_; ++line) {
+    const SourceLine source = Of(next.Of(line).line);
+    map.BeginLine(source.file, source.line);
+  }
+  return map;
+}
+
 void LineMap::BeginLine(std::string_view file, std::size_t line) {
   ++lines_;
   if (!runs_.empty()) {

@@ -25,6 +25,9 @@ class LineMap {
   /// What is behind the end belongs to the last line; an empty text to the first of no file.
   [[nodiscard]] SourceLine Of(std::size_t mended) const;
 
+  /// The map of a text that was mended from the mended text of this map, `next` being its map.
+  [[nodiscard]] LineMap Through(const LineMap& next) const;
+
   // How it is filled, line by line.
 
   /// Another line, which begins at `line` of `file`.

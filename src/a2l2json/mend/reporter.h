@@ -16,6 +16,7 @@ class Reporter {
   void Report(const Finding& finding) {
     const MendOutcome outcome = RowOf(finding.rule).outcome;
     ++counts_[static_cast<std::size_t>(outcome)];
+    isBroken_ |= outcome != MendOutcome::Lost && !IsAboutAValue(finding.rule);
     if (outcome != MendOutcome::Unmendable || EndsTheRead(finding.rule)) {
       line_ = finding.line;
       file_ = finding.file;
@@ -29,6 +30,9 @@ class Reporter {
     return line_ == word.line && file_ == word.file;
   }
 
+  /// Whether a finding was about words that the grammar has no place for, or that it misses.
+  [[nodiscard]] bool IsBroken() const { return isBroken_; }
+
   [[nodiscard]] std::size_t Count(MendOutcome outcome) const {
     return counts_[static_cast<std::size_t>(outcome)];
   }
@@ -40,8 +44,17 @@ class Reporter {
            rule == MendRule::IncludeMissing || rule == MendRule::CommentWithoutEnd;
   }
 
+  static bool IsAboutAValue(MendRule rule) {
+    return rule == MendRule::NumberRange || rule == MendRule::NotANumber ||
+           rule == MendRule::NumberRest || rule == MendRule::Octal ||
+           rule == MendRule::UnknownValue || rule == MendRule::TextWithoutQuotes ||
+           rule == MendRule::EmptyFormat || rule == MendRule::NameCut ||
+           rule == MendRule::NameComma;
+  }
+
   const MendOptions& options_;
   std::array<std::size_t, 3> counts_{};
+  bool isBroken_ = false;
   std::size_t line_ = 0;
   std::string_view file_;
 };

@@ -322,6 +322,8 @@ void Walk::CopyRaw() {
       element.name = name.text;
       Write(name);
     } else if (name.type == WordType::Begin || name.type == WordType::End) {
+      Report(MendRule::ParameterMissing, name, element);
+      comparison_.NoInterfaceName(name);
       lexer_.Return(name);
     }
   }
