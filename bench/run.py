@@ -183,6 +183,7 @@ def report(sizes, inputs, samples):
         ("export (tree to JSON text)", "Export"),
         ("destroying the tree", "Destroy"),
         ("whole conversion (process)", "Whole"),
+        ("mending (process)", "Mend"),
     ):
         rows.append((label + ", MB/s of input", each(name, "cpu", speed, 0)))
         rows.append((label + ", ns per object", each(name, "cpu", per_object, 0)))
@@ -194,6 +195,8 @@ def report(sizes, inputs, samples):
         ("physical limit, wall clock ms", each("Limit", "wall", milliseconds, 1)),
         ("peak memory of the process / input",
          [cell.replace("nan", "-") for cell in each("Whole", "peak", peak, 2)]),
+        ("peak memory of mending / input",
+         [cell.replace("nan", "-") for cell in each("Mend", "peak", peak, 2)]),
         ("output / input", [number(inputs[s]["output"] / inputs[s]["bytes"], 2) for s in sizes]),
     ]
     print_table("processor time unless it says wall clock", sizes, rows)
