@@ -203,7 +203,7 @@ bool Lexer::FollowInclude(Word& word) {
     names = UnquotedNames(line);
     source.position += name.size();
   }
-  if (name.starts_with(kBegin) || name.starts_with(kEnd)) names = {};
+  if (name.starts_with(kBegin) || name.starts_with(kEnd)) names.fill({});
   if (name.empty() && !rest.starts_with(R"("")")) source = behind;
   Finish(word);
   MendRule problem = MendRule::IncludeMissing;

@@ -15,15 +15,11 @@ namespace {
 
 using namespace mending;  // NOLINT(google-build-using-namespace): all of it is here
 
-// No file in use takes more than two.
+// Ends texts that would never settle.
 constexpr int kMostPasses = 8;
 
-struct Pass {
-  Mended mended;
-  bool isBroken = false;  // see Reporter
-};
-
-Pass MendOnce(std::string_view text, const MendOptions& options) {
+// True where the grammar is broken.
+bool MendOnce(std::string_view text, const MendOptions& options, Mended& result) {
   Reporter reporter(options);
   const Encoding encoding = EncodingOf(text);
   const bool isReadable = encoding == Encoding::Bytes;
@@ -46,8 +42,6 @@ Pass MendOnce(std::string_view text, const MendOptions& options) {
                                         : LineEnds::LineFeeds;
   Comparison comparison(text, options.name, lineEnds, reporter);
   Walk walk(lexer, comparison, reporter, options);
-  Pass pass;
-  Mended& result = pass.mended;
   result.text = walk.Run();
   // A word of nonsense at the beginning must not look like the mark of an encoding.
   const bool looksMarked =
@@ -58,8 +52,7 @@ Pass MendOnce(std::string_view text, const MendOptions& options) {
   result.lost = reporter.Count(MendOutcome::Lost);
   result.mended = reporter.Count(MendOutcome::Mended);
   result.unmendable = reporter.Count(MendOutcome::Unmendable);
-  pass.isBroken = reporter.IsBroken();
-  return pass;
+  return reporter.IsBroken();
 }
 
 }  // namespace
@@ -68,18 +61,19 @@ Pass MendOnce(std::string_view text, const MendOptions& options) {
 // words stand around it. Such a text is mended until nothing changes, so that whoever mends it
 // again gets the same. What is told are the findings in the file itself.
 Mended Mend(std::string_view text, const MendOptions& options) {
-  Pass first = MendOnce(text, options);
-  Mended& result = first.mended;
-  for (int pass = 1; pass < kMostPasses && first.isBroken; ++pass) {
+  Mended result;
+  const bool isBroken = MendOnce(text, options, result);
+  for (int pass = 1; pass < kMostPasses && isBroken; ++pass) {
     LineMap lines;
     MendOptions again;
     if (options.lines != nullptr) again.lines = &lines;
-    std::string next = MendOnce(result.text, again).mended.text;
-    if (next == result.text) break;
-    result.text = std::move(next);
+    Mended next;
+    MendOnce(result.text, again, next);
+    if (next.text == result.text) break;
+    result.text = std::move(next.text);
     if (options.lines != nullptr) *options.lines = options.lines->Through(lines);
   }
-  return std::move(result);
+  return result;
 }
 
 }  // namespace a2l
