@@ -118,6 +118,8 @@ TEST(MendInclude, KeepsWhatFollowsFilesInInterfaceData) {
   expect("/include a\n2", {{"a", "\n\n"}}, " 2");
   expect("/include a 2", {{"a", "\n\n 1"}}, " 1\n 2");
   expect("0\n  /include a\r\n2", {{"a", "1"}}, " 0\n  1\r\n2");
+  // Behind other bytes of a word, it is a part of it, as it is elsewhere.
+  expect("1/include a 2", {{"a", "3"}}, " 1/include a 2");
   // A comment in the file is none behind the text.
   expect(R"("\\" /include a)", {{"a", "// 1"}}, " \"\\\\\" \n// 1");
 }

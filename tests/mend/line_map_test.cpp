@@ -97,9 +97,9 @@ TEST(LineMap, KnowsWhatIsBehindTheEnd) {
 
 TEST(LineMap, LeadsThroughTwoTextsToTheFirst) {
   LineMap first;
-  for (const std::size_t line : {1, 5, 6}) first.BeginLine("a", line);
+  for (const std::size_t line : {1U, 5U, 6U}) first.BeginLine("a", line);
   LineMap second;
-  for (const std::size_t line : {1, 2, 2, 3}) second.BeginLine("", line);
+  for (const std::size_t line : {1U, 2U, 2U, 3U}) second.BeginLine("", line);
   second.SetLinesBefore(1);
   const LineMap both = first.Through(second);
   std::vector<std::size_t> lines;

@@ -28,6 +28,13 @@ bool EndsSooner(std::string_view comment) {
   return false;
 }
 
+// Behind other bytes of a word, "/include" is a part of it.
+bool IsInWord(const Source& source) {
+  if (source.position == 0) return false;
+  const char before = source.text[source.position - 1];
+  return !IsWhite(before) && before != '"' && before != '/';
+}
+
 bool IsBlank(std::string_view text) { return std::ranges::all_of(text, &IsWhite); }
 
 }  // namespace
@@ -72,7 +79,7 @@ void RawText::SkipToEnd() {
       Text();
     } else if (c == '/' && source.HasComment()) {
       Comment();
-    } else if (c == '/' && lexer_.HasInclude()) {
+    } else if (c == '/' && !IsInWord(source) && lexer_.HasInclude()) {
       Include();
     } else if (rest.starts_with(kEnd) && inner_.empty()) {
       return Copy(source.position);
