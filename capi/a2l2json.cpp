@@ -6,6 +6,7 @@
 #include <array>
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 #include "a2l2json/a2l2json.h"
 #include "capi/input.h"
@@ -34,6 +35,19 @@ constexpr std::array kCodes = {
 const char* Bytes(const std::string* text, size_t* size) {
   if (size != nullptr) *size = text == nullptr ? 0 : text->size();
   return text == nullptr ? nullptr : text->c_str();
+}
+
+// Where a text in memory lies as if it were the file of its name, so that an /include that names it
+// is seen to go in a circle; empty where it lies nowhere.
+std::string PathOf(const a2l2json_options& options) {
+  if (options.folder == nullptr) return {};
+  const std::string_view folder = options.folder;
+  std::string_view name = options.name == nullptr ? "" : options.name;
+  name.remove_prefix(name.find_last_of("/\\") + 1);
+  std::string path(folder.empty() ? "." : folder);
+  path += '/';
+  path += name.empty() ? "-" : name;
+  return path;
 }
 
 const std::string* Address(const std::optional<std::string>& text) {
@@ -77,7 +91,7 @@ a2l2json_code a2l2json_convert_text(const char* text, size_t size, const a2l2jso
                    bytes = view;
                    return a2l::FileError::None;
                  },
-             .path = checked.folder == nullptr ? "" : checked.folder + std::string("/-")},
+             .path = PathOf(checked)},
             checked, made);
       });
 }

@@ -98,8 +98,8 @@ typedef struct a2l2json_options {
 
   /**
    * For mending, where text in memory lies: the files that it includes are read from this folder
-   * and those below it. NULL: none is read. The files that a file includes are read from its own
-   * folder and those below, whatever this says.
+   * and those below it; an empty text is the current folder. NULL: none is read. The files that a
+   * file includes are read from its own folder and those below, whatever this says.
    */
   const char* folder;
 
@@ -205,8 +205,8 @@ A2L2JSON_API const char* a2l2json_mended(const a2l2json_result* result, size_t* 
  * versions may have further members behind these. */
 typedef struct a2l2json_finding {
   const char* rule; /**< a name that stays, as in "same-line" */
-  const char* file; /**< the name of the file that it is in, as told by the options, or by the
-                         /include that named it */
+  const char* file; /**< the file that it is in: the name that the options or the path give;
+                         of an included file its whole path, with slashes, in UTF-8 */
   size_t line;      /**< the first being 1 */
   size_t column;    /**< in bytes, the first being 1 */
   const char* text; /**< what is found there; may hold any bytes of the input */

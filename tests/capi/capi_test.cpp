@@ -321,8 +321,31 @@ TEST(CInterface, MendsWithIncludedFiles) {
   options.folder = path.c_str();
   EXPECT_EQ(Document(Convert(kIncludes, &options)), Document(file));
 
+  // The empty folder is the current one, not the root of all.
+  options.folder = "";
+  const std::string outside = "/include \"" + (folder / "sub/m.a2l").generic_string() + "\"\n";
+  const Result refused = Convert(outside, &options);
+  ASSERT_GT(a2l2json_finding_count(refused.get()), 0U);
+  EXPECT_STREQ(a2l2json_finding_at(refused.get(), 0)->rule, "include-refused");
+
   // Without mending, nothing is included.
   EXPECT_EQ(Document(ConvertFile((folder / "in.a2l").string())).find("0x51A50"), std::string::npos);
+}
+
+TEST(CInterface, KnowsATextInMemoryThatIncludesItself) {
+  const TemporaryFolder folder;
+  constexpr std::string_view kCircle = "ASAP2_VERSION 1 71\n/include \"in.a2l\"\n";
+  WriteFile(folder / "in.a2l", kCircle);
+  const std::string path = folder.Path().string();
+  const std::string name = path + "/in.a2l";
+  a2l2json_options options = A2L2JSON_OPTIONS_INIT;
+  options.mend = 1;
+  options.folder = path.c_str();
+  options.name = name.c_str();
+  const Result text = Convert(kCircle, &options);
+  ASSERT_EQ(a2l2json_finding_count(text.get()), 1U);
+  EXPECT_STREQ(a2l2json_finding_at(text.get(), 0)->rule, "include-circle");
+  EXPECT_EQ(Document(text), Document(ConvertFile(name, &options)));
 }
 
 TEST(CInterface, TellsTheLinesOfTheSourceWhereItMends) {
