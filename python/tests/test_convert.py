@@ -1,10 +1,14 @@
 # SPDX-License-Identifier: MIT
 from __future__ import annotations
 
+import array
+import errno
 import gc
 import json
+import sys
 import threading
 from pathlib import Path
+from typing import Any, List, Optional
 
 import a2l2json
 import pytest
@@ -70,6 +74,35 @@ def test_loads_takes_bytes_and_text() -> None:
     assert display(a2l2json.loads(unit("°C".encode()).decode())) == "°C"
 
 
+@pytest.mark.parametrize("encoding", [None, "cp1252"])
+@pytest.mark.parametrize("kind", [bytearray, memoryview, lambda text: array.array("B", text)])
+def test_loads_takes_what_holds_bytes(kind: Any, encoding: Optional[str]) -> None:
+    assert display(a2l2json.loads(kind(unit(b"\xb0C")), encoding=encoding)) == "°C"
+
+
+@pytest.mark.parametrize("encoding", [None, "cp1252"])
+@pytest.mark.parametrize("text", [5, None, ["a"], Path("engine.a2l")])
+def test_loads_takes_nothing_else(text: Any, encoding: Optional[str]) -> None:
+    with pytest.raises(TypeError, match="bytes or a str, not " + type(text).__name__):
+        a2l2json.loads(text, encoding=encoding)
+
+
+@pytest.mark.parametrize("mend", [None, 0, "", 1, "yes", 256, 2**32])
+def test_mend_is_true_or_false(demo: Path, mend: Any) -> None:
+    assert (a2l2json.load(demo, mend=mend).mended is not None) == bool(mend)
+
+
+def test_a_call_that_cannot_be_made_says_nothing_more(
+    demo: Path, monkeypatch: pytest.MonkeyPatch
+) -> None:
+    unraisable: List[object] = []
+    monkeypatch.setattr(sys, "unraisablehook", unraisable.append)
+    with pytest.raises(ValueError, match="embedded null byte"):
+        a2l2json._convert._Call(mend=True, folder="a\0b")
+    gc.collect()
+    assert unraisable == []
+
+
 def test_bytes_that_are_no_utf_8_are_cp1252() -> None:
     assert display(a2l2json.loads(unit(b"\xb0C \x80"))) == "°C €"
 
@@ -90,6 +123,12 @@ def test_the_encoding_of_a_file_may_be_told(tmp_path: Path) -> None:
     path = tmp_path / "a.a2l"
     path.write_bytes(unit("Ж".encode("cp1251")))
     assert display(a2l2json.load(path, encoding="cp1251")) == "Ж"
+
+
+def test_with_an_encoding_the_document_is_utf_8() -> None:
+    text = unit(b"\xb0C")
+    assert b'"\xb0C"' in a2l2json.loads(text, mend=False).json
+    assert '"°C"'.encode() in a2l2json.loads(text, mend=False, encoding="cp1252").json
 
 
 def test_a_byte_that_the_encoding_does_not_know_costs_no_more_than_itself() -> None:
@@ -191,6 +230,74 @@ def test_convert_leaves_what_is_there_where_it_fails(tmp_path: Path) -> None:
     with pytest.raises(a2l2json.A2LError):
         a2l2json.convert(broken, out)
     assert out.read_bytes() == b"as before"
+
+
+@pytest.mark.parametrize("text", [b"", b"name,address\nn,1\n"])
+def test_convert_leaves_what_is_there_where_the_input_is_not_a2l(
+    tmp_path: Path, text: bytes
+) -> None:
+    table, out = tmp_path / "table.csv", tmp_path / "out.json"
+    table.write_bytes(text)
+    for path in (out, table):
+        before = path.read_bytes() if path.exists() else None
+        with pytest.raises(a2l2json.A2LError, match="is not an A2L file"):
+            a2l2json.convert(table, path)
+        assert (path.read_bytes() if path.exists() else None) == before
+
+
+def many(count: int) -> bytes:
+    return b"".join(b'/begin UNIT u%d "" "" DERIVED\n/end UNIT\n' % i for i in range(count))
+
+
+@pytest.mark.parametrize("count", [1, 20_000])
+def test_convert_may_write_to_its_input(tmp_path: Path, count: int) -> None:
+    path = tmp_path / "engine.a2l"
+    path.write_bytes(HEAD + many(count) + TAIL)
+    expected = a2l2json.load(path, mend=False).json
+    a2l2json.convert(path, path)
+    assert path.read_bytes() == expected
+
+
+def test_convert_writes_a_large_document_piece_by_piece(
+    tmp_path: Path, monkeypatch: pytest.MonkeyPatch
+) -> None:
+    path, out = tmp_path / "engine.a2l", tmp_path / "engine.json"
+    path.write_bytes(HEAD + many(20_000) + TAIL)
+    expected = a2l2json.load(path, mend=False).json
+    sizes = []
+    write = a2l2json._convert.Output.write
+
+    def seen(output: a2l2json._convert.Output, text: memoryview) -> bool:
+        sizes.append(len(text))
+        return write(output, text)
+
+    monkeypatch.setattr(a2l2json._convert.Output, "write", seen)
+    a2l2json.convert(path, out)
+    assert out.read_bytes() == expected
+    assert sum(sizes) == len(expected)
+    assert max(sizes) < len(expected) / 2
+
+
+@pytest.mark.skipif(not Path("/dev/full").exists(), reason="needs /dev/full")
+@pytest.mark.parametrize("count", [1, 20_000])
+def test_convert_says_where_the_disk_is_full(tmp_path: Path, count: int) -> None:
+    path = tmp_path / "engine.a2l"
+    path.write_bytes(HEAD + many(count) + TAIL)
+    with pytest.raises(OSError) as raised:
+        a2l2json.convert(path, "/dev/full")
+    assert raised.value.errno == errno.ENOSPC
+
+
+def test_a_path_with_a_null_byte_is_an_error_of_the_caller(demo: Path, tmp_path: Path) -> None:
+    for path in (f"{demo}\0", f"{demo}\0x"):
+        for encoding in (None, "cp1252"):
+            with pytest.raises(ValueError, match="embedded null byte"):
+                a2l2json.load(path, encoding=encoding)
+        with pytest.raises(ValueError, match="embedded null byte"):
+            a2l2json.convert(path, tmp_path / "out.json")
+    with pytest.raises(ValueError, match="embedded null byte"):
+        a2l2json.convert(demo, f"{tmp_path / 'out.json'}\0x")
+    assert list(tmp_path.iterdir()) == []
 
 
 def test_convert_says_where_it_cannot_write(demo: Path, tmp_path: Path) -> None:

@@ -3,6 +3,7 @@
 
 from __future__ import annotations
 
+import os
 import subprocess
 import sys
 from pathlib import Path
@@ -60,6 +61,29 @@ def test_an_output_that_cannot_be_opened(
     assert main([str(demo), str(out)]) == 253
     said = b"Failed: Can not write access json file " + bytes(out) + b"\n"
     assert capfdbinary.readouterr().out == said
+
+
+def test_what_is_not_a2l_gives_a_document(
+    tmp_path: Path, capfdbinary: pytest.CaptureFixture[bytes]
+) -> None:
+    table, out = tmp_path / "table.csv", tmp_path / "out.json"
+    table.write_bytes(b"name,address\nn,1\n")
+    assert main([str(table), str(out)]) == 0
+    assert capfdbinary.readouterr().out.startswith(b"Success.\n")
+    assert out.read_bytes().startswith(b"{")
+
+
+@pytest.mark.skipif(os.name == "nt", reason="needs a shell of POSIX")
+def test_without_a_standard_output_it_says_nothing(demo: Path, tmp_path: Path) -> None:
+    out = tmp_path / "out.json"
+    for paths, code in (([demo, out], 0), ([demo], 255)):
+        ran = subprocess.run(
+            ["sh", "-c", '"$0" -m a2l2json "$@" >&-', sys.executable, *paths],
+            stderr=subprocess.PIPE,
+            check=False,
+        )
+        assert (ran.returncode, ran.stderr) == (code, b"")
+    assert out.read_bytes() == demo.with_suffix(".json").read_bytes()
 
 
 def test_the_module_runs_as_a_program(demo: Path, tmp_path: Path) -> None:

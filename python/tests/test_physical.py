@@ -25,6 +25,45 @@ MODULE = """ASAP2_VERSION 1 71
   /begin COMPU_METHOD square "" RAT_FUNC "%4.2" "m"
     COEFFS 1 0 0 0 0 1
   /end COMPU_METHOD
+  /begin COMPU_METHOD tenth "" RAT_FUNC "%4.2" "m"
+    COEFFS 0 1 0 0 0 10
+  /end COMPU_METHOD
+  /begin COMPU_METHOD minus "" RAT_FUNC "%4.2" "m"
+    COEFFS 0 -1 0 0 0 1
+  /end COMPU_METHOD
+  /begin COMPU_METHOD nearly_line "" RAT_FUNC "%4.2" "m"
+    COEFFS 1e-12 1 0 0 0 1
+  /end COMPU_METHOD
+  /begin COMPU_METHOD nearly_falling "" RAT_FUNC "%4.2" "m"
+    COEFFS -1e-12 1 0 0 0 1
+  /end COMPU_METHOD
+  /begin COMPU_METHOD parabola "" RAT_FUNC "%4.2" "m"
+    COEFFS 1 3 2 0 0 1
+  /end COMPU_METHOD
+  /begin COMPU_METHOD parabola_left "" RAT_FUNC "%4.2" "m"
+    COEFFS 1 -3 2 0 0 1
+  /end COMPU_METHOD
+  /begin COMPU_METHOD downwards "" RAT_FUNC "%4.2" "m"
+    COEFFS -1 3 -2 0 0 1
+  /end COMPU_METHOD
+  /begin COMPU_METHOD downwards_left "" RAT_FUNC "%4.2" "m"
+    COEFFS -1 -3 -2 0 0 1
+  /end COMPU_METHOD
+  /begin COMPU_METHOD abs_of_two "" FORM "%4.2" ""
+    /begin FORMULA "abs(X1, 2)"
+    /end FORMULA
+  /end COMPU_METHOD
+  /begin COMPU_METHOD pow_of_one "" FORM "%4.2" ""
+    /begin FORMULA "pow(X1)"
+    /end FORMULA
+  /end COMPU_METHOD
+  /begin COMPU_METHOD late_abs "" FORM "%4.2" ""
+    /begin FORMULA "1 / (X1 - 1) + abs(X1, 2)"
+    /end FORMULA
+  /end COMPU_METHOD
+  /begin COMPU_METHOD holes "" TAB_VERB "%4.2" ""
+    COMPU_TAB_REF holes_table
+  /end COMPU_METHOD
   /begin COMPU_METHOD formula "" FORM "%4.2" "K"
     /begin FORMULA "sqrt(X1) + 2^3"
     /end FORMULA
@@ -72,6 +111,11 @@ MODULE = """ASAP2_VERSION 1 71
     5 9 "high"
     DEFAULT_VALUE "odd"
   /end COMPU_VTAB_RANGE
+  /begin COMPU_VTAB_RANGE holes_table "" 3
+    1e999 1 "no lower limit"
+    0 1e999 "no upper limit"
+    2 3 "whole"
+  /end COMPU_VTAB_RANGE
 /end MODULE
 /end PROJECT
 """
@@ -91,6 +135,11 @@ def module() -> object:
         ("ratio", 4000, 1000),  # raw = 4 x
         ("hyperbola", 4, 25),  # raw = 100 / x
         ("square", 16, 4),  # raw = x^2, of whose two roots the larger one counts
+        ("parabola", 0, -1),  # (x + 1) (x + 2) = 0, and the square root is added
+        ("parabola_left", 0, 2),  # (x - 1) (x - 2) = 0
+        ("downwards", 0, 1),  # -(x - 1) (x - 2) = 0
+        ("downwards_left", 0, -2),  # -(x + 1) (x + 2) = 0
+        ("holes", 2, "whole"),  # of the other ranges a limit is not known
         ("formula", 9, 11),  # 3 + 8
         ("curve", 0, 100),
         ("curve", 5, 150),  # half way from 100 to 200
@@ -115,6 +164,22 @@ def test_physical(module: object, name: str, raw: float, physical: object) -> No
         assert math.isclose(value, physical)
 
 
+@pytest.mark.parametrize(
+    ("name", "physical"),
+    [
+        ("nearly_line", 5 - 2.5e-11),  # 1e-12 x^2 + x = 5, so x is 5 - 1e-12 * 5^2
+        ("nearly_falling", 5 + 2.5e-11),
+    ],
+)
+def test_a_tiny_coefficient_costs_no_digits(module: object, name: str, physical: float) -> None:
+    assert math.isclose(a2l2json.Conversion(module, name)(5), physical, rel_tol=1e-15)
+
+
+@pytest.mark.parametrize("name", ["ratio", "tenth", "minus", "square", "nearly_line"])
+def test_nothing_is_zero_without_a_sign(module: object, name: str) -> None:
+    assert repr(a2l2json.Conversion(module, name)(0)) == "0.0"
+
+
 def test_unit_and_format(module: object) -> None:
     conversion = a2l2json.Conversion(module, "line")
     assert (conversion.unit, conversion.format) == ("deg C", "%4.2")
@@ -126,6 +191,8 @@ def test_unit_and_format(module: object) -> None:
         ("unheard_of", "no COMPU_METHOD unheard_of"),
         ("lost", "no COMPU_VTAB or COMPU_VTAB_RANGE nowhere"),
         ("attack", "__import__"),
+        ("abs_of_two", "abs"),
+        ("pow_of_one", "pow"),
     ],
 )
 def test_a_conversion_that_cannot_be_made(module: object, name: str, says: str) -> None:
@@ -134,7 +201,15 @@ def test_a_conversion_that_cannot_be_made(module: object, name: str, says: str) 
 
 
 @pytest.mark.parametrize(
-    ("name", "raw"), [("gear", 9), ("hyperbola", 0), ("square", -1), ("formula", -1)]
+    ("name", "raw"),
+    [
+        ("gear", 9),
+        ("hyperbola", 0),
+        ("square", -1),
+        ("formula", -1),
+        ("late_abs", 3),
+        ("holes", 1),
+    ],
 )
 def test_a_value_without_a_physical_one(module: object, name: str, raw: float) -> None:
     with pytest.raises(a2l2json.ConversionError):

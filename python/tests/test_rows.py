@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: MIT
 from __future__ import annotations
 
+import math
+
 import a2l2json
 import pytest
 
@@ -38,6 +40,27 @@ def test_a_kind_without_objects_has_no_rows() -> None:
     assert a2l2json.rows(a2l2json.loads(TEXT).document, "CHARACTERISTIC") == []
 
 
-def test_an_unknown_kind_is_an_error() -> None:
-    with pytest.raises(KeyError):
-        a2l2json.rows(a2l2json.loads(TEXT).document, "COLOUR")
+@pytest.mark.parametrize("kind", ["COLOUR", "NAME", "LONG_IDENTIFIER", ""])
+def test_an_unknown_kind_is_an_error(kind: str) -> None:
+    with pytest.raises(KeyError) as raised:
+        a2l2json.rows(a2l2json.loads(TEXT).document, kind)
+    assert raised.value.args == (kind,)
+
+
+def test_a_kind_that_a_module_does_not_have_has_no_rows() -> None:
+    assert a2l2json.rows(a2l2json.loads(TEXT).document, "MOD_PAR") == []
+
+
+def test_a_number_that_no_json_has_is_nan_in_a_list() -> None:
+    table = """/begin COMPU_TAB t "" TAB_NOINTP 3
+    1 10
+    1e999 20
+    4 30
+  /end COMPU_TAB
+/end MODULE
+/begin MODULE two"""
+    document = a2l2json.loads(TEXT.replace("/end MODULE\n/begin MODULE two", table)).document
+    (row,) = a2l2json.rows(document, "COMPU_TAB")
+    first, second, third = (float(number) for number in row["IN_VAL"].split(" "))
+    assert (first, third) == (1, 4)
+    assert math.isnan(second)

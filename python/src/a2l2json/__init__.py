@@ -10,7 +10,8 @@
 
 A file is mended before it is converted: it is read as the ASAP2 standard means it, whatever its
 layout, so that no value is lost. ``result.findings`` says what the file's layout would have cost.
-``mend=False`` gives the document of the program a2l2json, byte for byte.
+``mend=False`` gives the document of the program a2l2json, byte for byte; with an ``encoding``, it
+gives that of the same text in UTF-8.
 """
 
 from ._convert import A2LError, Diagnostic, Finding, Result, convert, load, loads, version

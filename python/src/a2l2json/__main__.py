@@ -33,6 +33,8 @@ def main(arguments: List[str]) -> int:
 
 
 def _say(text: bytes, code: int) -> int:
+    if sys.stdout is None:  # as with >&- or without a console
+        return code
     try:
         sys.stdout.buffer.write(text + b"\n")
         sys.stdout.buffer.flush()

@@ -20,8 +20,10 @@ if TYPE_CHECKING:
     from .document import Document
 
 PathLike = Union[str, "os.PathLike[str]"]
+BytesLike = Union[bytes, bytearray, memoryview]
 
 _MOST_OF_STRING_AT = 2**31 - 1  # it takes the size as an int of C
+_MOST_HELD_BACK = 64 * 1024  # far more than the document of a file without any A2L
 
 
 def version() -> str:
@@ -82,7 +84,7 @@ class A2LError(Exception):
 class Result:
     """What a conversion gave."""
 
-    json: bytes  #: the document as the program writes it: one line of JSON
+    json: bytes  #: one line of JSON, as the program writes it; UTF-8 with an encoding
     diagnostics: Tuple[Diagnostic, ...]  #: warnings, in the order of the file
     findings: Tuple[Finding, ...]  #: what the layout would have cost; none with mend=False
     mended: Optional[bytes]  #: the mended A2L text; None with mend=False
@@ -107,7 +109,8 @@ def load(path: PathLike, *, mend: bool = True, encoding: Optional[str] = None) -
 
     With `mend`, the files that it includes are read, too, from its folder and those below; their
     bytes are read as UTF-8 or cp1252, whatever `encoding` says.
-    Raises A2LError where the file cannot be read or converted.
+    Raises A2LError where the file cannot be read or converted, and ValueError where the path holds
+    a null byte.
     """
     if encoding is not None:
         try:
@@ -120,29 +123,49 @@ def load(path: PathLike, *, mend: bool = True, encoding: Optional[str] = None) -
     return _Call(mend=mend).file(path).result()
 
 
-def loads(text: Union[bytes, str], *, mend: bool = True, encoding: Optional[str] = None) -> Result:
-    """Converts A2L text. Raises A2LError where that cannot be done.
+def loads(
+    text: Union[BytesLike, str], *, mend: bool = True, encoding: Optional[str] = None
+) -> Result:
+    """Converts A2L text, or the bytes of it. Raises A2LError where that cannot be done.
 
     `encoding` is the encoding of bytes, by any name that Python knows. Without it, bytes that are
     valid UTF-8 are read as that, and all others as cp1252, each for itself: files often hold both.
+    With it, the document is UTF-8 even with ``mend=False``, which else keeps the bytes of the file.
     """
     if isinstance(text, str):
-        text = text.encode("utf-8", "surrogatepass")
-    elif encoding is not None:
-        text = _recode(text, encoding)
-    return _convert(text, mend)
+        return _convert(text.encode("utf-8", "surrogatepass"), mend)
+    if not isinstance(text, bytes):
+        try:
+            text = bytes(memoryview(text))
+        except TypeError as error:
+            kind = type(text).__name__
+            raise TypeError(f"loads() takes bytes or a str, not {kind}") from error
+    return _convert(text if encoding is None else _recode(text, encoding), mend)
 
 
 def convert(path_in: PathLike, path_out: PathLike) -> Tuple[Diagnostic, ...]:
     """Writes the document of one file to another, to the byte as the program a2l2json does.
 
     Gives the warnings. Raises A2LError where the file cannot be converted, and leaves what is at
-    `path_out` as it is; raises OSError where that cannot be written. The document is never in
-    memory as a whole.
+    `path_out` as it is; raises OSError where that cannot be written, and ValueError where a path
+    holds a null byte. A large document is never in memory as a whole.
     """
-    output = Output(path_out)
-    with output:
-        call = _Call(mend=False, write=output.write).file(path_in)
+    with Output(path_out) as output:
+        # Of a file without any A2L, the library gives a small document before it says so.
+        held = bytearray()
+
+        def write(text: memoryview) -> bool:
+            if not output.was_opened and len(held) + len(text) <= _MOST_HELD_BACK:
+                held.extend(text)
+                return True
+            return release() and output.write(text)
+
+        def release() -> bool:
+            return output.was_opened or output.write(memoryview(held))
+
+        call = _Call(mend=False, write=write).file(path_in)
+        if call.code == _library.OK:
+            release()
         if output.error is not None:
             raise output.error
         return call.result().diagnostics
@@ -190,6 +213,7 @@ class _Call:
         folder: str = "",
         write: Optional[Callable[[memoryview], bool]] = None,
     ) -> None:
+        self._pointer = ctypes.c_void_p()  # first of all, for it is freed even where this fails
         # It takes the document piece by piece: a large one is not in memory twice.
         document = self._document = io.BytesIO()
         raised: List[BaseException] = []
@@ -209,12 +233,11 @@ class _Call:
                 return 1
 
         self._options = _library.Options(
-            mend=int(mend),
+            mend=int(bool(mend)),
             name=_path(name) if name else None,
             folder=_path(folder) if folder else None,
             write=_library.Write(receive),
         )
-        self._pointer = ctypes.c_void_p()
         self.code = -1
 
     def __del__(self) -> None:
@@ -299,8 +322,11 @@ def _bytes(address: int, size: int) -> bytes:
 
 
 def _path(path: PathLike) -> bytes:
-    name = os.fspath(path)
-    return name.encode("utf-8", "surrogatepass") if os.name == "nt" else os.fsencode(name)
+    text = os.fspath(path)
+    name = text.encode("utf-8", "surrogatepass") if os.name == "nt" else os.fsencode(text)
+    if b"\0" in name:  # to C, the path would end there
+        raise ValueError("embedded null byte")
+    return name
 
 
 def _recode(text: bytes, encoding: str) -> bytes:

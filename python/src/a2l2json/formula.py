@@ -102,7 +102,11 @@ class Formula:
         if isinstance(node, ast.Call) and isinstance(node.func, ast.Name) and not node.keywords:
             function = _FUNCTIONS.get(node.func.id.lower())
             if function is not None:
-                return function(*(self._value(value, x1) for value in node.args))
+                values = [self._value(value, x1) for value in node.args]
+                try:
+                    return function(*values)
+                except TypeError as error:  # too many arguments or too few
+                    raise FormulaError(f"{ast.unparse(node)!r}: {error}") from error
         raise FormulaError(f"{ast.unparse(node)!r} in the formula {self._text!r} is not known")
 
 

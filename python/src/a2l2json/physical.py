@@ -84,11 +84,14 @@ def _rational(_: "Module", method: Mapping[str, Any]) -> Callable[[float], float
         if square == 0:
             if single == 0:
                 raise ConversionError(f"COMPU_METHOD {name} has no value for {raw}")
-            return -constant / single
-        root = single * single - 4 * square * constant
-        if root < 0:
+            return -constant / single + 0.0  # which makes 0 of -0
+        discriminant = single * single - 4 * square * constant
+        if discriminant < 0:
             raise ConversionError(f"COMPU_METHOD {name} has no value for {raw}")
-        return (-single + math.sqrt(root)) / (2 * square)
+        root = math.sqrt(discriminant)
+        if single > 0:  # the sum of these two would cancel out most of their digits
+            return 2 * constant / (-single - root) + 0.0
+        return (-single + root) / (2 * square) + 0.0
 
     return physical
 
@@ -166,7 +169,9 @@ def _words(
     table = _by_name(module, "FCOMPU_VTAB_RANGE", name)
     if table is None:
         raise ConversionError(f"there is no COMPU_VTAB or COMPU_VTAB_RANGE {name}")
-    ranges = [*zip(table["FIN_VAL_MIN"], table["FIN_VAL_MAX"], table["FOUT_VAL"])]
+    rows = zip(table["FIN_VAL_MIN"], table["FIN_VAL_MAX"], table["FOUT_VAL"])
+    # A limit that is infinite or no number is null in the document: which values it means is lost.
+    ranges = [row for row in rows if row[0] is not None and row[1] is not None]
 
     def find(raw: float) -> Optional[str]:
         return next((text for low, high, text in ranges if low <= raw <= high), None)

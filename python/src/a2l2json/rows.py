@@ -18,13 +18,14 @@ def rows(document: "Document", kind: str) -> List[Row]:
 
     The columns are the keys of the object without the leading F; the members of an object inside
     it become columns of their own (`SYMBOL_LINK.OFFSET`); texts and numbers in an array are joined
-    by a blank, and arrays of objects become the number of these. The first column, MODULE, is the
-    name of the module. All rows have the same columns. Raises KeyError for an unknown kind.
+    by a blank, and arrays of objects become the number of these. A number that is null in the
+    document is None, and nan among others in an array. The first column, MODULE, is the name of the
+    module. All rows have the same columns. Raises KeyError for an unknown kind.
     """
     made: List[Row] = [
         dict([("MODULE", module["FNAME"]), *_cells(one, "")])
         for module in document["FModules"]
-        for one in _objects(module["F" + kind])  # type: ignore[literal-required]
+        for one in _objects(module, kind)
     ]
     # An object that is missing in one row and present in another gives columns to both.
     columns = list(dict.fromkeys(column for row in made for column in row))
@@ -32,10 +33,15 @@ def rows(document: "Document", kind: str) -> List[Row]:
     return [{c: row.get(c) for c in columns if c not in parents} for row in made]
 
 
-def _objects(value: Any) -> List[Any]:
+def _objects(module: Any, kind: str) -> List[Any]:
+    value = module.get("F" + kind, "")
     if value is None:
         return []
-    return value if isinstance(value, list) else [value]
+    if isinstance(value, dict):
+        return [value]
+    if not isinstance(value, list):  # it is not there, or a member of the module itself, as NAME
+        raise KeyError(kind)
+    return value
 
 
 def _cells(one: Dict[str, Any], prefix: str) -> Iterator[Tuple[str, Any]]:
@@ -45,6 +51,11 @@ def _cells(one: Dict[str, Any], prefix: str) -> Iterator[Tuple[str, Any]]:
             yield from _cells(value, column + ".")
         elif isinstance(value, list):
             objects = any(isinstance(item, dict) for item in value)
-            yield column, len(value) if objects else " ".join(str(item) for item in value)
+            yield column, len(value) if objects else " ".join(map(_item, value))
         else:
             yield column, value
+
+
+def _item(value: Any) -> str:
+    # Every reader of numbers takes nan, and the others of the array keep their places.
+    return "nan" if value is None else str(value)
