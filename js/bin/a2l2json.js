@@ -32,8 +32,9 @@ function say(...parts) {
 function fill(run, file) {
   const status = fstatSync(file);
   const { size } = status;
-  if (!status.isFile()) {
-    const bytes = readFileSync(file); // a pipe tells its size at its end
+  if (!status.isFile() || size === 0) {
+    // A pipe tells its size at its end, and so do the files that the system makes up, as in /proc.
+    const bytes = readFileSync(file);
     run.allocate(bytes.length);
     return run.put(bytes, 0);
   }

@@ -82,12 +82,13 @@ export class Conversion {
 
 const OPTIONS = ["mend", "encoding", "name"];
 
-function checked(options) {
+function checked(options, input) {
   for (const name of Object.keys(options)) {
     if (!OPTIONS.includes(name)) throw new TypeError(`convert() has no option ${name}`);
   }
   const { mend = true, encoding, name = "" } = options;
-  if (encoding !== undefined) checkEncoding(encoding);
+  // A string is in no encoding, whatever is named.
+  if (encoding !== undefined) checkEncoding(encoding, { mend: mend || typeof input === "string" });
   return { mend: Boolean(mend), encoding, name: String(name) };
 }
 
@@ -109,10 +110,12 @@ function bytesOf(input) {
   );
 }
 
+// In hundredths of a GB, rounded apart: a size that is too large is larger than the limit as shown.
 function tooLarge(size, name) {
-  const gigabytes = (size / 1e9).toFixed(1);
+  const has = (Math.ceil(size / 1e7) / 100).toFixed(2);
+  const most = (Math.floor(MOST_BYTES / 1e7) / 100).toFixed(2);
   return new A2LError(
-    `${name || "The input"} has ${gigabytes} GB, and at most ${(MOST_BYTES / 1e9).toFixed(1)} GB can be ` +
+    `${name || "The input"} has ${has} GB, and at most ${most} GB can be ` +
       "converted here: the program a2l2json has no such limit.",
     { code: "too-large" },
   );
@@ -135,6 +138,13 @@ async function* piecesOf(input, name) {
   for (let piece = await next(); !piece.done; piece = await next()) yield piece.value;
 }
 
+// A string of JavaScript cannot hold all the text of a large file.
+const SLICE = 2 ** 23;
+
+function* slicesOf(bytes) {
+  for (let at = 0; at < bytes.length; at += SLICE) yield bytes.subarray(at, at + SLICE);
+}
+
 // Copies the input into the module, transcoded where it has to be.
 async function fill(run, input, encoding, name) {
   const size = isBlob(input) ? input.size : input.length;
@@ -149,7 +159,7 @@ async function fill(run, input, encoding, name) {
     return;
   }
   const bytes = isBlob(input) ? new Uint8Array(await read(input.arrayBuffer(), name)) : input;
-  const pieces = [...toUtf8(bytes, encoding)];
+  const pieces = [...toUtf8(slicesOf(bytes), encoding)];
   const total = pieces.reduce((sum, piece) => sum + piece.length, 0);
   if (total > MOST_BYTES) throw tooLarge(total, name);
   run.allocate(total);
@@ -184,7 +194,7 @@ function asA2LError(error, run) {
 
 export async function convert(input, options = {}) {
   const bytes = bytesOf(input);
-  const { mend, encoding, name } = checked(options);
+  const { mend, encoding, name } = checked(options, input);
   const pieces = [];
   const run = await Run.create(await module(), (piece) => pieces.push(piece.slice()));
   try {

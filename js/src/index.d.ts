@@ -3,8 +3,29 @@ import type { A2LDocument } from "./document.js";
 
 export type * from "./document.js";
 
+// What is asked of the objects of browsers and of Node: projects know one, the other, or both.
+
+/** A Blob or a File. */
+export interface Bytes {
+  readonly size: number;
+  readonly type: string;
+  arrayBuffer(): Promise<ArrayBuffer>;
+  slice(begin?: number, end?: number): Bytes;
+}
+
+/** What fetch() gives. */
+export interface Answer {
+  readonly ok: boolean;
+  readonly status: number;
+  readonly url: string;
+  arrayBuffer(): Promise<ArrayBuffer>;
+}
+
+/** The module as bytes, as what fetch() gives, or compiled, a WebAssembly.Module. */
+export type Module = ArrayBuffer | ArrayBufferView | Answer | object;
+
 /** A2L text: a string, or the bytes of a file. */
-export type Input = string | ArrayBuffer | ArrayBufferView | Blob;
+export type Input = string | ArrayBuffer | ArrayBufferView | Bytes;
 
 export interface Options {
   /**
@@ -15,7 +36,8 @@ export interface Options {
   mend?: boolean;
   /**
    * The encoding of the texts, by a name that TextDecoder knows. Without it, bytes that are valid
-   * UTF-8 are taken as that and all others as windows-1252.
+   * UTF-8 are taken as that and all others as windows-1252. Where `mend` is false, UTF-16,
+   * Shift-JIS, GBK, GB 18030, Big5 and ISO-2022-JP are refused.
    */
   encoding?: string;
   /** What to call the input in errors and findings, as in "engine.a2l". */
@@ -86,7 +108,8 @@ export class A2LError extends Error {
 
 /**
  * Converts A2L text. Rejects with an A2LError where that cannot be done, with a TypeError where
- * `input` or an option is none, and with a RangeError for an unknown encoding.
+ * `input` or an option is none, and with a RangeError for an encoding that is unknown, or cannot be
+ * read without mending.
  */
 export function convert(input: Input, options?: Options): Promise<Conversion>;
 
@@ -94,9 +117,7 @@ export function convert(input: Input, options?: Options): Promise<Conversion>;
  * Makes the module ready before it is needed, or takes it from somewhere else than beside this
  * package: from its bytes, from a response of fetch(), or compiled.
  */
-export function load(
-  wasm?: BufferSource | Response | WebAssembly.Module | Promise<BufferSource | Response>,
-): Promise<void>;
+export function load(wasm?: Module | Promise<Module>): Promise<void>;
 
 /** The version of the library, as in "1.0.0". */
 export function version(): Promise<string>;

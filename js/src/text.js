@@ -81,7 +81,26 @@ export function* toUtf8(pieces, encoding) {
   yield encoder.encode(decoder.decode());
 }
 
-/** Throws a RangeError where no encoding has that name. */
-export function checkEncoding(encoding) {
-  new TextDecoder(encoding);
+// Where the byte of a backslash may be a part of another character.
+const WITH_HIDDEN_BACKSLASHES = [
+  "big5",
+  "gb18030",
+  "gbk",
+  "iso-2022-jp",
+  "shift_jis",
+  "utf-16be",
+  "utf-16le",
+];
+
+/**
+ * Throws a RangeError where no encoding has that name, and where the module would take parts of its
+ * characters for marks of A2L: without mending, it reads the bytes of the file as they are.
+ */
+export function checkEncoding(encoding, { mend }) {
+  const name = new TextDecoder(encoding).encoding;
+  if (mend || !WITH_HIDDEN_BACKSLASHES.includes(name)) return;
+  throw new RangeError(
+    `Texts in ${encoding} can only be read with mending, because a backslash or a quotation mark ` +
+      "may be a part of another character there: leave out mend: false.",
+  );
 }

@@ -126,14 +126,17 @@ test("a file that is gone by now gets a sentence", async (t) => {
 });
 
 test("an input that is too large gets a sentence before it is read", async () => {
-  const large = new Blob([]);
-  Object.defineProperty(large, "size", { value: 2.5e9 });
-  for (const [name, called] of [["", "The input"], ["engine.a2l", "engine.a2l"]]) {
+  for (const [name, called, size, gigabytes] of [
+    ["", "The input", 2.5e9, "2.50"],
+    ["engine.a2l", "engine.a2l", 2 ** 31, "2.15"], // one byte too many is more than the limit
+  ]) {
+    const large = new Blob([]);
+    Object.defineProperty(large, "size", { value: size });
     const error = await failure(large, { name });
     assert.equal(error.code, "too-large");
     assert.equal(
       error.message,
-      `${called} has 2.5 GB, and at most 2.1 GB can be converted here: ` +
+      `${called} has ${gigabytes} GB, and at most 2.14 GB can be converted here: ` +
         "the program a2l2json has no such limit.",
     );
   }
@@ -164,6 +167,79 @@ test("texts are in the encoding that is named", async () => {
   assert.ok(Buffer.from(result.document).includes(Buffer.from([0xcf, 0xce])), "the bytes stay");
 });
 
+// A text, an encoding, and the text's bytes in it, in hexadecimal digits.
+const ENCODED = [
+  ["für 5 €", "windows-1252", "66fc72203520 80"],
+  ["Обороты", "windows-1251", "cee1eef0eef2fb"],
+  ["表示能力", "shift_jis", "955c 8ea6 945c 97cd"], // two of them end in the byte of a backslash
+  ["발동기", "euc-kr", "b9df b5bf b1e2"],
+  ["Drehzahl 車 🚗", "utf-16le", "4400720065006800 7a00610068006c00 2000ca8e 20003dd897de"],
+];
+
+// A project whose description has those bytes, after a word that gives a warning.
+function encodedProject(encoding, hex) {
+  const text = Buffer.from(hex.replaceAll(" ", ""), "hex");
+  const plain = (ascii) => Buffer.from(ascii, encoding === "utf-16le" ? "utf16le" : "latin1");
+  const [begin, end] = project("\0").toString("latin1").split("\0");
+  return Buffer.concat([text, plain(`\n${begin}`), text, plain(end)]);
+}
+
+test("with mending, the input is in the encoding that is named, and the document in UTF-8", async () => {
+  for (const [text, encoding, hex] of ENCODED) {
+    const bytes = encodedProject(encoding, hex);
+    for (const input of [bytes, new Uint8Array(bytes).buffer, new Blob([bytes])]) {
+      const result = await convert(input, { encoding });
+      assert.equal(result.json().FProject_LONG_IDENTIFIER, text, encoding);
+      assert.ok(Buffer.from(result.document).includes(Buffer.from(text)), encoding);
+      assert.ok(Buffer.from(result.mended).includes(Buffer.from(text)), encoding);
+      const [word] = text.split(" ");
+      assert.equal(result.diagnostics[0].text, `unexpected element ${word}`, encoding);
+    }
+  }
+});
+
+test("what came before an error is in the encoding that is named", async () => {
+  const bytes = Buffer.from('\xCF\xCE\n/begin PROJECT P ""\n/begin X\n/end MODULE\n', "latin1");
+  for (const mend of [true, false]) {
+    const error = await failure(bytes, { mend, encoding: "koi8-r" });
+    assert.equal(error.code, "not-converted");
+    assert.equal(error.diagnostics[0].text, "unexpected element он");
+  }
+});
+
+test("a text of many pieces is in the encoding that is named", async () => {
+  const bytes = Buffer.concat([
+    Buffer.from('/begin PROJECT P "x'), // an odd number, so that edges part characters
+    Buffer.alloc(12e6, "8ed4", "hex"),
+    Buffer.from('"\n/end PROJECT\n'),
+  ]);
+  const result = await convert(bytes, { encoding: "shift_jis" });
+  assert.ok(result.json().FProject_LONG_IDENTIFIER === `x${"車".repeat(6e6)}`);
+});
+
+test("without mending, an encoding is one that hides no marks of A2L", async () => {
+  for (const [text, encoding, hex] of ENCODED) {
+    const bytes = encodedProject(encoding, hex);
+    const converting = convert(bytes, { mend: false, encoding });
+    if (encoding === "shift_jis" || encoding === "utf-16le") {
+      await assert.rejects(converting, {
+        name: "RangeError",
+        message:
+          `Texts in ${encoding} can only be read with mending, because a backslash or a quotation ` +
+          "mark may be a part of another character there: leave out mend: false.",
+      });
+    } else {
+      const result = await converting;
+      assert.equal(result.json().FProject_LONG_IDENTIFIER, text);
+      assert.match(result.diagnostics[0].text, /^unexpected element [^ ]+$/);
+      assert.ok(result.diagnostics[0].text.endsWith(text.split(" ")[0]));
+    }
+  }
+  // A string is in no encoding.
+  const result = await convert(project("x").toString(), { mend: false, encoding: "utf-16le" });
+  assert.equal(result.json().FProject_LONG_IDENTIFIER, "x");
+});
+
 test("what is no input or no option is refused", async () => {
   await assert.rejects(convert(5), TypeError);
   await assert.rejects(convert(undefined), TypeError);
@@ -187,6 +263,7 @@ test("the module can come from elsewhere", async () => {
   const sources = [
     wasm,
     Promise.resolve(wasm),
+    WebAssembly.compile(wasm),
     new WebAssembly.Module(wasm),
     new Response(wasm, { headers: { "Content-Type": "application/wasm" } }),
   ];

@@ -74,6 +74,16 @@ test("it reads from a pipe", onUnix, (t) => {
   assert.ok(demoDocument.equals(readFileSync(output)));
 });
 
+const ofNoSize = "/proc/version";
+
+test("it reads a file of the system to its end", { skip: !existsSync(ofNoSize) }, (t) => {
+  const folder = temporaryFolder(t);
+  writeFileSync(path.join(folder, "copy"), readFileSync(ofNoSize));
+  const copied = run(["copy", "out"], { cwd: folder });
+  assert.match(copied.out, /unexpected element/);
+  assert.deepEqual(run([ofNoSize, "out"], { cwd: folder }), copied);
+});
+
 test("it does its work without a standard output, and on a full disk", onUnix, (t) => {
   const output = path.join(temporaryFolder(t), "out.json");
   const full = existsSync("/dev/full");

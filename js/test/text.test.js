@@ -2,7 +2,7 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
 
-import { decode, toUtf8 } from "../src/text.js";
+import { checkEncoding, decode, toUtf8 } from "../src/text.js";
 
 // Bytes of latin1, and the text that they are.
 const rows = [
@@ -40,6 +40,33 @@ test("pieces are put together over their edges", () => {
     const pieces = toUtf8([bytes.subarray(0, edge), bytes.subarray(edge)], "utf-16le");
     assert.equal(Buffer.concat([...pieces]).toString(), "grün 車");
   }
+});
+
+// Every encoding that engines of JavaScript have, by its own name.
+const ENCODINGS = [
+  ...[2, 3, 4, 5, 6, 7, 8, 10, 13, 14, 15].map((part) => `iso-8859-${part}`),
+  ...[0, 1, 2, 3, 4, 5, 6, 7, 8].map((last) => `windows-125${last}`),
+  ...["utf-8", "ibm866", "iso-8859-8-i", "koi8-r", "koi8-u", "macintosh", "windows-874"],
+  ...["x-mac-cyrillic", "gbk", "gb18030", "big5", "euc-jp", "iso-2022-jp", "shift_jis", "euc-kr"],
+  ...["utf-16be", "utf-16le"],
+];
+
+test("without mending, no encoding is taken that hides a backslash or a quotation mark", () => {
+  // Whether a mark stays what it is, whatever stands before it.
+  const stays = (encoding, mark) => {
+    const befores = [Buffer.from([0x1b, 0x24, 0x42]), Buffer.from([0x81, 0x30])];
+    for (let byte = 0; byte < 256; ++byte) befores.push(Buffer.from([byte]));
+    return befores.every((before) =>
+      decode(Buffer.concat([before, Buffer.from(mark)]), encoding).endsWith(mark),
+    );
+  };
+  for (const encoding of ENCODINGS) {
+    checkEncoding(encoding, { mend: true });
+    const check = () => checkEncoding(encoding, { mend: false });
+    if (stays(encoding, "\\") && stays(encoding, '"')) check();
+    else assert.throws(check, { name: "RangeError" }, encoding);
+  }
+  assert.throws(() => checkEncoding("SJIS", { mend: false }), { message: /^Texts in SJIS can only / });
 });
 
 test("a text that no string can hold is refused in a sentence", () => {

@@ -18,7 +18,18 @@ test("the types of the document are those of the schema", () => {
   assert.equal(status, 0, text);
 });
 
-test("the types serve a program, and refuse a wrong one", () => {
-  const { status, text } = node("node_modules/typescript/bin/tsc", "-p", "test/types");
+for (const [where, project] of [
+  ["for a page", "test/types"],
+  ["for Node", "test/types/tsconfig.node.json"],
+]) {
+  test(`the types serve a program ${where}, and refuse a wrong one`, () => {
+    const { status, text } = node("node_modules/typescript/bin/tsc", "-p", project);
+    assert.equal(status, 0, text);
+  });
+}
+
+test("the types need no others", () => {
+  const project = "test/types/tsconfig.alone.json";
+  const { status, text } = node("node_modules/typescript/bin/tsc", "-p", project);
   assert.equal(status, 0, text);
 });

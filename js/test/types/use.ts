@@ -18,6 +18,10 @@ export async function names(bytes: Uint8Array): Promise<string[]> {
 
 export async function failures(text: string, blob: Blob): Promise<readonly Diagnostic[]> {
   await load(fetch("a2l2json.wasm"));
+  await load(WebAssembly.compileStreaming(fetch("a2l2json.wasm")));
+  await load(new WebAssembly.Module(new Uint8Array()));
+  // @ts-expect-error: a path is no module
+  load("a2l2json.wasm");
   // @ts-expect-error: a number is no input
   convert(5);
   // @ts-expect-error: there is no such option

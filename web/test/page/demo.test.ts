@@ -242,7 +242,7 @@ describe.skipIf(executable === undefined)("the page", () => {
     expect(await page.getByRole("heading").allInnerTexts()).toEqual(["a2l2json", "letter.txt"]);
     const large = file("large.a2l", "");
     truncateSync(large, 2.2e9);
-    await says(large, "large.a2l has 2.2 GB, and at most 2.1 GB can be converted here");
+    await says(large, "large.a2l has 2.20 GB, and at most 2.14 GB can be converted here");
     await says(
       file("wrong.a2l", '/begin PROJECT P ""\n/begin MODULE M ""\nUNIT_CONVERSION 1 2\n'),
       "wrong.a2l, line 3: unexpected property of element UNIT_CONVERSION",
