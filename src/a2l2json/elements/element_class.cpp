@@ -72,8 +72,9 @@ bool ReadUnsignedInto(const Parameter& parameter, VoA2LElement& element, TreeSto
 
 bool ReadSignedInto(const Parameter& parameter, VoA2LElement& element, TreeStore& /*store*/,
                     TokenReader& tokens) {
-  if (parameter.count > 1)
+  if (parameter.count > 1) {
     return ReadNumbers(parameter.place.signedNumbers->change(element), tokens);
+  }
   return Take(ReadSigned(tokens.Next()), element.*parameter.place.signedNumber);
 }
 
@@ -115,7 +116,6 @@ bool DeclaredElement::ParseParameters(std::string_view& text) {
 }
 
 bool DeclaredElement::ParseMoreParameters(std::string_view& text) {
-  if (!Declared().HasRows()) return VoA2LElement::ParseMoreParameters(text);
   TokenReader tokens(text);
   const bool ok = TakeMoreParameters(Store(), tokens);
   text = tokens.Rest();
