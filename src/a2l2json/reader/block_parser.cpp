@@ -23,21 +23,21 @@ bool KeepsRawText(ElementKind kind) { return detail::DeclarationOf(kind)->KeepsR
 }  // namespace
 
 bool BlockParser::Run() {
-  while (true) {
-    std::string_view line;
-    LineSource::Slashes slashes;
-    if (!remainder_.empty()) {
-      line = std::exchange(remainder_, {});
-      slashes = remainderSlashes_;
-    } else {
-      if (!ReadPhysicalLine(line)) return !lines_.Failed();
-      slashes = lines_.SlashesOfLine();
-      if (slashes.first != kNone && !RemoveComments(line, slashes)) {
-        return !lines_.Failed() && Fail(DiagnosticKind::UnterminatedComment);
-      }
+  for (std::string_view line; ReadPhysicalLine(line);) {
+    LineSource::Slashes slashes = lines_.SlashesOfLine();
+    if (slashes.first == kNone) {
+      if (!HandlePlain(line)) return false;
+      continue;
+    }
+    if (!RemoveComments(line, slashes)) {
+      return !lines_.Failed() && Fail(DiagnosticKind::UnterminatedComment);
     }
     if (!HandleLine(line, slashes)) return false;
+    while (!remainder_.empty()) {
+      if (!HandleLine(std::exchange(remainder_, {}), remainderSlashes_)) return false;
+    }
   }
+  return !lines_.Failed();
 }
 
 bool BlockParser::RemoveComments(std::string_view& line, LineSource::Slashes& slashes) {
@@ -66,13 +66,12 @@ BlockParser::MarkerPlace BlockParser::FindMarker(std::string_view line,
 }
 
 bool BlockParser::HandleLine(std::string_view line, LineSource::Slashes slashes) {
-  // A marker left over from the line before stands in front of this one.
   MarkerPlace place;
   if (state_ == State::PendingBegin || state_ == State::PendingEnd) {
+    // The marker left over from the line before stands in front of this one.
     place.marker = state_ == State::PendingBegin ? Marker::Begin : Marker::End;
     state_ = State::Idle;
   } else {
-    if (slashes.first == kNone) return HandlePlain(line);
     place = FindMarker(line, slashes);
     if (place.marker == Marker::None) return HandlePlain(line);
     slashes.first = place.position < slashes.last ? line.find('/', place.end) : kNone;
@@ -154,10 +153,14 @@ bool BlockParser::HandlePlain(std::string_view line) {
     case State::CollectMoreParams:
       collected_.Append(' ', line);
       return !finder_.Find(collected_.View(), needed_) || CompleteCollection();
+    case State::PendingBegin:
+      state_ = State::Idle;
+      return HandleBegin(line, line);
+    case State::PendingEnd:
+      state_ = State::Idle;
+      return HandleEnd(line, line);
     case State::CollectOpen:
     case State::Idle:
-    case State::PendingBegin:
-    case State::PendingEnd:
       break;
   }
   std::string_view text = line;
