@@ -13,101 +13,6 @@
 #include "a2l2json/text/tokenizer.h"
 
 namespace a2l::detail {
-namespace {
-
-template <class Number>
-bool Take(Converted<Number> read, Number& field) {
-  field = read.value;
-  return read.ok;
-}
-
-// Whether a token is right for a parameter that is not kept.
-bool Check(const Parameter& parameter, std::string_view token) {
-  switch (parameter.type) {
-    case ParameterType::Unsigned:
-    case ParameterType::Signed:
-    case ParameterType::Unsigned64:
-      return ReadUnsigned(token).ok;
-    case ParameterType::Real:
-      return ReadReal(token).ok;
-    case ParameterType::Word:
-      return !parameter.isRequired || parameter.words->Find(token) != nullptr;
-    case ParameterType::Identifier:
-    case ParameterType::Text:
-    case ParameterType::UnquotedText:
-    case ParameterType::NamedValue:
-    case ParameterType::RawText:
-      return true;
-  }
-  return true;
-}
-
-// Several numbers; wrong at the first that is wrong.
-bool ReadNumbers(std::span<std::int32_t> numbers, TokenReader& tokens) {
-  return std::ranges::all_of(
-      numbers, [&tokens](std::int32_t& number) { return Take(ReadSigned(tokens.Next()), number); });
-}
-
-// Takes a parameter off the front of the text and stores it; false if it is wrong. There is one
-// function per type, because a small one costs less than a large one for everything: it is called
-// for every parameter of a file.
-using Reader = bool (*)(const Parameter&, VoA2LElement&, TreeStore&, TokenReader&);
-
-bool ReadIdentifierInto(const Parameter& parameter, VoA2LElement& element, TreeStore& store,
-                        TokenReader& tokens) {
-  element.*parameter.place.text = ReadIdentifier(store, tokens);
-  return true;
-}
-
-bool ReadTextInto(const Parameter& parameter, VoA2LElement& element, TreeStore& store,
-                  TokenReader& tokens) {
-  element.*parameter.place.text = ReadText(store, tokens);
-  return true;
-}
-
-bool ReadUnsignedInto(const Parameter& parameter, VoA2LElement& element, TreeStore& /*store*/,
-                      TokenReader& tokens) {
-  return Take(ReadUnsigned(tokens.Next()), element.*parameter.place.number);
-}
-
-bool ReadSignedInto(const Parameter& parameter, VoA2LElement& element, TreeStore& /*store*/,
-                    TokenReader& tokens) {
-  if (parameter.count > 1) {
-    return ReadNumbers(parameter.place.signedNumbers->change(element), tokens);
-  }
-  return Take(ReadSigned(tokens.Next()), element.*parameter.place.signedNumber);
-}
-
-bool ReadUnsigned64Into(const Parameter& parameter, VoA2LElement& element, TreeStore& /*store*/,
-                        TokenReader& tokens) {
-  return Take(ReadUnsigned64(tokens.Next()), element.*parameter.place.number64);
-}
-
-bool ReadRealInto(const Parameter& parameter, VoA2LElement& element, TreeStore& /*store*/,
-                  TokenReader& tokens) {
-  return Take(ReadReal(tokens.Next()), element.*parameter.place.real);
-}
-
-bool ReadWordInto(const Parameter& parameter, VoA2LElement& element, TreeStore& /*store*/,
-                  TokenReader& tokens) {
-  const Word* const word = parameter.words->Find(tokens.Next());
-  parameter.place.word->set(element, word != nullptr ? word->code : parameter.words->fallback);
-  return word != nullptr || !parameter.isRequired;
-}
-
-bool ReadRawTextInto(const Parameter& parameter, VoA2LElement& element, TreeStore& store,
-                     TokenReader& tokens) {
-  element.*parameter.place.text = store.Copy(tokens.Rest());
-  return true;
-}
-
-// In the order of the types. A name with its value is always in a list.
-constexpr Reader kReaders[] = {
-    ReadIdentifierInto, ReadTextInto, ReadTextInto, ReadUnsignedInto, ReadSignedInto,
-    ReadUnsigned64Into, ReadRealInto, ReadWordInto, nullptr,          ReadRawTextInto};
-
-}  // namespace
-
 bool DeclaredElement::ParseParameters(std::string_view& text) {
   TokenReader tokens(text);
   const bool ok = TakeParameters(Store(), tokens);
@@ -119,22 +24,6 @@ bool DeclaredElement::ParseMoreParameters(std::string_view& text) {
   TokenReader tokens(text);
   const bool ok = TakeMoreParameters(Store(), tokens);
   text = tokens.Rest();
-  return ok;
-}
-
-bool DeclaredElement::TakeParameters(TreeStore& store, TokenReader& tokens) {
-  const Declaration& declaration = Declared();
-  bool ok = true;
-  for (const Parameter& parameter : declaration.parameters) {
-    const bool right = parameter.isList      ? ReadList(parameter, store, tokens)
-                       : parameter.isDropped ? Check(parameter, tokens.Next())
-                                             : kReaders[static_cast<std::size_t>(parameter.type)](
-                                                   parameter, *this, store, tokens);
-    if (right) continue;
-    ok = false;
-    if (declaration.onBadNumber == OnBadNumber::Stop) return false;
-  }
-  if (!ok) valid = 0;
   return ok;
 }
 

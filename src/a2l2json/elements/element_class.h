@@ -24,9 +24,11 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "a2l2json/elements/declarations.h"
 #include "a2l2json/elements/parameters.h"
+#include "a2l2json/elements/take_parameter.h"
 #include "a2l2json/model/element.h"
 
 namespace a2l::detail {
@@ -36,7 +38,6 @@ class DeclaredElement : public VoA2LElement {
  public:
   bool ParseParameters(std::string_view& text) override;
   bool ParseMoreParameters(std::string_view& text) override;
-  bool TakeParameters(TreeStore& store, TokenReader& tokens) override;
   bool TakeMoreParameters(TreeStore& store, TokenReader& tokens) override;
   bool AddChild(VoA2LElement* child) override;
   [[nodiscard]] std::int32_t MoreParameterCount() const override;
@@ -59,11 +60,13 @@ class DeclaredElement : public VoA2LElement {
   [[nodiscard]] int LevelsToChildren() const override { return 1; }
   [[nodiscard]] bool WritesChildren() const override { return Declared().writesChildren; }
 
+  /// Stores all tokens that are left as the items of a list; false at one that is wrong.
+  bool ReadList(const Parameter& parameter, TreeStore& store, TokenReader& tokens);
+
  private:
   template <class Item, class ReadItem>
   bool ReadList(const Parameter& parameter, List<Item>& list, TreeStore& store, TokenReader& tokens,
                 ReadItem readItem);
-  bool ReadList(const Parameter& parameter, TreeStore& store, TokenReader& tokens);
   bool ReadNamedValues(const Parameter& parameter, TreeStore& store, TokenReader& tokens);
   bool ReadCell(const Parameter& column, TreeStore& store, TokenReader& tokens);
   void WriteItems(int level, std::ostream& out) const;
@@ -132,6 +135,23 @@ class ElementClass : public DeclaredElement, protected ParameterWords<Class> {
   static constexpr OnBadNumber onBadNumber = OnBadNumber::Stop;
   static constexpr std::uint32_t revision = kRevision160;
   static constexpr ElementKind writtenAs = KIND_ROOT;
+
+  bool TakeParameters(TreeStore& store, TokenReader& tokens) override {
+    constexpr bool kGoesOn = Class::onBadNumber == OnBadNumber::MarkAndGoOn;
+    bool ok = true;
+    const auto take = [&](const Parameter& parameter) __attribute__((always_inline)) {
+      ok = (parameter.isList ? this->ReadList(parameter, store, tokens)
+                             : TakeValue(parameter, *this, store, tokens)) &&
+           ok;
+      return ok || kGoesOn;
+    };
+    [&]<std::size_t... kIndexes>(std::index_sequence<kIndexes...>) __attribute__((always_inline)) {
+      static_cast<void>((take(kParameters<Class>[kIndexes]) && ...));
+    }
+    (std::make_index_sequence<kParameters<Class>.size()>());
+    if (!ok && kGoesOn) this->valid = 0;
+    return ok;
+  }
 
  protected:
   explicit ElementClass(ElementKind elementKind)

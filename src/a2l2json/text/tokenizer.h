@@ -15,6 +15,8 @@
 #include <string>
 #include <string_view>
 
+#include "a2l2json/names_begin.h"
+
 namespace a2l {
 
 /// True for the bytes that Trim removes: blank, tab, line feed and carriage return.
@@ -128,3 +130,5 @@ inline TokenReader TokenFinder::Tokens(std::string_view text) const {
 }
 
 }  // namespace a2l
+
+#include "a2l2json/names_end.h"
