@@ -46,8 +46,9 @@ test: build ## build everything, run all tests, and say what was skipped and why
 	@code=0; ctest --preset release || code=$$?; \
 	  python3 tests/skipped.py build/release/tests.xml; exit $$code
 
-# A minute or two, and 2 GB in memory-backed storage.
+# A few minutes, and 2 GB in memory-backed storage.
 bench: deps ## measure how fast it is here, as one table of speeds, memory and ratios
+	JOBS=$(JOBS) scripts/profile
 	cmake --preset bench
 	cmake --build --preset bench -j $(JOBS)
 	python3 bench/run.py --bench build/bench/a2l2json_bench --program build/bench/a2l2json \

@@ -71,6 +71,29 @@ if(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT DEFINED CMAKE_INTERPROCEDURAL_OPT
   endif()
 endif()
 
+# GCC can compile by records of how often each branch was taken when the programs ran over typical
+# files: it then knows what to inline and where to put it. scripts/profile makes the records. What
+# has none, or has changed since they were made, is compiled as usual.
+option(A2L2JSON_RECORD_PROFILE "Build programs that make such records when they run" OFF)
+set(A2L2JSON_PROFILE
+    ""
+    CACHE PATH "Compile by the records in this folder, if it is there")
+
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT CMAKE_CROSSCOMPILING)
+  # The records do not depend on the build folder.
+  set(profile -fprofile-prefix-path=${PROJECT_BINARY_DIR})
+  if(A2L2JSON_RECORD_PROFILE)
+    list(APPEND profile -fprofile-generate=${PROJECT_BINARY_DIR}/records)
+  elseif(A2L2JSON_PROFILE AND EXISTS "${A2L2JSON_PROFILE}")
+    list(APPEND profile -fprofile-use=${A2L2JSON_PROFILE} -fprofile-partial-training
+         -Wno-missing-profile -Wno-coverage-mismatch)
+  else()
+    set(profile)
+  endif()
+  add_compile_options(${profile})
+  add_link_options(${profile})
+endif()
+
 # GCC can write objects that serve both kinds of linking; those of Clang 14 serve only one.
 set(A2L2JSON_TWO_KINDS_OF_OBJECTS OFF)
 if(CMAKE_BUILD_TYPE STREQUAL "Release"
