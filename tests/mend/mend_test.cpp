@@ -316,6 +316,17 @@ TEST(MendRaw, TakesACommentAwayThatTheConverterEndsSooner) {
                  "    /begin IF_DATA X\n 1 /*\n/ b */ 2\n    /end IF_DATA\n", "");
 }
 
+// To the converter, the quote begins a text: what looks like a comment is none there, and is one at
+// the beginning of a line.
+TEST(MendRaw, TellsOfAQuoteInANameIfItHidesWhatFollows) {
+  ExpectInModule("    /begin IF_DATA X\"b // c\n    /end IF_DATA\n",
+                 "    /begin IF_DATA X\"b\n // c\n    /end IF_DATA\n", "otherwise@3:20");
+  ExpectInModule("    /begin IF_DATA X\"b \"c // d\n    /end IF_DATA\n",
+                 "    /begin IF_DATA X\"b\n \"c // d\n    /end IF_DATA\n", "otherwise@3:20");
+  ExpectInModule("    /begin IF_DATA X\"b 1 / 2\n    /end IF_DATA\n",
+                 "    /begin IF_DATA X\"b\n 1 / 2\n    /end IF_DATA\n", "");
+}
+
 TEST(MendRaw, TellsOfUnknownBlocks) {
   ExpectInModule("    /begin COLOUR red\n    /end COLOUR\n",
                  "    /begin COLOUR\n red\n    /end COLOUR\n", "unknown-block@3:12");

@@ -39,12 +39,27 @@ bool IsBlank(std::string_view text) { return std::ranges::all_of(text, &IsWhite)
 
 }  // namespace
 
-Word RawText::CopyToEnd() {
+Word RawText::CopyToEnd(const Word& name) {
+  // To the converter, a quote in the name begins a text, which hides a comment on the line and ends
+  // at the next quote. In the mended text, a line ends behind the name.
+  if (name.hasQuote && QuoteOrCommentFollows() && !reporter_.HasReported(name)) {
+    reporter_.Report(FindingAt(MendRule::Otherwise, name));
+  }
   SkipToContent();
   const std::size_t start = out_.BeginRaw();
   SkipToEnd();
   out_.EndRaw(start);
   return lexer_.Next();
+}
+
+bool RawText::QuoteOrCommentFollows() const {
+  Source ahead = lexer_.Top();
+  for (ahead.MoveTo<'"', '/', '\n'>(); !ahead.AtEnd(); ahead.MoveTo<'"', '/', '\n'>()) {
+    const char c = ahead.text[ahead.position];
+    if (c != '/' || ahead.HasComment()) return c != '\n';
+    ++ahead.position;
+  }
+  return false;
 }
 
 // Behind the name: what follows on its line, or else the first line that is not blank, with its

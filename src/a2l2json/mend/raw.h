@@ -25,11 +25,12 @@ class RawText {
         reporter_(reporter) {}
 
   /// Copies what follows, up to the /end that closes the block, and gives that; or the end of the
-  /// input.
-  Word CopyToEnd();
+  /// input. Behind `name`, that of an IF_DATA if there is one.
+  Word CopyToEnd(const Word& name);
 
  private:
   void SkipToContent();
+  [[nodiscard]] bool QuoteOrCommentFollows() const;
   void SkipToEnd();
   [[nodiscard]] bool CommentFollows();
   void CloseInner();

@@ -314,8 +314,9 @@ void Walk::EndMarker(const Word& marker) {
 // The name of an IF_DATA stands on the line of its /begin, everything else below it.
 void Walk::CopyRaw() {
   Element& element = frames_.back().element;
+  Word name;
   if (element.declaration->parameters.size() > 1) {
-    const Word name = lexer_.Next();
+    name = lexer_.Next();
     if (name.type == WordType::Plain || name.type == WordType::Text) {
       comparison_.InterfaceName(name, element);
       Check(name, element.declaration->parameters.front());
@@ -327,7 +328,7 @@ void Walk::CopyRaw() {
       lexer_.Return(name);
     }
   }
-  const Word marker = RawText(element.keyword, lexer_, out_, reporter_).CopyToEnd();
+  const Word marker = RawText(element.keyword, lexer_, out_, reporter_).CopyToEnd(name);
   out_.SetPlace(marker.file, marker.line);
   if (marker.type == WordType::End) return EndMarker(marker);
   returned_ = marker;
