@@ -14,10 +14,10 @@ class Reporter {
   explicit Reporter(const MendOptions& options) : options_(options) {}
 
   void Report(const Finding& finding) {
-    const MendOutcome outcome = RowOf(finding.rule).outcome;
-    ++counts_[static_cast<std::size_t>(outcome)];
-    isBroken_ |= outcome != MendOutcome::Lost && !IsAboutAValue(finding.rule);
-    if (outcome != MendOutcome::Unmendable || EndsTheRead(finding.rule)) {
+    const MendRuleRow& row = RowOf(finding.rule);
+    ++counts_[static_cast<std::size_t>(row.outcome)];
+    isBroken_ |= row.outcome != MendOutcome::Lost && row.concern != MendConcern::Value;
+    if (row.outcome != MendOutcome::Unmendable || row.concern == MendConcern::ReadEnds) {
       line_ = finding.line;
       file_ = finding.file;
     }
@@ -38,20 +38,6 @@ class Reporter {
   }
 
  private:
-  static bool EndsTheRead(MendRule rule) {
-    return rule == MendRule::Refused || rule == MendRule::BeginMissing ||
-           rule == MendRule::BeginRefused || rule == MendRule::EndUnmatched ||
-           rule == MendRule::IncludeMissing || rule == MendRule::CommentWithoutEnd;
-  }
-
-  static bool IsAboutAValue(MendRule rule) {
-    return rule == MendRule::NumberRange || rule == MendRule::NotANumber ||
-           rule == MendRule::NumberRest || rule == MendRule::Octal ||
-           rule == MendRule::UnknownValue || rule == MendRule::TextWithoutQuotes ||
-           rule == MendRule::EmptyFormat || rule == MendRule::NameCut ||
-           rule == MendRule::NameComma;
-  }
-
   const MendOptions& options_;
   std::array<std::size_t, 3> counts_{};
   bool isBroken_ = false;

@@ -71,6 +71,13 @@ enum class MendOutcome : std::uint8_t {
   Unmendable  ///< no layout can help; the mended text has them as they are
 };
 
+/// How far a finding reaches.
+enum class MendConcern : std::uint8_t {
+  Words,    ///< words and their places: the words beside them may be read in another way
+  Value,    ///< one value, which stands where it should
+  ReadEnds  ///< the converter may read nothing behind it
+};
+
 struct MendRuleRow {
   MendRule rule;
   /// As it stands in brackets behind a finding.
@@ -81,6 +88,7 @@ struct MendRuleRow {
   std::string_view text;
   /// The rule in a sentence, for those who have not met it yet.
   std::string_view meaning;
+  MendConcern concern = MendConcern::Words;
 };
 
 /// All rules, in the order of their numbers.
