@@ -71,27 +71,34 @@ if(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT DEFINED CMAKE_INTERPROCEDURAL_OPT
   endif()
 endif()
 
-# GCC can compile by records of how often each branch was taken when the programs ran over typical
-# files: it then knows what to inline and where to put it. scripts/profile makes the records. What
-# has none, or has changed since they were made, is compiled as usual.
+# GCC can compile by records of how often each branch was taken when the programs ran over a typical
+# file: it then knows what to inline and where to put it. scripts/profile makes the records, which
+# serve any build folder of the same source folder. A function that has changed since, or of which
+# there are none, is compiled without them.
 option(A2L2JSON_RECORD_PROFILE "Build programs that make such records when they run" OFF)
 set(A2L2JSON_PROFILE
     ""
-    CACHE PATH "Compile by the records in this folder, if it is there")
+    CACHE PATH "Compile by the records in this folder, if there are any")
 
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT CMAKE_CROSSCOMPILING)
-  # The records do not depend on the build folder.
-  set(profile -fprofile-prefix-path=${PROJECT_BINARY_DIR})
-  if(A2L2JSON_RECORD_PROFILE)
-    list(APPEND profile -fprofile-generate=${PROJECT_BINARY_DIR}/records)
-  elseif(A2L2JSON_PROFILE AND EXISTS "${A2L2JSON_PROFILE}")
-    list(APPEND profile -fprofile-use=${A2L2JSON_PROFILE} -fprofile-partial-training
-         -Wno-missing-profile -Wno-coverage-mismatch)
-  else()
-    set(profile)
+  set(records)
+  if(A2L2JSON_PROFILE)
+    cmake_path(ABSOLUTE_PATH A2L2JSON_PROFILE BASE_DIRECTORY "${PROJECT_SOURCE_DIR}" NORMALIZE)
+    file(GLOB records "${A2L2JSON_PROFILE}/*.gcda")
   endif()
-  add_compile_options(${profile})
-  add_link_options(${profile})
+  set(profile)
+  if(A2L2JSON_RECORD_PROFILE)
+    set(profile -fprofile-generate=${PROJECT_BINARY_DIR}/records)
+  elseif(records)
+    # Without the correction, records of older sources would end the build.
+    set(profile -fprofile-use=${A2L2JSON_PROFILE} -fprofile-partial-training -fprofile-correction
+                -Wno-missing-profile -Wno-coverage-mismatch)
+  endif()
+  if(profile)
+    list(APPEND profile -fprofile-prefix-path=${PROJECT_BINARY_DIR})
+    add_compile_options(${profile})
+    add_link_options(${profile})
+  endif()
 endif()
 
 # GCC can write objects that serve both kinds of linking; those of Clang 14 serve only one.

@@ -137,7 +137,9 @@ tar -xzf "$archive" -C "$work/static" --strip-components=1
 cp "$work"/static/bin/a2l{2json,mend} "$work/empty"
 try_program "$work/empty" /a2l2json
 try_mender "$work/empty" /a2lmend
-say "so do the programs of $archive, in an otherwise empty system"
+# Packages are compiled in another way than what all tests run.
+tests/run_cases.py "$work/static/bin/a2l2json" || die "$archive converts golden cases wrongly"
+say "so do the programs of $archive, in an otherwise empty system, and all golden cases"
 
 cmake -S examples/consumer -B "$work/consumer" -DCMAKE_PREFIX_PATH="$root/usr" \
   -DCMAKE_FIND_USE_CMAKE_SYSTEM_PATH=OFF >"$work/consumer.log"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// How a parameter is taken off the front of parameter text. Most of a file is parameters, so this
-// is compiled anew for each parameter of each element class: its type and its field are constants
-// there, and little is left of what follows.
+// How a parameter that is no list is taken off the front of parameter text. Most of a file is such
+// parameters, so this is compiled anew for every one of them: in its element class, its type and
+// its field are constants, and little is left of what follows.
 #pragma once
 
 #include <algorithm>
@@ -25,7 +25,7 @@ bool StoreNumber(Converted<Number> read, Number& field) {
 }
 
 /// Whether a token is right for a parameter that is not kept.
-inline bool IsRight(const Parameter& parameter, std::string_view token) {
+inline bool IsRightWhenDropped(const Parameter& parameter, std::string_view token) {
   switch (parameter.type) {
     case ParameterType::Unsigned:
     case ParameterType::Signed:
@@ -48,7 +48,7 @@ inline bool IsRight(const Parameter& parameter, std::string_view token) {
 /// Stores the next token as the parameter, which is no list; false if it is wrong.
 [[gnu::always_inline]] inline bool TakeValue(const Parameter& parameter, VoA2LElement& element,
                                              TreeStore& store, TokenReader& tokens) {
-  if (parameter.isDropped) return IsRight(parameter, tokens.Next());
+  if (parameter.isDropped) return IsRightWhenDropped(parameter, tokens.Next());
   const FieldPlace& place = parameter.place;
   switch (parameter.type) {
     case ParameterType::Identifier:
