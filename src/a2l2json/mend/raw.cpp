@@ -35,6 +35,16 @@ bool IsInWord(const Source& source) {
   return !IsWhite(before) && before != '"' && before != '/';
 }
 
+// To the next comment, or what looks like one, or the end of the line, or another such byte.
+template <char... kOthers>
+void MoveToComment(Source& source) {
+  for (source.MoveTo<kOthers..., '/', '\n'>(); !source.AtEnd();
+       source.MoveTo<kOthers..., '/', '\n'>()) {
+    if (source.text[source.position] != '/' || source.HasComment()) return;
+    ++source.position;
+  }
+}
+
 bool IsBlank(std::string_view text) { return std::ranges::all_of(text, &IsWhite); }
 
 }  // namespace
@@ -42,24 +52,18 @@ bool IsBlank(std::string_view text) { return std::ranges::all_of(text, &IsWhite)
 Word RawText::CopyToEnd(const Word& name) {
   // To the converter, a quote in the name begins a text, which hides a comment on the line and ends
   // at the next quote. In the mended text, a line ends behind the name.
-  if (name.hasQuote && QuoteOrCommentFollows() && !reporter_.HasReported(name)) {
-    reporter_.Report(FindingAt(MendRule::Otherwise, name));
+  if (name.hasQuote && !reporter_.HasReported(name)) {
+    Source ahead = lexer_.Top();
+    MoveToComment<'"'>(ahead);
+    if (!ahead.AtEnd() && ahead.text[ahead.position] != '\n') {
+      reporter_.Report(FindingAt(MendRule::Otherwise, name));
+    }
   }
   SkipToContent();
   const std::size_t start = out_.BeginRaw();
   SkipToEnd();
   out_.EndRaw(start);
   return lexer_.Next();
-}
-
-bool RawText::QuoteOrCommentFollows() const {
-  Source ahead = lexer_.Top();
-  for (ahead.MoveTo<'"', '/', '\n'>(); !ahead.AtEnd(); ahead.MoveTo<'"', '/', '\n'>()) {
-    const char c = ahead.text[ahead.position];
-    if (c != '/' || ahead.HasComment()) return c != '\n';
-    ++ahead.position;
-  }
-  return false;
 }
 
 // Behind the name: what follows on its line, or else the first line that is not blank, with its
@@ -118,10 +122,7 @@ bool RawText::CommentFollows() {
   const char* const begin = source.text.data() + source.position;
   if (std::less<>()(begin, searchedFrom_) || std::less<>()(searchedTo_, begin)) {
     Source ahead = source;
-    for (ahead.MoveTo<'/', '\n'>(); !ahead.AtEnd(); ahead.MoveTo<'/', '\n'>()) {
-      if (ahead.text[ahead.position] == '\n' || ahead.HasComment()) break;
-      ++ahead.position;
-    }
+    MoveToComment(ahead);
     searchedFrom_ = begin;
     searchedTo_ = ahead.text.data() + ahead.position;
     commentFollows_ = !ahead.AtEnd() && ahead.HasComment();

@@ -30,7 +30,6 @@ class RawText {
 
  private:
   void SkipToContent();
-  [[nodiscard]] bool QuoteOrCommentFollows() const;
   void SkipToEnd();
   [[nodiscard]] bool CommentFollows();
   void CloseInner();
