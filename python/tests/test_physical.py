@@ -8,7 +8,40 @@ import math
 import a2l2json
 import pytest
 
-MODULE = """ASAP2_VERSION 1 71
+# The coefficients a to f: raw = (a x^2 + b x + c) / (d x^2 + e x + f).
+RATIONALS = {
+    "ratio": "0 4 0 0 0 1",
+    "hyperbola": "0 0 100 0 1 0",
+    "square": "1 0 0 0 0 1",
+    "tenth": "0 1 0 0 0 10",
+    "minus": "0 -1 0 0 0 1",
+    "nearly_line": "1e-12 1 0 0 0 1",
+    "nearly_falling": "-1e-12 1 0 0 0 1",
+    "parabola": "1 3 2 0 0 1",
+    "parabola_left": "1 -3 2 0 0 1",
+    "downwards": "-1 3 -2 0 0 1",
+    "downwards_left": "-1 -3 -2 0 0 1",
+}
+
+# Formulas from raw to physical values.
+FORMULAS = {
+    "abs_of_two": "abs(X1, 2)",
+    "pow_of_one": "pow(X1)",
+    "late_abs": "1 / (X1 - 1) + abs(X1, 2)",
+    "formula": "sqrt(X1) + 2^3",
+    "attack": "__import__('os').system('true')",
+}
+
+METHODS = "".join(
+    f'/begin COMPU_METHOD {name} "" RAT_FUNC "%4.2" ""\n COEFFS {numbers}\n/end COMPU_METHOD\n'
+    for name, numbers in RATIONALS.items()
+) + "".join(
+    f'/begin COMPU_METHOD {name} "" FORM "%4.2" ""\n'
+    f'/begin FORMULA "{formula}"\n/end FORMULA\n/end COMPU_METHOD\n'
+    for name, formula in FORMULAS.items()
+)
+
+MODULE = f"""ASAP2_VERSION 1 71
 /begin PROJECT p ""
 /begin MODULE m ""
   /begin COMPU_METHOD same "" IDENTICAL "%4.0" "V"
@@ -16,63 +49,10 @@ MODULE = """ASAP2_VERSION 1 71
   /begin COMPU_METHOD line "" LINEAR "%4.2" "deg C"
     COEFFS_LINEAR 0.5 -40
   /end COMPU_METHOD
-  /begin COMPU_METHOD ratio "" RAT_FUNC "%4.2" "1/min"
-    COEFFS 0 4 0 0 0 1
-  /end COMPU_METHOD
-  /begin COMPU_METHOD hyperbola "" RAT_FUNC "%4.2" "s"
-    COEFFS 0 0 100 0 1 0
-  /end COMPU_METHOD
-  /begin COMPU_METHOD square "" RAT_FUNC "%4.2" "m"
-    COEFFS 1 0 0 0 0 1
-  /end COMPU_METHOD
-  /begin COMPU_METHOD tenth "" RAT_FUNC "%4.2" "m"
-    COEFFS 0 1 0 0 0 10
-  /end COMPU_METHOD
-  /begin COMPU_METHOD minus "" RAT_FUNC "%4.2" "m"
-    COEFFS 0 -1 0 0 0 1
-  /end COMPU_METHOD
-  /begin COMPU_METHOD nearly_line "" RAT_FUNC "%4.2" "m"
-    COEFFS 1e-12 1 0 0 0 1
-  /end COMPU_METHOD
-  /begin COMPU_METHOD nearly_falling "" RAT_FUNC "%4.2" "m"
-    COEFFS -1e-12 1 0 0 0 1
-  /end COMPU_METHOD
-  /begin COMPU_METHOD parabola "" RAT_FUNC "%4.2" "m"
-    COEFFS 1 3 2 0 0 1
-  /end COMPU_METHOD
-  /begin COMPU_METHOD parabola_left "" RAT_FUNC "%4.2" "m"
-    COEFFS 1 -3 2 0 0 1
-  /end COMPU_METHOD
-  /begin COMPU_METHOD downwards "" RAT_FUNC "%4.2" "m"
-    COEFFS -1 3 -2 0 0 1
-  /end COMPU_METHOD
-  /begin COMPU_METHOD downwards_left "" RAT_FUNC "%4.2" "m"
-    COEFFS -1 -3 -2 0 0 1
-  /end COMPU_METHOD
-  /begin COMPU_METHOD abs_of_two "" FORM "%4.2" ""
-    /begin FORMULA "abs(X1, 2)"
-    /end FORMULA
-  /end COMPU_METHOD
-  /begin COMPU_METHOD pow_of_one "" FORM "%4.2" ""
-    /begin FORMULA "pow(X1)"
-    /end FORMULA
-  /end COMPU_METHOD
-  /begin COMPU_METHOD late_abs "" FORM "%4.2" ""
-    /begin FORMULA "1 / (X1 - 1) + abs(X1, 2)"
-    /end FORMULA
-  /end COMPU_METHOD
   /begin COMPU_METHOD holes "" TAB_VERB "%4.2" ""
     COMPU_TAB_REF holes_table
   /end COMPU_METHOD
-  /begin COMPU_METHOD formula "" FORM "%4.2" "K"
-    /begin FORMULA "sqrt(X1) + 2^3"
-    /end FORMULA
-  /end COMPU_METHOD
-  /begin COMPU_METHOD attack "" FORM "%4.2" ""
-    /begin FORMULA "__import__('os').system('true')"
-    /end FORMULA
-  /end COMPU_METHOD
-  /begin COMPU_METHOD curve "" TAB_INTP "%4.2" "bar"
+{METHODS}  /begin COMPU_METHOD curve "" TAB_INTP "%4.2" "bar"
     COMPU_TAB_REF curve_table
   /end COMPU_METHOD
   /begin COMPU_METHOD steps "" TAB_NOINTP "%4.2" "bar"
